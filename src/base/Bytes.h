@@ -1,0 +1,23 @@
+#pragma once
+
+#include <cstdint>
+
+// Little-endian numbers in byte blocks. The caller answers for the bytes being there.
+
+inline uint16_t LoadLE16(const uint8_t* bytes) {
+    return static_cast<uint16_t>(bytes[0] | (bytes[1] << 8));
+}
+
+inline uint32_t LoadLE32(const uint8_t* bytes) {
+    return LoadLE16(bytes) | (static_cast<uint32_t>(LoadLE16(bytes + 2)) << 16);
+}
+
+inline void StoreLE16(uint8_t* bytes, uint16_t value) {
+    bytes[0] = static_cast<uint8_t>(value);
+    bytes[1] = static_cast<uint8_t>(value >> 8);
+}
+
+inline void StoreLE32(uint8_t* bytes, uint32_t value) {
+    StoreLE16(bytes, static_cast<uint16_t>(value));
+    StoreLE16(bytes + 2, static_cast<uint16_t>(value >> 16));
+}

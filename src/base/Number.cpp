@@ -1,0 +1,59 @@
+#include "base/Number.h"
+
+#include <charconv>
+#include <cmath>
+
+#include "base/Text.h"
+
+int64_t RoundHalfEven(double value) {
+    if (std::isnan(value)) return 0;
+    // 2^63 as a double; the type's own largest value isn't one.
+    constexpr double kEnd = 9223372036854775808.0;
+    if (value >= kEnd) return std::numeric_limits<int64_t>::max();
+    if (value <= -kEnd) return std::numeric_limits<int64_t>::min();
+    const double below = std::floor(value);
+    const double rest = value - below;
+    const auto whole = static_cast<int64_t>(below);
+    if (rest > 0.5 || (rest == 0.5 && whole % 2 != 0)) return whole + 1;
+    return whole;
+}
+
+std::optional<int64_t> ParseInteger(std::string_view text, int64_t low, int64_t high) {
+    text = Trim(text);
+    if (text.size() > 1 && text[0] == '+' && text[1] != '-') text.remove_prefix(1);
+    int64_t value = 0;
+    const char* end = text.data() + text.size();
+    const auto result = std::from_chars(text.data(), end, value);
+    if (result.ec != std::errc{} || result.ptr != end || value < low || value > high) {
+        return std::nullopt;
+    }
+    return value;
+}
+
+void AppendInteger(std::string& out, int64_t value, int digits) {
+    char buffer[24];
+    const auto magnitude = value < 0 ? 0 - static_cast<uint64_t>(value) : static_cast<uint64_t>(value);
+    const auto result = std::to_chars(buffer, buffer + sizeof buffer, magnitude);
+    const auto length = static_cast<int>(result.ptr - buffer);
+    if (value < 0) out += '-';
+    if (digits > length) out.append(static_cast<size_t>(digits - length), '0');
+    out.append(buffer, result.ptr);
+}
+
+std::string FormatInteger(int64_t value, int digits) {
+    std::string out;
+    AppendInteger(out, value, digits);
+    return out;
+}
+
+std::string FormatPlain(double value, int decimals) {
+    char buffer[400];
+    const auto result =
+        std::to_chars(buffer, buffer + sizeof buffer, value, std::chars_format::fixed, decimals);
+    std::string out(buffer, result.ptr);
+    if (out.find('.') != std::string::npos) {
+        while (out.back() == '0') out.pop_back();
+        if (out.back() == '.') out.pop_back();
+    }
+    return out;
+}

@@ -1,0 +1,31 @@
+#include "base/Text.h"
+
+#include <algorithm>
+
+char ToLower(char character) {
+    const auto code = static_cast<unsigned char>(character);
+    const bool ascii = code >= 'A' && code <= 'Z';
+    const bool latin = code >= 0xC0 && code <= 0xDE && code != 0xD7;
+    if (ascii || latin) return static_cast<char>(code + 0x20);
+    // The letters that Windows-1252 has between 0x80 and 0x9F.
+    if (code == 0x8A || code == 0x8C || code == 0x8E) return static_cast<char>(code + 0x10);
+    if (code == 0x9F) return static_cast<char>(0xFF);
+    return character;
+}
+
+std::string ToLower(std::string_view text) {
+    std::string out(text);
+    std::transform(out.begin(), out.end(), out.begin(), [](char c) { return ToLower(c); });
+    return out;
+}
+
+bool EqualNoCase(std::string_view a, std::string_view b) {
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                      [](char x, char y) { return ToLower(x) == ToLower(y); });
+}
+
+std::string_view Trim(std::string_view text) {
+    const auto first = text.find_first_not_of(" \t");
+    if (first == std::string_view::npos) return {};
+    return text.substr(first, text.find_last_not_of(" \t") - first + 1);
+}

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+// Text is 8-bit Windows-1252, one byte a character.
+
+char ToLower(char character);
+std::string ToLower(std::string_view text);
+bool EqualNoCase(std::string_view a, std::string_view b);
+
+// Without blanks and tabs at both ends.
+std::string_view Trim(std::string_view text);

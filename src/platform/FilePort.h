@@ -1,0 +1,17 @@
+#pragma once
+
+#include <string>
+
+// Whole files. Operations give false, and change nothing, when the system refuses.
+class FilePort {
+  public:
+    virtual ~FilePort() = default;
+
+    virtual bool Exists(const std::string& path) = 0;
+    // Overwrites `to`.
+    virtual bool Copy(const std::string& from, const std::string& to) = 0;
+    // Puts `from` in the place of `to` in one step: whoever looks, at any moment and after any
+    // crash, finds the old file or the new one.
+    virtual bool Replace(const std::string& from, const std::string& to) = 0;
+    virtual bool Delete(const std::string& path) = 0;
+};

@@ -1,0 +1,32 @@
+#include "toolkit/Control.h"
+
+#include "toolkit/Container.h"
+#include "toolkit/UiBackend.h"
+
+Control::Control(Container* parent) : parent_(parent) {
+    if (parent_) parent_->Attach(*this);
+}
+
+Control::~Control() {
+    if (parent_) parent_->Detach(*this);
+}
+
+void Control::Move(int32_t left, int32_t top, int32_t width, int32_t height) {
+    Left = left;
+    Top = top;
+    Width = width;
+    Height = height;
+}
+
+void Control::Realize(UiBackend& ui) {
+    if (!peer_) peer_ = ui.MakePeer(*this);
+}
+
+void Control::NotifyChanged() {
+    if (Width != lastWidth_ || Height != lastHeight_) {
+        lastWidth_ = Width;
+        lastHeight_ = Height;
+        Resized();
+    }
+    if (peer_) peer_->Follow();
+}

@@ -1,0 +1,63 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+#include "toolkit/Peer.h"
+#include "toolkit/Property.h"
+
+class Container;
+class ControlVisitor;
+class UiBackend;
+
+// Colours are 0xBBGGRR.
+using Color = int32_t;
+
+// Twips to the pixel, fixed.
+inline constexpr int32_t kTwipsPerPixel = 15;
+
+// What every control has. A control is a plain object that works without a screen; when its form is
+// realized on a back end, a peer shows it.
+class Control {
+  public:
+    // The parent must outlive the control.
+    explicit Control(Container* parent);
+    Control(const Control&) = delete;
+    Control& operator=(const Control&) = delete;
+    virtual ~Control();
+
+    // Twips, relative to the parent.
+    Property<int32_t, Control> Left{*this, 0};
+    Property<int32_t, Control> Top{*this, 0};
+    Property<int32_t, Control> Width{*this, 0};
+    Property<int32_t, Control> Height{*this, 0};
+    Property<bool, Control> Visible{*this, true};
+    Property<bool, Control> Enabled{*this, true};
+    Property<std::string, Control> ToolTip{*this, {}};
+
+    void Move(int32_t left, int32_t top, int32_t width, int32_t height);
+
+    Container* Parent() const { return parent_; }
+    Peer* GetPeer() const { return peer_.get(); }
+
+    virtual void Accept(ControlVisitor& visitor) = 0;
+
+    // Makes the peers that this control and what it holds don't have yet.
+    virtual void Realize(UiBackend& ui);
+
+    // For Property: something has changed.
+    void NotifyChanged();
+
+  protected:
+    // Width or Height has changed.
+    virtual void Resized() {}
+
+  private:
+    friend class Container;
+
+    Container* parent_;
+    std::unique_ptr<Peer> peer_;
+    int32_t lastWidth_ = 0;
+    int32_t lastHeight_ = 0;
+};

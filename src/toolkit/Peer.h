@@ -1,0 +1,11 @@
+#pragma once
+
+// The native counterpart of a control. It belongs to the control and ends with it.
+class Peer {
+  public:
+    virtual ~Peer() = default;
+
+    // Takes over what has changed in the control. What the native control echoes back while it
+    // follows must not reach the control again.
+    virtual void Follow() = 0;
+};
