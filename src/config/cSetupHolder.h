@@ -1,0 +1,54 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "platform/FilePort.h"
+#include "platform/IniService.h"
+#include "platform/RegistryPort.h"
+
+// The options that don't depend on a profile: section "GeneralSetup" of Orvo.ini in the program's
+// folder, and the entry that starts the program at logon.
+class cSetupHolder {
+  public:
+    cSetupHolder(IniService& ini, FilePort& files, RegistryPort& registry,
+                 std::string programFolder);
+
+    bool AutoStart = false;
+    bool AutoQuit = false;           // quit when the simulator goes away
+    bool ManualProfile = false;      // ask for a profile when a new aircraft is reported
+    bool LoadWithoutPanels = false;  // go on at start with no panels
+    int32_t OrvoPriority = 0;        // priority class of the program
+    int32_t DeckhubPriority = 0;     // priority class of the panels' readers
+    int32_t OrvoAffinity = 0;        // processor mask, -1 for automatic
+    int32_t DeckhubAffinity = 0;
+    int32_t ClickThreshold = 0;  // milliseconds from which a press counts as a long click
+    uint8_t EngineStarterMode = 0;
+    // Window positions in twips; 0, 0 for none saved.
+    int32_t SetupFormTop = 0, SetupFormLeft = 0;
+    int32_t GetKeysFormTop = 0, GetKeysFormLeft = 0;
+    int32_t ProfilesFormTop = 0, ProfilesFormLeft = 0;
+    int32_t AircraftFormTop = 0, AircraftFormLeft = 0;
+    int32_t ProfileNameFormTop = 0, ProfileNameFormLeft = 0;
+    int32_t ProfileImportFormTop = 0, ProfileImportFormLeft = 0;
+    int32_t GeneralSetupFormTop = 0, GeneralSetupFormLeft = 0;
+    int32_t MainFormTop = 0, MainFormLeft = 0;
+    bool Splash = false;  // run each panel's start-up show
+
+    void LoadDefaults();
+
+    // Defaults, then what the file says. A value that is no number in its field's range leaves the
+    // default; unknown keys are passed over.
+    void LoadSetup();
+
+    // All keys or, when the file can't be written, none. The logon entry follows AutoStart.
+    void SaveSetup();
+
+  private:
+    void SaveAutoStart();
+
+    IniService& ini_;
+    FilePort& files_;
+    RegistryPort& registry_;
+    std::string programFolder_;
+};
