@@ -1,0 +1,26 @@
+#include "simlink/ButtonPress.h"
+
+namespace {
+
+constexpr uint32_t kTimerButtonMs = 15;
+
+}  // namespace
+
+ButtonPress::ButtonPress(Clock& clock, MessageLoop& loop, const int32_t& clickThreshold)
+    : clock_(clock), clickThreshold_(clickThreshold), timerButton_(loop, kTimerButtonMs) {
+    timerButton_.Tick.Connect([this] { Tick(); });
+}
+
+void ButtonPress::Down(int32_t mask) {
+    downTick_ = clock_.GetTickCount();
+    downMask_ = mask;
+    timerButton_.SetEnabled(true);
+}
+
+bool ButtonPress::Up() { return Held() < clickThreshold_; }
+
+void ButtonPress::Tick() {
+    if (Held() <= clickThreshold_) return;
+    LongClick.Raise(downMask_);
+    timerButton_.SetEnabled(false);
+}

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <cstdint>
+
+#include "base/Event.h"
+#include "platform/Clock.h"
+#include "toolkit/Timer.h"
+
+// Tells short presses of a panel's buttons from long ones. All buttons of a panel share one: a press
+// of a second button while the first is held restarts the time and takes its place.
+class ButtonPress {
+  public:
+    // `clickThreshold` (milliseconds) is read at each use.
+    ButtonPress(Clock& clock, MessageLoop& loop, const int32_t& clickThreshold);
+
+    void Down(int32_t mask);
+    // True when the press was a short one, that is a click.
+    bool Up();
+    // No long click comes of the present press any more.
+    void Cancel() { timerButton_.SetEnabled(false); }
+
+    // The button that was pressed last has been held for longer than the threshold. May come after
+    // the release, of a press that ended at the threshold before the timer's next tick.
+    Event<int32_t> LongClick;
+
+  private:
+    void Tick();
+    int64_t Held() const { return static_cast<uint32_t>(clock_.GetTickCount() - downTick_); }
+
+    Clock& clock_;
+    const int32_t& clickThreshold_;
+    uint32_t downTick_ = 0;
+    int32_t downMask_ = 0;
+    Timer timerButton_;
+};

@@ -1,0 +1,75 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "simlink/cOFFSET.h"
+
+// The offsets that every tick reads, by name, shared by all panels. Names compare without regard to
+// case; the order is that of registering. Entries stay until they are unregistered.
+class cOffsetTable {
+  public:
+    explicit cOffsetTable(modFSUIPC& fsuipc) : fsuipc_(fsuipc) {}
+
+    // A name that is there already stays as it is, whatever is asked for now.
+    void RegisterOffset(int32_t offset, int32_t dataType, std::string_view name,
+                        std::optional<int32_t> lenght = std::nullopt);
+    void UnregisterOffset(std::string_view name);
+    bool OffsetRegistered(std::string_view name) const { return Item(name) != nullptr; }
+
+    // nullptr if the name isn't there. Valid until an entry is unregistered.
+    cOFFSET* Item(std::string_view name) const;
+
+    bool Empty() const { return entries_.empty(); }
+
+    // Queues a read of every entry. Those that don't fit into the batch keep their old value.
+    void QueueReads();
+
+    // Changes whenever an entry is added or removed.
+    uint32_t Shape() const { return shape_; }
+
+  private:
+    struct Entry {
+        std::string name;
+        cOFFSET offset;
+    };
+
+    modFSUIPC& fsuipc_;
+    std::vector<std::unique_ptr<Entry>> entries_;
+    uint32_t shape_ = 1;
+};
+
+// An entry of the table by its name, looked up again only when the table's shape has changed.
+class NamedOffset {
+  public:
+    // `name` must outlive the object.
+    NamedOffset(const cOffsetTable& table, const char* name) : table_(table), name_(name) {}
+
+    // The entry's value, 0 while there is no such entry.
+    double Data() const {
+        const cOFFSET* offset = Find();
+        return offset ? offset->Data() : 0.0;
+    }
+    std::string_view Text() const {
+        const cOFFSET* offset = Find();
+        return offset ? offset->Text() : std::string_view{};
+    }
+
+  private:
+    const cOFFSET* Find() const {
+        if (shape_ != table_.Shape()) {
+            offset_ = table_.Item(name_);
+            shape_ = table_.Shape();
+        }
+        return offset_;
+    }
+
+    const cOffsetTable& table_;
+    const char* name_;
+    mutable const cOFFSET* offset_ = nullptr;
+    mutable uint32_t shape_ = 0;
+};

@@ -1,0 +1,64 @@
+#include "simlink/cPanelDevice.h"
+
+namespace {
+
+constexpr int32_t kReadWaitMs = 1500;
+constexpr int32_t kPictureWidth = 10905;
+constexpr int32_t kPictureHeight = 2865;
+
+}  // namespace
+
+cPanelDevice::cPanelDevice(Container& parent, const DeviceServices& services, PanelKind kind)
+    : Picture(&parent), services_(services), kind_(kind) {
+    Move(0, 0, kPictureWidth, kPictureHeight);
+    cmdSetup.Caption = "Setup";
+    cmdSetup.ToolTip = "Click to open the setup form for this panel";
+    cmdSetup.Move(9780, 2460, 1005, 330);
+    cmdSetup.Click.Connect([this] { SetupRequest.Raise(); });
+}
+
+cPanelDevice::~cPanelDevice() { End(); }
+
+bool cPanelDevice::Connect(const std::string& DevicePathName) {
+    link_ = services_.deckhub.CreateLink();
+    link_->RawInput.Connect([this](uint8_t byte0, uint8_t byte1, uint8_t byte2, uint8_t byte3) {
+        TakeReport(byte0, byte1, byte2, byte3);
+    });
+    if (kind_ == PanelKind::Switch || kind_ == PanelKind::BIP) {
+        link_->Priority = services_.generalSetup.DeckhubPriority;
+        link_->Affinity = services_.generalSetup.DeckhubAffinity;
+    }
+    link_->ReadWait = kReadWaitMs;
+    link_->DeviceAddress = DevicePathName;
+    link_->StartReading();
+    deviceHandle_ = services_.hid.Open(DevicePathName);
+    Connected();
+    return true;
+}
+
+void cPanelDevice::TakeReport(uint8_t byte0, uint8_t byte1, uint8_t byte2, uint8_t byte3) {
+    const uint32_t clock = services_.clock.GetTickCount();
+    RawInput.Raise(byte0, byte1, byte2, byte3);
+    HandleReport(StateWord(byte1, byte2, byte3), clock);
+}
+
+void cPanelDevice::End() {
+    if (ended_) return;
+    ended_ = true;
+    if (link_) {
+        TurnOff();
+        services_.loop.RunPending();
+        link_->StopReading();
+        services_.loop.RunPending();
+        link_.reset();
+    }
+    services_.loop.RunPending();
+    services_.hid.Close(deviceHandle_);
+    deviceHandle_ = 0;
+    services_.loop.RunPending();
+}
+
+void cPanelDevice::Resized() {
+    Width = kPictureWidth;
+    Height = kPictureHeight;
+}

@@ -1,0 +1,78 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+#include "base/Event.h"
+#include "config/cSetupHolder.h"
+#include "platform/Clock.h"
+#include "platform/Deckhub.h"
+#include "platform/HidPort.h"
+#include "platform/MessageLoop.h"
+#include "simlink/PanelIdentity.h"
+#include "toolkit/CommandButton.h"
+#include "toolkit/Picture.h"
+
+// What the device objects work with.
+struct DeviceServices {
+    Clock& clock;
+    MessageLoop& loop;
+    HidPort& hid;
+    Deckhub& deckhub;
+    const cSetupHolder& generalSetup;
+};
+
+// What the device objects of all panels have in common: the link that brings the panel's reports,
+// the device file that takes its lights and displays, and the picture on the main window's page. It
+// knows bytes and nothing of the simulator. By itself it serves a panel whose controls do nothing.
+class cPanelDevice : public Picture {
+  public:
+    cPanelDevice(Container& parent, const DeviceServices& services, PanelKind kind);
+    ~cPanelDevice() override;
+
+    // Starts the link, then opens the device. Always true: a panel that can't be opened shows
+    // nothing and brings no reports.
+    bool Connect(const std::string& DevicePathName);
+
+    // The start-up show. Lets pending messages run.
+    virtual void Splash() {}
+    // Reports the positions of the selectors as if they had just been moved.
+    virtual void GetPositions() {}
+    // Darkens displays and lights.
+    virtual void TurnOff() {}
+
+    Event<uint8_t, uint8_t, uint8_t, uint8_t> RawInput;  // every report, before anything else
+    Event<> SetupRequest;                                // cmdSetup was pressed
+
+    CommandButton cmdSetup{this};
+
+  protected:
+    // A report has come: the 24 bits of the panel's state, and the clock of its coming.
+    virtual void HandleReport(int32_t /*state*/, uint32_t /*clock*/) {}
+    // The device has just been opened.
+    virtual void Connected() {}
+
+    // Turns the output off, stops the link and closes the device; only the first call does anything.
+    // Lets pending messages run, so a final class calls it in its destructor, while it is whole.
+    void End();
+
+    uintptr_t DeviceHandle() const { return deviceHandle_; }
+    const DeviceServices& Services() const { return services_; }
+
+    static int32_t StateWord(uint8_t byte1, uint8_t byte2, uint8_t byte3) {
+        return (byte1 << 16) | (byte2 << 8) | byte3;
+    }
+
+    // The picture can't be stretched.
+    void Resized() override;
+
+  private:
+    void TakeReport(uint8_t byte0, uint8_t byte1, uint8_t byte2, uint8_t byte3);
+
+    const DeviceServices services_;
+    const PanelKind kind_;
+    std::unique_ptr<PanelLink> link_;
+    uintptr_t deviceHandle_ = 0;
+    bool ended_ = false;
+};

@@ -1,0 +1,227 @@
+#include "simlink/modFSUIPC.h"
+
+#include <cstring>
+
+#include "base/Bytes.h"
+
+namespace {
+
+constexpr uint32_t kBlockSize = 32768;
+constexpr int64_t kLargestBatch = 32512;  // records and the word that ends them
+constexpr uint32_t kReadHeader = 16;
+constexpr uint32_t kWriteHeader = 12;
+constexpr uint32_t kEndWord = 4;
+constexpr uint16_t kReadRecord = 1;
+constexpr uint16_t kWriteRecord = 2;
+
+constexpr uint32_t kMessageFlags = 1;  // blocks the thread: no message is handled meanwhile
+constexpr uint32_t kMessageTimeoutMs = 2000;
+constexpr int kRepeats = 10;
+constexpr uint32_t kRepeatPauseMs = 60;
+
+constexpr int kVersionPasses = 5;
+constexpr uint32_t kVersionPauseMs = 60;
+constexpr int32_t kLowestVersion = 0x19980005;
+constexpr uint32_t kCheckPattern = 0xFADE;
+constexpr uint32_t kErrorAlreadyExists = 183;
+
+const std::string kChannelName = "FSASMLIB:IPC";
+
+std::string UpperHex(uint32_t value) {
+    std::string out;
+    do {
+        out.insert(out.begin(), "0123456789ABCDEF"[value % 16]);
+        value /= 16;
+    } while (value != 0);
+    return out;
+}
+
+}  // namespace
+
+modFSUIPC::modFSUIPC(IpcChannel& channel, Clock& clock) : channel_(channel), clock_(clock) {
+    records_.reserve(kLargestBatch / kWriteHeader);
+}
+
+void modFSUIPC::FSUIPC_Initialize() {
+    window_ = 0;
+    message_ = 0;
+    atom_ = 0;
+    mapping_ = 0;
+    view_ = nullptr;
+    next_ = 0;
+    records_.clear();
+}
+
+bool modFSUIPC::FSUIPC_Open(uint32_t requestedSimulator, int32_t& result) {
+    if (view_) {
+        result = kFsuipcAlreadyOpen;
+        return false;
+    }
+    FSUIPC_Version = 0;
+    FSUIPC_FS_Version = 0;
+    bool secondClass = false;
+    if (!OpenChannel(result, secondClass) || !ReadVersions(result)) {
+        FSUIPC_Close();
+        return false;
+    }
+    if (FSUIPC_Version < kLowestVersion || FSUIPC_FS_Version >> 16 != kCheckPattern) {
+        result = secondClass ? kFsuipcWrongVersionFs98 : kFsuipcWrongVersionUipc;
+        FSUIPC_Close();
+        return false;
+    }
+    FSUIPC_FS_Version &= 0xFFFF;
+    if (requestedSimulator != 0 && requestedSimulator != FSUIPC_FS_Version) {
+        result = kFsuipcWrongSimulator;
+        FSUIPC_Close();
+        return false;
+    }
+    result = kFsuipcOk;
+    return true;
+}
+
+bool modFSUIPC::OpenChannel(int32_t& result, bool& secondClass) {
+    const auto failed = [&result](FsuipcResult code) {
+        result = code;
+        return false;
+    };
+    window_ = channel_.FindWindowExA("UIPCMAIN");
+    if (!window_) {
+        secondClass = true;
+        window_ = channel_.FindWindowExA("FS98MAIN");
+    }
+    if (!window_) return failed(kFsuipcNoServer);
+
+    message_ = channel_.RegisterWindowMessageA(kChannelName);
+    if (!message_) return failed(kFsuipcNoMessage);
+
+    const std::string name = kChannelName + ":" + UpperHex(channel_.GetCurrentProcessId()) + ":1";
+    atom_ = static_cast<int16_t>(channel_.GlobalAddAtomA(name));
+    if (!atom_) return failed(kFsuipcNoAtom);
+
+    mapping_ = channel_.CreateFileMappingA(name, kBlockSize);
+    if (channel_.GetLastError() == kErrorAlreadyExists) return failed(kFsuipcMappingExists);
+
+    view_ = channel_.MapViewOfFile(mapping_);
+    return view_ || failed(kFsuipcNoView);
+}
+
+bool modFSUIPC::ReadVersions(int32_t& result) {
+    for (int pass = 0; pass < kVersionPasses; ++pass) {
+        if (FSUIPC_Version != 0 && FSUIPC_FS_Version != 0) break;
+        if (!FSUIPC_Read(0x3304, 4, &FSUIPC_Version, result)) return false;
+        if (!FSUIPC_Read(0x3308, 4, &FSUIPC_FS_Version, result)) return false;
+        if (!FSUIPC_Write(0x330A, 2, &FSUIPC_Lib_Version, result) && pass == 0) return false;
+        if (!FSUIPC_Process(result)) return false;
+        clock_.Sleep(kVersionPauseMs);
+    }
+    return true;
+}
+
+void modFSUIPC::FSUIPC_Close() {
+    window_ = 0;
+    message_ = 0;
+    next_ = 0;
+    records_.clear();
+    if (atom_) channel_.GlobalDeleteAtom(static_cast<uint16_t>(atom_));
+    atom_ = 0;
+    if (view_) channel_.UnmapViewOfFile(view_);
+    view_ = nullptr;
+    if (mapping_) channel_.CloseHandle(mapping_);
+    mapping_ = 0;
+}
+
+bool modFSUIPC::Queue(uint16_t identifier, uint32_t headerSize, int32_t offset, int32_t count,
+                      int32_t& result) {
+    if (!view_) {
+        result = kFsuipcNotOpen;
+        return false;
+    }
+    if (count < 0 || int64_t{count} + next_ + headerSize + kEndWord > kLargestBatch) {
+        result = kFsuipcBatchFull;
+        return false;
+    }
+    uint8_t* record = view_ + next_;
+    StoreLE32(record, identifier);
+    StoreLE32(record + 4, static_cast<uint32_t>(offset));
+    StoreLE32(record + 8, static_cast<uint32_t>(count));
+    next_ += headerSize + static_cast<uint32_t>(count);
+    records_.push_back({identifier, static_cast<uint32_t>(count), nullptr});
+    result = kFsuipcOk;
+    return true;
+}
+
+bool modFSUIPC::FSUIPC_Read(int32_t offset, int32_t count, void* destination, int32_t& result) {
+    uint8_t* const record = view_ + next_;
+    if (!Queue(kReadRecord, kReadHeader, offset, count, result)) return false;
+    records_.back().destination = destination;
+    StoreLE32(record + 12, destination ? static_cast<uint32_t>(records_.size()) : 0);
+    std::memset(record + kReadHeader, 0, static_cast<size_t>(count));
+    return true;
+}
+
+bool modFSUIPC::FSUIPC_Write(int32_t offset, int32_t count, const void* source, int32_t& result) {
+    uint8_t* const record = view_ + next_;
+    if (!Queue(kWriteRecord, kWriteHeader, offset, count, result)) return false;
+    if (count > 0) std::memcpy(record + kWriteHeader, source, static_cast<size_t>(count));
+    return true;
+}
+
+bool modFSUIPC::FSUIPC_Process(int32_t& result) {
+    if (!view_ || next_ == 0) {
+        result = view_ ? kFsuipcEmptyBatch : kFsuipcNotOpen;
+        return false;
+    }
+    StoreLE32(view_ + next_, 0);
+    next_ = 0;
+    uintptr_t reply = 0;
+    bool done = SendBatch(reply, result);
+    if (done && reply != 1) {
+        result = kFsuipcBadReply;
+        done = false;
+    }
+    done = done && UnpackReplies();
+    records_.clear();
+    if (done) result = kFsuipcOk;
+    return done;
+}
+
+bool modFSUIPC::SendBatch(uintptr_t& reply, int32_t& result) {
+    const auto send = [&] {
+        return channel_.SendMessageTimeoutA(window_, message_,
+                                            static_cast<uintptr_t>(static_cast<uint32_t>(atom_)), 0,
+                                            kMessageFlags, kMessageTimeoutMs, reply) != 0;
+    };
+    bool answered = send();
+    int repeats = 0;
+    while (!answered && repeats < kRepeats) {
+        ++repeats;
+        clock_.Sleep(kRepeatPauseMs);
+        answered = send();
+    }
+    // A simulator that answers only now is too slow to fly with.
+    if (repeats < kRepeats) return true;
+    result = channel_.GetLastError() != 0 ? kFsuipcNoAnswerError : kFsuipcNoAnswer;
+    return false;
+}
+
+// The replies must be the records of the batch, in its order: so no position, length or destination
+// is ever taken from the block.
+bool modFSUIPC::UnpackReplies() {
+    const uint8_t* reply = view_;
+    for (size_t i = 0; LoadLE16(reply) != 0; ++i) {
+        if (i == records_.size()) return false;
+        const Record& sent = records_[i];
+        if (LoadLE16(reply) != sent.identifier || LoadLE32(reply + 8) != sent.count) return false;
+        if (sent.identifier == kReadRecord) {
+            const uint32_t token = sent.destination ? static_cast<uint32_t>(i + 1) : 0;
+            if (LoadLE32(reply + 12) != token) return false;
+            if (sent.destination && sent.count > 0) {
+                std::memcpy(sent.destination, reply + kReadHeader, sent.count);
+            }
+            reply += kReadHeader + sent.count;
+        } else {
+            reply += kWriteHeader + sent.count;
+        }
+    }
+    return true;
+}
