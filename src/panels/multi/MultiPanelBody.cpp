@@ -1,0 +1,72 @@
+#include "panels/multi/MultiPanelBody.h"
+
+namespace {
+
+constexpr Color kBody = 0x2A2A2A;
+constexpr Color kRim = 0x555555;
+constexpr Color kKnob = 0x484848;
+constexpr Color kWell = 0x101010;
+constexpr Color kPrint = 0xE0E0E0;
+
+struct ShapeRow {
+    ShapeKind kind;
+    int32_t left, top, width, height;
+    Color fill;
+    Color border;
+};
+
+constexpr ShapeRow kShapes[] = {
+    {ShapeKind::RoundedRectangle, 15, 15, 10875, 2835, kBody, kRim},     // body
+    {ShapeKind::Oval, 420, 600, 840, 840, kKnob, 0x707070},              // selector
+    {ShapeKind::Rectangle, 2520, 240, 3180, 780, kWell, kRim},           // upper display
+    {ShapeKind::Rectangle, 2520, 1140, 3180, 780, kWell, kRim},          // lower display
+    {ShapeKind::Oval, 6510, 420, 1200, 1200, kKnob, 0x707070},           // knob
+    {ShapeKind::RoundedRectangle, 8100, 1740, 1020, 345, kWell, kRim},   // auto-throttle slot
+    {ShapeKind::RoundedRectangle, 8520, 720, 180, 780, kWell, kRim},     // flaps slot
+    {ShapeKind::RoundedRectangle, 9660, 480, 840, 1920, kKnob, 0x707070},  // trim wheel
+};
+
+struct CaptionRow {
+    int32_t left, top, width;
+    Alignment align;
+    const char* text;
+};
+
+constexpr CaptionRow kCaptions[] = {
+    {540, 255, 600, Alignment::Center, "ALT"},   {90, 390, 390, Alignment::Center, "VS"},
+    {30, 795, 360, Alignment::Center, "IAS"},    {30, 1140, 360, Alignment::Center, "HDG"},
+    {210, 1500, 420, Alignment::Center, "CRS"},  {8010, 1485, 1200, Alignment::Center, "AUTO THROTTLE"},
+    {8070, 2115, 540, Alignment::Center, "OFF"}, {8610, 2115, 540, Alignment::Center, "ARM"},
+    {8250, 210, 720, Alignment::Center, "FLAPS"}, {8310, 465, 600, Alignment::Center, "UP"},
+    {8820, 1185, 480, Alignment::Left, "DN"},    {9540, 180, 1080, Alignment::Center, "PITCH TRIM"},
+};
+
+}  // namespace
+
+MultiPanelBody::MultiPanelBody(Picture& panel) {
+    AddShapes(panel);
+    AddCaptions(panel);
+}
+
+void MultiPanelBody::AddShapes(Picture& panel) {
+    for (const ShapeRow& row : kShapes) {
+        auto shape = std::make_unique<Shape>(&panel);
+        shape->Kind = row.kind;
+        shape->FillColor = row.fill;
+        shape->BorderColor = row.border;
+        shape->Move(row.left, row.top, row.width, row.height);
+        parts_.push_back(std::move(shape));
+    }
+}
+
+void MultiPanelBody::AddCaptions(Picture& panel) {
+    for (const CaptionRow& row : kCaptions) {
+        auto label = std::make_unique<Label>(&panel);
+        label->Caption = row.text;
+        label->Align = row.align;
+        label->ForeColor = kPrint;
+        label->FontHeight = 165;
+        label->Move(row.left, row.top, row.width, 225);
+        parts_.push_back(std::move(label));
+    }
+}

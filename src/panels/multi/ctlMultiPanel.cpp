@@ -1,0 +1,175 @@
+#include "panels/multi/ctlMultiPanel.h"
+
+#include <algorithm>
+#include <array>
+
+#include "platform/Wait.h"
+
+namespace {
+
+constexpr int32_t kSelectorMask = 0x1F0000;
+constexpr uint32_t kKnobWindowMs = 200;
+constexpr uint32_t kTrimWindowMs = 250;
+constexpr uint32_t kSpeedPeriodMs = 200;
+constexpr SpeedSampler::Thresholds kKnobThresholds = {10, 13, 16};
+constexpr SpeedSampler::Thresholds kTrimThresholds = {5, 9, 12};
+
+// The order in which a report's buttons are looked at.
+constexpr std::array kButtonOrder = {
+    MultiPanelBit::kButtonAP,  MultiPanelBit::kButtonHDG, MultiPanelBit::kButtonNAV,
+    MultiPanelBit::kButtonREV, MultiPanelBit::kButtonALT, MultiPanelBit::kButtonVS,
+    MultiPanelBit::kButtonAPR, MultiPanelBit::kButtonIAS,
+};
+
+std::span<uint8_t, 5> Digits(std::array<uint8_t, kMultiReportSize>& report, size_t first) {
+    return std::span<uint8_t, 5>(report.data() + first, 5);
+}
+
+}  // namespace
+
+ctlMultiPanel::ctlMultiPanel(Container& parent, const DeviceServices& services)
+    : cPanelDevice(parent, services, PanelKind::Multi),
+      rotSpeed_(kKnobThresholds),
+      trimSpeed_(kTrimThresholds),
+      pulses_{{
+          {MultiPanelBit::kKnobClockwisePulse, PulsePair(kKnobWindowMs), rotSpeed_, RotaryUp,
+           &MultiPanelPicture::KnobClockwise},
+          {MultiPanelBit::kKnobCounterClockwisePulse, PulsePair(kKnobWindowMs), rotSpeed_,
+           RotaryDown, &MultiPanelPicture::KnobCounterClockwise},
+          {MultiPanelBit::kTrimUpPulse, PulsePair(kTrimWindowMs), trimSpeed_, TrimUp,
+           &MultiPanelPicture::TrimUp},
+          {MultiPanelBit::kTrimDownPulse, PulsePair(kTrimWindowMs), trimSpeed_, TrimDown,
+           &MultiPanelPicture::TrimDown},
+      }},
+      press_(services.clock, services.loop, services.generalSetup.ClickThreshold),
+      timerRotSpeed_(services.loop, kSpeedPeriodMs),
+      timerTrimSpeed_(services.loop, kSpeedPeriodMs) {
+    std::fill_n(display_.bytes.begin() + kMultiUpperDigits, 10, kMultiBlank);
+    press_.LongClick.Connect([this](int32_t mask) { ButtonLongClick.Raise(mask); });
+    timerRotSpeed_.Tick.Connect([this] {
+        rotSpeed_.Sample();
+        OnScreen.ShowSpeed(OnScreen.labSpeed, rotSpeed_.Speed());
+    });
+    timerTrimSpeed_.Tick.Connect([this] {
+        trimSpeed_.Sample();
+        OnScreen.ShowSpeed(OnScreen.labSpeed2, trimSpeed_.Speed());
+    });
+    timerTrimSpeed_.SetEnabled(true);
+}
+
+ctlMultiPanel::~ctlMultiPanel() { End(); }
+
+void ctlMultiPanel::RotAcceleration(uint8_t value) { timerRotSpeed_.SetInterval(value * 3U + 50U); }
+
+void ctlMultiPanel::TrimAcceleration(uint8_t value) { timerTrimSpeed_.SetInterval(value * 3U); }
+
+void ctlMultiPanel::HandleReport(int32_t state, uint32_t clock) {
+    for (Pulses& pulses : pulses_) CheckPulse(pulses, state, clock);
+    if (Differs(kSelectorMask, state) || firstReportPending_) {
+        SelectorChange.Raise(state & kSelectorMask, lastState_ & kSelectorMask);
+        ShowSelector(state & kSelectorMask);
+    }
+    for (const int32_t mask : kButtonOrder) CheckButton(mask, state);
+    CheckFlaps(MultiPanelBit::kFlapsUp, state);
+    CheckFlaps(MultiPanelBit::kFlapsDown, state);
+    CheckAutoThrottle(state);
+    lastState_ = state;
+    firstReportPending_ = false;
+}
+
+void ctlMultiPanel::CheckPulse(Pulses& pulses, int32_t state, uint32_t clock) {
+    const bool bit = (state & pulses.bit) != 0;
+    if (bit) pulses.speed.Pulse();
+    if (!pulses.pair.Report(bit, clock)) return;
+    pulses.step.Raise(pulses.speed.Speed());
+    (OnScreen.*pulses.show)();
+}
+
+void ctlMultiPanel::CheckButton(int32_t mask, int32_t state) {
+    if (!Differs(mask, state)) return;
+    if (state & mask) {
+        ButtonDown.Raise(mask);
+        OnScreen.ShowButton(mask, true);
+        press_.Down(mask);
+        return;
+    }
+    ButtonUp.Raise(mask);
+    OnScreen.ShowButton(mask, false);
+    if (!press_.Up()) return;
+    ButtonClick.Raise(mask);
+    press_.Cancel();
+}
+
+void ctlMultiPanel::CheckFlaps(int32_t mask, int32_t state) {
+    if (!Differs(mask, state)) return;
+    if (!(state & mask)) {
+        OnScreen.ShowFlaps(0);
+    } else if (mask == MultiPanelBit::kFlapsUp) {
+        FlapsUp.Raise();
+        OnScreen.ShowFlaps(1);
+    } else {
+        FlapsDown.Raise();
+        OnScreen.ShowFlaps(-1);
+    }
+}
+
+void ctlMultiPanel::CheckAutoThrottle(int32_t state) {
+    if (!Differs(MultiPanelBit::kAutoThrottleArm, state) && !firstReportPending_) return;
+    const bool armed = (state & MultiPanelBit::kAutoThrottleArm) != 0;
+    AutoThrottleChange.Raise(armed);
+    OnScreen.ShowAutoThrottle(armed);
+}
+
+void ctlMultiPanel::ShowSelector(int32_t bits) {
+    OnScreen.ShowSelector(bits);
+    WriteDisplay();  // a report that is waiting goes out
+}
+
+void ctlMultiPanel::GetPositions() {
+    std::array<uint8_t, kMultiReportSize> report{};
+    Services().hid.GetFeature(DeviceHandle(), report);
+    const int32_t bits = StateWord(report[1], report[2], report[3]) & kSelectorMask;
+    SelectorChange.Raise(bits, 0);
+    ShowSelector(bits);
+}
+
+void ctlMultiPanel::WriteDisplay(std::optional<std::string_view> UpperRow,
+                                 std::optional<std::string_view> LowerRow,
+                                 std::optional<uint8_t> Lights, bool Force) {
+    if (UpperRow) {
+        EncodeDisplay(*UpperRow, Digits(display_.bytes, kMultiUpperDigits));
+        OnScreen.labUpperValue.Caption = *UpperRow;
+    }
+    if (LowerRow) {
+        EncodeDisplay(*LowerRow, Digits(display_.bytes, kMultiLowerDigits));
+        OnScreen.labLowerValue.Caption = *LowerRow;
+    }
+    if (Lights) {
+        display_.bytes[kMultiLights] = *Lights;
+        OnScreen.ShowLights(*Lights);
+    }
+    display_.WriteIfChanged(Services().hid, DeviceHandle(), Force);
+}
+
+void ctlMultiPanel::TurnOffDisplay() {
+    std::fill_n(display_.bytes.begin() + kMultiUpperDigits, 10, kMultiDark);
+    display_.bytes[kMultiLights] = 0;
+    display_.WriteDark(Services().hid, DeviceHandle());
+}
+
+// A "0" runs through the upper display from right to left and back through the lower one, while
+// the lights come on one after the other.
+void ctlMultiPanel::Splash() {
+    constexpr int kSteps = 10;
+    for (int step = 0; step < kSteps; ++step) {
+        std::array<char, 10> rows;
+        rows.fill(' ');
+        rows[static_cast<size_t>(step < 5 ? 4 - step : step)] = '0';
+        const int lights = step == kSteps - 1 ? 0 : (1 << step) - 1;
+        WriteDisplay(std::string_view(rows.data(), 5), std::string_view(rows.data() + 5, 5),
+                     static_cast<uint8_t>(lights));
+        Wait(Services().clock, Services().loop, 100, 25);
+    }
+    WriteDisplay("     ", "     ", uint8_t{0});
+    TurnOffDisplay();
+}
