@@ -1,0 +1,40 @@
+#include "core/ProcessSettings.h"
+
+namespace {
+
+constexpr uint32_t kSetAndQuery = 0x600;
+constexpr uint32_t kQuery = 0x400;
+
+}  // namespace
+
+uint32_t SetProcessPriority(ProcessPort& process, uint32_t processId, uintptr_t window,
+                            uint32_t priorityClass) {
+    if (processId == 0) {
+        processId =
+            window != 0 ? process.ProcessOfWindow(window) : process.GetCurrentProcessId();
+    }
+    uintptr_t handle = process.OpenProcess(kSetAndQuery, processId);
+    if (handle) {
+        process.SetPriorityClass(handle, priorityClass);
+    } else {
+        handle = process.OpenProcess(kQuery, processId);
+    }
+    if (!handle) return 0;
+    const uint32_t present = process.GetPriorityClass(handle);
+    process.CloseProcess(handle);
+    return present;
+}
+
+uint64_t ChooseAffinity(int32_t option, uint64_t processMask) {
+    if (option != -1) return static_cast<uint32_t>(option);
+    const auto mask = static_cast<int32_t>(processMask);
+    if (mask >= 15) return static_cast<uint64_t>(mask & 65532);
+    if (mask >= 7) return 4;
+    return mask >= 3 ? 2 : 1;
+}
+
+void SetProcessAffinity(ProcessPort& process, int32_t option) {
+    uint64_t mask = 0;
+    process.GetProcessAffinityMask(mask);
+    process.SetProcessAffinityMask(ChooseAffinity(option, mask));
+}

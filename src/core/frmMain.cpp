@@ -1,0 +1,173 @@
+#include "core/frmMain.h"
+
+#include <utility>
+
+#include "base/Number.h"
+#include "toolkit/UiBackend.h"
+#include "ui/PlaceForm.h"
+
+namespace {
+
+constexpr uint32_t kWaitingIntervalMs = 1000;
+
+const MsgBoxRequest kQuitRequest = {
+    "           Are you sure ?\nQuitting will stop the panels.", " ORVO - Quit request",
+    MsgBoxIcon::Question, MsgBoxButtons::OkCancel};
+
+}  // namespace
+
+frmMain::frmMain(const MainServices& services)
+    : Form(services.ui),
+      tabMain(this),
+      picOrder(this),
+      picMain(&picOrder),
+      btnQuit(&picMain),
+      barMain(this),
+      Status(barMain.AddPanel(
+          "Status", "Connection status between Orvo and Flight Simulator", 23)),
+      FSUIPCver(barMain.AddPanel(
+          "FSUIPCver", "FSUIPC version installed in currently loaded Flight Simulator", 20)),
+      FSver(barMain.AddPanel("FSver", "Currently loaded Flight Simulator Version", 22)),
+      Aircraft(barMain.AddPanel(
+          "Aircraft", "Name of the aircraft currently in use in Flight Simulator", 35)),
+      trayMain(services.platform.tray),
+      timerFSUIPC(services.platform.loop, kWaitingIntervalMs),
+      services_(services),
+      aircraft_(services.session),
+      aircraftTitle_(services.session.OffsetTable, "AIRCRAFT") {
+    Caption = "  ORVO    v0.5.1";
+    PlaceControls();
+    tabMain.Click.Connect([this] { SelectPage(); });
+    btnQuit.Click.Connect([this] { AskQuit(); });
+    timerFSUIPC.Tick.Connect([this] { timerFSUIPC_Timer(); });
+    trayDblClick_ = trayMain.DblClick.Connect([this] {
+        if (!services_.windows.ModalWindowOpen) Show();
+    });
+    QueryUnload.Connect([this] { SavePosition(); });
+    Unloaded.Connect([this] { CloseDown(); });
+}
+
+// Each panel ends its connection, which lets messages run: so while all else is still there.
+frmMain::~frmMain() {
+    timerFSUIPC.SetEnabled(false);
+    services_.session.FSConnected = false;
+    for (const PanelIdentity& identity : kPanelIdentities) {
+        for (auto& unit : Panels[identity.kind]) unit->control.reset();
+    }
+}
+
+void frmMain::PlaceControls() {
+    tabMain.AddTab(1, "General", "General");
+    tabMain.Move(30, 30, 11160, 3360);
+    picOrder.Move(120, 420, 10995, 2895);
+    picMain.Move(0, 0, 10995, 2895);
+    btnQuit.Caption = "Quit";
+    btnQuit.Move(9480, 2280, 1260, 420);
+}
+
+void frmMain::LoadForm() {
+    services_.session.Fsuipc.FSUIPC_Initialize();
+    services_.platform.loop.RunPending();
+    services_.session.FSConnected = false;
+    ShowDisconnected();
+    trayMain.SetIcon(TrayIcon::Yellow);
+    trayMain.SetToolTip("Waiting FS connection...");
+    trayMain.SetVisible(true);
+    Width = 11325;
+    Height = 4208;
+    PlaceForm(*this, services_.generalSetup.MainFormLeft, services_.generalSetup.MainFormTop,
+              services_.monitorRects, services_.platform.screen);
+    Load();
+}
+
+void frmMain::ShowDisconnected() {
+    Status.Text = "FSUIPC Status: Disconnected";
+    FSUIPCver.Text = "FSUIPC Version:";
+    FSver.Text = "Flight Simulator Version:";
+    Aircraft.Text = "Aircraft in use:";
+    shownAircraft_.reset();
+}
+
+PanelUnit& frmMain::AddPanel(PanelKind kind, int32_t tab) {
+    const DeviceServices devices = {services_.platform.clock, services_.platform.loop,
+                                    services_.platform.hid, services_.platform.deckhub,
+                                    services_.generalSetup};
+    PanelLists::List& list = Panels[kind];
+    const auto number = static_cast<int16_t>(list.size() + 1);
+    const PanelIdentity& identity = kPanelIdentities[static_cast<size_t>(kind)];
+    tabMain.AddTab(tab, identity.key + FormatInteger(number),
+                   std::string(identity.name) + " " + FormatInteger(number));
+    list.push_back(MakePanelUnit(kind, number, picOrder, devices, services_.session));
+    PanelUnit& unit = *list.back();
+    unit.control->Visible = false;
+    unit.control->SetupRequest.Connect([this, &unit] { ServeSetupRequest(unit); });
+    Load();
+    return unit;
+}
+
+void frmMain::ArmTimer() {
+    picMain.Left = 0;
+    picMain.Top = 0;
+    BringToFront(picOrder);
+    services_.platform.loop.RunPending();
+    timerFSUIPC.SetEnabled(true);
+}
+
+void frmMain::SelectPage() {
+    if (Control* left = PageOf(previousTab_)) left->Visible = false;
+    previousTab_ = tabMain.SelectedItem();
+    if (Control* page = PageOf(previousTab_)) page->Visible = true;
+}
+
+// The pages stand in the order of the tabs: the general one, then the panels kind by kind.
+Control* frmMain::PageOf(int32_t tab) {
+    if (tab == 1) return &picMain;
+    auto n = static_cast<size_t>(tab - 2);
+    for (const PanelIdentity& identity : kPanelIdentities) {
+        const PanelLists::List& list = Panels[identity.kind];
+        if (n < list.size()) return list[n]->control.get();
+        n -= list.size();
+    }
+    return nullptr;
+}
+
+void frmMain::AskQuit() {
+    if (services_.ui.MsgBox(kQuitRequest) == MsgBoxResult::Cancel) return;
+    timerFSUIPC.SetEnabled(false);
+    Unload();
+}
+
+void frmMain::SavePosition() {
+    services_.generalSetup.MainFormTop = Top;
+    services_.generalSetup.MainFormLeft = Left;
+    services_.generalSetup.SaveSetup();
+}
+
+void frmMain::CloseDown() {
+    timerFSUIPC.SetEnabled(false);
+    services_.session.Fsuipc.FSUIPC_Close();
+    services_.session.FSConnected = false;
+    for (const PanelIdentity& identity : kPanelIdentities) {
+        for (auto& unit : Panels[identity.kind]) {
+            if (unit->logic) releasedLogics_.push_back(std::move(unit->logic));
+        }
+    }
+    trayMain.SetVisible(false);
+    services_.platform.loop.Quit();
+}
+
+void frmMain::ServeSetupRequest(PanelUnit& unit) {
+    services_.windows.SetupPanelIndex = unit.number;
+    if (const auto& open = SetupWindows[static_cast<size_t>(unit.kind)]) {
+        services_.windows.ModalWindowOpen = true;
+        open();
+        services_.windows.ModalWindowOpen = false;
+    }
+    if (!unit.logic) return;
+    unit.logic->LoadSetup();
+    if (unit.kind == PanelKind::Switch) return;
+    unit.logic->SetupChanged();
+    if (unit.kind != PanelKind::Multi) return;
+    PanelLists::ForEachLogicOf(Panels[PanelKind::Radio],
+                               [](cPanelLogic& logic) { logic.SetupChanged(); });
+}

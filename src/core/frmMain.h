@@ -1,0 +1,94 @@
+#pragma once
+
+#include <cstdint>
+#include <array>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "config/cSetupHolder.h"
+#include "core/AircraftBinding.h"
+#include "core/PanelUnit.h"
+#include "platform/Platform.h"
+#include "simlink/cSession.h"
+#include "toolkit/CommandButton.h"
+#include "toolkit/Container.h"
+#include "toolkit/Form.h"
+#include "toolkit/StatusBar.h"
+#include "toolkit/TabStrip.h"
+#include "toolkit/Timer.h"
+#include "ui/WindowState.h"
+#include "ui/ctlTrayArea.h"
+
+// What frmMain works with; all of it outlives the window.
+struct MainServices {
+    const Platform& platform;
+    UiBackend& ui;
+    cSession& session;
+    cSetupHolder& generalSetup;
+    WindowState& windows;
+    const std::vector<ScreenRect>& monitorRects;
+};
+
+// The program's one permanent window, hidden until the user double-clicks its icon in the
+// notification area: one page of general controls, one page for each panel, and the state of the
+// session. It owns the panels and the timer that drives the whole link to the simulator.
+class frmMain : public Form {
+  public:
+    explicit frmMain(const MainServices& services);
+    ~frmMain() override;
+
+    void LoadForm();
+
+    // Adds a tab at `tab` and a panel of its own, hidden, under the next number of its kind.
+    PanelUnit& AddPanel(PanelKind kind, int32_t tab);
+
+    // Puts the first page in place and starts the search for the simulator.
+    void ArmTimer();
+
+    PanelLists Panels;
+
+    // The configuration window of each kind of panel: opens it and returns when it is closed.
+    std::array<std::function<void()>, kPanelIdentities.size()> SetupWindows;
+
+    TabStrip tabMain;
+    Container picOrder;
+    Container picMain;
+    CommandButton btnQuit;
+    StatusBar barMain;
+    StatusBar::Panel& Status;
+    StatusBar::Panel& FSUIPCver;
+    StatusBar::Panel& FSver;
+    StatusBar::Panel& Aircraft;
+    ctlTrayArea trayMain;
+    Timer timerFSUIPC;
+
+  private:
+    void PlaceControls();
+    void ShowDisconnected();
+    void SelectPage();
+    Control* PageOf(int32_t tab);
+    void AskQuit();
+    void SavePosition();
+    void CloseDown();
+    void ServeSetupRequest(PanelUnit& unit);
+
+    void timerFSUIPC_Timer();
+    void TryToConnect();
+    void ShowVersions();
+    void Poll();
+    void TakeAircraft();
+    void LoseSession();
+
+    const MainServices services_;
+    AircraftBinding aircraft_;
+    ScopedConnection trayDblClick_;
+    int32_t previousTab_ = 1;
+    std::string detectedAircraft_;
+    std::optional<std::string> shownAircraft_;  // none yet in this session
+    NamedOffset aircraftTitle_;
+    // Logics of a closed window: they may have been closed from within one of their own calls.
+    std::vector<std::unique_ptr<cPanelLogic>> releasedLogics_;
+};

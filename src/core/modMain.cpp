@@ -1,0 +1,46 @@
+#include "core/modMain.h"
+
+#include "core/PanelDiscovery.h"
+#include "core/ProcessSettings.h"
+#include "toolkit/UiBackend.h"
+
+modMain::modMain(const Platform& platform, UiBackend& ui)
+    : GeneralSetup(platform.ini, platform.files, platform.registry,
+                   platform.process.ProgramFolder()),
+      Session(platform.ipc, platform.clock),
+      platform_(platform),
+      ui_(ui) {}
+
+bool modMain::Main() {
+    monitorRects_ = platform_.screen.EnumDisplayMonitors();
+    if (AlreadyRunning()) return false;
+    GeneralSetup.LoadSetup();
+    SetProcessPriority(platform_.process, 0, 0, static_cast<uint32_t>(GeneralSetup.OrvoPriority));
+    SetProcessAffinity(platform_.process, GeneralSetup.OrvoAffinity);
+
+    const MainServices services = {platform_, ui_,     Session, GeneralSetup,
+                                   Windows,   monitorRects_};
+    window_ = std::make_unique<frmMain>(services);
+    window_->LoadForm();
+    platform_.loop.RunPending();
+
+    switch (const Discovery discovery = DiscoverPanels(*window_, services)) {
+        case Discovery::EndProcess: return false;
+        case Discovery::Stop:
+            window_->Unload();
+            platform_.loop.RunPending();
+            return false;
+        case Discovery::Found:
+        case Discovery::NoneGoOn:
+            window_->ArmTimer();
+            if (discovery == Discovery::NoneGoOn) SetUpUnconnectedPanels(*window_, services);
+            return true;
+    }
+    return false;
+}
+
+bool modMain::AlreadyRunning() {
+    if (platform_.process.ClaimSingleInstance("Orvo")) return false;
+    ui_.MsgBox({"Orvo is already running...", "Orvo", MsgBoxIcon::Critical, MsgBoxButtons::Ok});
+    return true;
+}

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include "config/cSetupHolder.h"
+#include "core/frmMain.h"
+#include "platform/Platform.h"
+#include "simlink/cSession.h"
+#include "toolkit/UiBackend.h"
+#include "ui/WindowState.h"
+
+// The program. Two of them can live in one process, each on a platform of its own.
+class modMain {
+  public:
+    modMain(const Platform& platform, UiBackend& ui);
+
+    // The start: builds everything and arms the timer. True when the program is to run on the
+    // message loop from here on, false when it has ended.
+    bool Main();
+
+    cSetupHolder GeneralSetup;
+    cSession Session;
+    WindowState Windows;
+
+    // None before it is loaded, that is when another instance runs.
+    frmMain* Window() { return window_.get(); }
+
+  private:
+    bool AlreadyRunning();
+
+    const Platform platform_;
+    UiBackend& ui_;
+    std::vector<ScreenRect> monitorRects_;
+    std::unique_ptr<frmMain> window_;
+};
