@@ -1,0 +1,30 @@
+#pragma once
+
+#include "platform/Deckhub.h"
+#include "platform/MessageLoop.h"
+#include "platform/virtual/Faults.h"
+#include "platform/virtual/VirtualBus.h"
+#include "platform/virtual/VirtualLink.h"
+
+// Finds and reads the devices of the bus.
+class VirtualDeckhub : public Deckhub {
+  public:
+    VirtualDeckhub(VirtualBus& bus, MessageLoop& loop) : bus_(bus), loop_(loop) {}
+
+    std::unique_ptr<PanelEnumerator> CreateEnumerator() override;
+    std::unique_ptr<PanelLink> CreateLink() override;
+
+    // The next `times` enumerators can't be had.
+    void RefuseEnumerator(int times = Faults<int>::kAlways) { faults_.Refuse(0, times); }
+
+    // Every start of reading so far, with the link's fields as they were then.
+    const std::vector<LinkStart>& Starts() const { return *starts_; }
+    int ReadingCount() const { return *reading_; }
+
+  private:
+    VirtualBus& bus_;
+    MessageLoop& loop_;
+    std::shared_ptr<std::vector<LinkStart>> starts_ = std::make_shared<std::vector<LinkStart>>();
+    std::shared_ptr<int> reading_ = std::make_shared<int>(0);
+    Faults<int> faults_;
+};

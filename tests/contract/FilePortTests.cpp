@@ -1,0 +1,52 @@
+#include "contract/ContractPlatform.h"
+
+namespace {
+
+class FilePortContract : public ContractTest {
+  protected:
+    FilePort& files = ports.files;
+    const std::string a = machine.Path("a.ini");
+    const std::string b = machine.Path("b.ini");
+    const std::string none = machine.Path("none.ini");
+};
+
+TEST_F(FilePortContract, ExistsAndDelete) {
+    machine.Put(a, "1");
+    EXPECT_TRUE(files.Exists(a));
+    EXPECT_TRUE(files.Exists(machine.Path("A.INI")));
+    EXPECT_FALSE(files.Exists(none));
+    EXPECT_TRUE(files.Delete(a));
+    EXPECT_FALSE(files.Exists(a));
+    EXPECT_FALSE(files.Delete(a));
+}
+
+TEST_F(FilePortContract, CopyOverwritesAndKeepsTheSource) {
+    const std::string content("1\r\n\0\x1A\xFF", 6);
+    machine.Put(a, content);
+    EXPECT_TRUE(files.Copy(a, b));
+    machine.Put(b, "something longer");
+    EXPECT_TRUE(files.Copy(a, b));
+    EXPECT_EQ(machine.Look(a), content);
+    EXPECT_EQ(machine.Look(b), content);
+}
+
+TEST_F(FilePortContract, ReplaceMovesOverTheOldFile) {
+    machine.Put(a, "new");
+    machine.Put(b, "old and longer");
+    EXPECT_TRUE(files.Replace(a, b));
+    EXPECT_EQ(machine.Look(a), std::nullopt);
+    EXPECT_EQ(machine.Look(b), "new");
+    EXPECT_TRUE(files.Replace(b, a)) << "nothing needs to be there";
+    EXPECT_EQ(machine.Look(a), "new");
+}
+
+TEST_F(FilePortContract, WhatFailsChangesNothing) {
+    machine.Put(b, "old");
+    EXPECT_FALSE(files.Copy(none, b));
+    EXPECT_FALSE(files.Replace(none, b));
+    EXPECT_FALSE(files.Copy(b, machine.UnwritablePath()));
+    EXPECT_FALSE(files.Replace(b, machine.UnwritablePath()));
+    EXPECT_EQ(machine.Look(b), "old");
+}
+
+}  // namespace

@@ -1,0 +1,46 @@
+#include "contract/ContractPlatform.h"
+
+namespace {
+
+constexpr uint32_t kCurrentUser = 0x80000001;
+constexpr uint32_t kString = 1;
+constexpr uint32_t kBinary = 3;
+
+class RegistryPortContract : public ContractTest {
+  protected:
+    std::optional<std::string> Read(const std::string& name) {
+        return registry.ReadValue(kCurrentUser, key, name);
+    }
+    bool Write(const std::string& name, const std::string& data, uint32_t type = kString) {
+        return registry.WriteValue(kCurrentUser, key, name, type, data);
+    }
+
+    RegistryPort& registry = ports.registry;
+    const std::string key =
+        "Software\\Orvo Contract\\" + std::to_string(ports.process.GetCurrentProcessId());
+};
+
+TEST_F(RegistryPortContract, WritesReadsAndDeletesValues) {
+    EXPECT_EQ(Read("first"), std::nullopt);
+    EXPECT_FALSE(registry.DeleteValue(kCurrentUser, key, "first"));
+
+    const std::string longText(1000, 'x');
+    EXPECT_TRUE(Write("first", "\"C:\\Orvo\\Orvo.exe\" /auto"));
+    EXPECT_TRUE(Write("second", longText));
+    EXPECT_TRUE(Write("empty", ""));
+    EXPECT_EQ(Read("FIRST"), "\"C:\\Orvo\\Orvo.exe\" /auto");
+    EXPECT_EQ(Read("second"), longText);
+    EXPECT_EQ(Read("empty"), "");
+    EXPECT_TRUE(Write("first", "\xC4\xE4"));
+    EXPECT_EQ(Read("first"), "\xC4\xE4");
+
+    EXPECT_TRUE(Write("first", "abcd", kBinary));
+    EXPECT_EQ(Read("first"), std::nullopt) << "only strings are read";
+
+    for (const char* name : {"first", "second", "empty"}) {
+        EXPECT_TRUE(registry.DeleteValue(kCurrentUser, key, name));
+        EXPECT_EQ(Read(name), std::nullopt);
+    }
+}
+
+}  // namespace
