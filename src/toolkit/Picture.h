@@ -2,8 +2,8 @@
 
 #include "toolkit/Container.h"
 
-// A container that is drawn as a whole, with its labels, shapes and lines in the order in which they
-// came; buttons on it are native ones in front.
+// A container that is drawn as a whole, with its labels, shapes and lines in the order in which
+// they came; buttons on it are native ones in front.
 class Picture : public Container {
   public:
     using Container::Container;
@@ -16,7 +16,8 @@ class Picture : public Container {
 enum class FontFace { Normal, Bold, FixedPitch, SevenSegment };
 enum class Alignment { Left, Center, Right };
 
-// A line of text. On a Picture it is part of the drawing, elsewhere a native one.
+// A line of text. On a Picture it is part of the drawing, elsewhere a native one. In the
+// SevenSegment face it is a display with as many places as its width has room for.
 class Label : public Control {
   public:
     using Control::Control;
@@ -24,7 +25,9 @@ class Label : public Control {
     Property<std::string, Control> Caption{*this, {}};
     Property<Color, Control> ForeColor{*this, 0};
     Property<FontFace, Control> Face{*this, FontFace::Normal};
-    Property<int32_t, Control> FontHeight{*this, 195};  // twips
+    // Twips of the em, or of the digits of a SevenSegment face. The value from the start stands for
+    // the system's own text size.
+    Property<int32_t, Control> FontHeight{*this, 195};
     Property<Alignment, Control> Align{*this, Alignment::Left};
 
     void Accept(ControlVisitor& visitor) override;

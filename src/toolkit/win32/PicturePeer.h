@@ -1,0 +1,39 @@
+#pragma once
+
+#include "toolkit/Picture.h"
+#include "toolkit/win32/ContainerPeer.h"
+
+class FontCache;
+
+// A Picture's window: painted as a whole when it has changed and can be seen.
+class PicturePeer : public ContainerPeer {
+  public:
+    PicturePeer(Picture& picture, FontCache& fonts);
+
+    // What is drawn in an area isn't true any more. Several calls make one painting.
+    void Invalidate(const RECT& area) { InvalidateRect(Window(), &area, FALSE); }
+
+  protected:
+    LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+    void FollowMore() override;
+
+  private:
+    void Paint();
+
+    Picture& picture_;
+    FontCache& fonts_;
+};
+
+// The peer of what is drawn on a Picture.
+class DrawnPeer : public Peer {
+  public:
+    DrawnPeer(const Control& control, PicturePeer& picture);
+    ~DrawnPeer() override { picture_.Invalidate(area_); }
+
+    void Follow() override;
+
+  private:
+    const Control& control_;
+    PicturePeer& picture_;
+    RECT area_{};
+};

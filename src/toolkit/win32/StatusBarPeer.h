@@ -1,0 +1,28 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "toolkit/StatusBar.h"
+#include "toolkit/win32/WindowPeer.h"
+
+class FontCache;
+
+// The bar keeps itself along the bottom of its parent; the control's own place means nothing.
+class StatusBarPeer : public WindowPeer {
+  public:
+    StatusBarPeer(StatusBar& bar, FontCache& fonts);
+
+    void OnParentResized() override;
+
+  protected:
+    void FollowPlace() override {}
+    void FollowMore() override;
+
+  private:
+    void SetParts();
+
+    StatusBar& bar_;
+    std::unique_ptr<ToolTip> tips_;
+    std::vector<std::string> texts_;
+};
