@@ -32,7 +32,8 @@ std::optional<int64_t> ParseInteger(std::string_view text, int64_t low, int64_t 
 
 void AppendInteger(std::string& out, int64_t value, int digits) {
     char buffer[24];
-    const auto magnitude = value < 0 ? 0 - static_cast<uint64_t>(value) : static_cast<uint64_t>(value);
+    const auto magnitude =
+        value < 0 ? 0 - static_cast<uint64_t>(value) : static_cast<uint64_t>(value);
     const auto result = std::to_chars(buffer, buffer + sizeof buffer, magnitude);
     const auto length = static_cast<int>(result.ptr - buffer);
     if (value < 0) out += '-';

@@ -16,8 +16,7 @@ void CutAtNuls(std::string_view names, std::vector<std::string>& list) {
 std::string cInifile::Value() const {
     std::array<char, 255> buffer;
     buffer.fill(' ');
-    const uint32_t length =
-        service_.GetPrivateProfileStringA(Section, Key, Default, buffer, Path);
+    const uint32_t length = service_.GetPrivateProfileStringA(Section, Key, Default, buffer, Path);
     return {buffer.data(), length};
 }
 

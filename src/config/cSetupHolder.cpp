@@ -10,8 +10,7 @@
 
 namespace {
 
-using Member =
-    std::variant<bool cSetupHolder::*, uint8_t cSetupHolder::*, int32_t cSetupHolder::*>;
+using Member = std::variant<bool cSetupHolder::*, uint8_t cSetupHolder::*, int32_t cSetupHolder::*>;
 
 enum class Keeping {
     IfNotDefault,  // the key is there only when the value differs from the default

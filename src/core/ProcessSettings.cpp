@@ -10,8 +10,7 @@ constexpr uint32_t kQuery = 0x400;
 uint32_t SetProcessPriority(ProcessPort& process, uint32_t processId, uintptr_t window,
                             uint32_t priorityClass) {
     if (processId == 0) {
-        processId =
-            window != 0 ? process.ProcessOfWindow(window) : process.GetCurrentProcessId();
+        processId = window != 0 ? process.ProcessOfWindow(window) : process.GetCurrentProcessId();
     }
     uintptr_t handle = process.OpenProcess(kSetAndQuery, processId);
     if (handle) {

@@ -10,9 +10,9 @@ namespace {
 
 constexpr uint32_t kWaitingIntervalMs = 1000;
 
-const MsgBoxRequest kQuitRequest = {
-    "           Are you sure ?\nQuitting will stop the panels.", " ORVO - Quit request",
-    MsgBoxIcon::Question, MsgBoxButtons::OkCancel};
+const MsgBoxRequest kQuitRequest = {"           Are you sure ?\nQuitting will stop the panels.",
+                                    " ORVO - Quit request", MsgBoxIcon::Question,
+                                    MsgBoxButtons::OkCancel};
 
 }  // namespace
 
@@ -23,13 +23,12 @@ frmMain::frmMain(const MainServices& services)
       picMain(&picOrder),
       btnQuit(&picMain),
       barMain(this),
-      Status(barMain.AddPanel(
-          "Status", "Connection status between Orvo and Flight Simulator", 23)),
+      Status(barMain.AddPanel("Status", "Connection status between Orvo and Flight Simulator", 23)),
       FSUIPCver(barMain.AddPanel(
           "FSUIPCver", "FSUIPC version installed in currently loaded Flight Simulator", 20)),
       FSver(barMain.AddPanel("FSver", "Currently loaded Flight Simulator Version", 22)),
-      Aircraft(barMain.AddPanel(
-          "Aircraft", "Name of the aircraft currently in use in Flight Simulator", 35)),
+      Aircraft(barMain.AddPanel("Aircraft",
+                                "Name of the aircraft currently in use in Flight Simulator", 35)),
       trayMain(services.platform.tray),
       timerFSUIPC(services.platform.loop, kWaitingIntervalMs),
       services_(services),

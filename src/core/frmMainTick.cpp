@@ -8,7 +8,7 @@ constexpr uint32_t kWaitingIntervalMs = 1000;
 constexpr uint32_t kConnectedIntervalMs = 10;
 constexpr int32_t kTitleLength = 60;
 
-constexpr const char* kSimulatorNames[] = {"Any",    "FS98", "FS2K", "CFS2", "CFS1", "FLY",
+constexpr const char* kSimulatorNames[] = {"Any",    "FS98",   "FS2K", "CFS2", "CFS1", "FLY",
                                            "FS2002", "FS2004", "FSX",  "ESP",  "P3D"};
 
 std::string SimulatorName(int32_t number) {

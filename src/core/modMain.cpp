@@ -18,14 +18,14 @@ bool modMain::Main() {
     SetProcessPriority(platform_.process, 0, 0, static_cast<uint32_t>(GeneralSetup.OrvoPriority));
     SetProcessAffinity(platform_.process, GeneralSetup.OrvoAffinity);
 
-    const MainServices services = {platform_, ui_,     Session, GeneralSetup,
-                                   Windows,   monitorRects_};
+    const MainServices services = {platform_, ui_, Session, GeneralSetup, Windows, monitorRects_};
     window_ = std::make_unique<frmMain>(services);
     window_->LoadForm();
     platform_.loop.RunPending();
 
     switch (const Discovery discovery = DiscoverPanels(*window_, services)) {
-        case Discovery::EndProcess: return false;
+        case Discovery::EndProcess:
+            return false;
         case Discovery::Stop:
             window_->Unload();
             platform_.loop.RunPending();

@@ -29,7 +29,8 @@ class MessageLoop {
     // A tick that could not be taken in time is not made up for: never do two of one timer wait.
     virtual TimerId StartTimer(uint32_t intervalMs, std::function<void()> tick) = 0;
 
-    // No tick of the timer comes after this, not even one that was waiting. Unknown ids are ignored.
+    // No tick of the timer comes after this, not even one that was waiting. Unknown ids are
+    // ignored.
     virtual void StopTimer(TimerId timer) = 0;
 
     // Ends Run and every RunUntil.

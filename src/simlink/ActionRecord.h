@@ -10,10 +10,11 @@ enum class ActionKind : int32_t {
     VKey = 3,     // a keystroke
 };
 
-// One action. What the other fields mean depends on FSEvent; with None and Offset they mean nothing.
+// One action. What the other fields mean depends on FSEvent; with None and Offset they mean
+// nothing.
 struct ActionRecord {
     ActionKind FSEvent = ActionKind::None;
-    uint8_t VJoystickOrKeyCode = 0;       // VButton: joystick 64 to 72; VKey: virtual key code
-    uint8_t VButtonOrKeyQualifiers = 0;   // VButton: button 1 to 32; VKey: 1 SHIFT, 2 CTRL, 4 TAB
-    int16_t KeyAscii = 0;                 // VKey: character of the key, to show its name
+    uint8_t VJoystickOrKeyCode = 0;      // VButton: joystick 64 to 72; VKey: virtual key code
+    uint8_t VButtonOrKeyQualifiers = 0;  // VButton: button 1 to 32; VKey: 1 SHIFT, 2 CTRL, 4 TAB
+    int16_t KeyAscii = 0;                // VKey: character of the key, to show its name
 };

@@ -6,8 +6,8 @@
 #include "platform/Clock.h"
 #include "toolkit/Timer.h"
 
-// Tells short presses of a panel's buttons from long ones. All buttons of a panel share one: a press
-// of a second button while the first is held restarts the time and takes its place.
+// Tells short presses of a panel's buttons from long ones. All buttons of a panel share one: a
+// press of a second button while the first is held restarts the time and takes its place.
 class ButtonPress {
   public:
     // `clickThreshold` (milliseconds) is read at each use.

@@ -23,16 +23,26 @@ cOFFSET::cOFFSET(modFSUIPC& fsuipc, int32_t offset, int32_t dataType) : fsuipc_(
 
 void* cOFFSET::DataPtr() {
     switch (dataType_) {
-        case 1: return &byte_;
-        case 2: return &integer16_;
-        case 3: return word_.data();
-        case 4: return &integer32_;
-        case 5: return raw_.data();
-        case 6: return &integer64_;
-        case 7: return &float32_;
-        case 8: return &float64_;
-        case 9: return string_.data();
-        default: return nullptr;
+        case 1:
+            return &byte_;
+        case 2:
+            return &integer16_;
+        case 3:
+            return word_.data();
+        case 4:
+            return &integer32_;
+        case 5:
+            return raw_.data();
+        case 6:
+            return &integer64_;
+        case 7:
+            return &float32_;
+        case 8:
+            return &float64_;
+        case 9:
+            return string_.data();
+        default:
+            return nullptr;
     }
 }
 
@@ -40,31 +50,56 @@ int32_t cOFFSET::TransferLenght() const { return std::clamp(Lenght, 0, StorageSi
 
 double cOFFSET::Data() const {
     switch (dataType_) {
-        case 1: return byte_;
-        case 2: return integer16_;
-        case 3: return LoadLE16(word_.data());
-        case 4: return integer32_;
+        case 1:
+            return byte_;
+        case 2:
+            return integer16_;
+        case 3:
+            return LoadLE16(word_.data());
+        case 4:
+            return integer32_;
         case 5:
             return static_cast<int32_t>(raw_[0] + 256U * raw_[1] + 655536U * raw_[2] +
                                         16777216U * raw_[3]);
-        case 6: return static_cast<double>(integer64_);
-        case 7: return float32_;
-        case 8: return float64_;
-        default: return 0;
+        case 6:
+            return static_cast<double>(integer64_);
+        case 7:
+            return float32_;
+        case 8:
+            return float64_;
+        default:
+            return 0;
     }
 }
 
 void cOFFSET::SetData(double value) {
     switch (dataType_) {
-        case 1: byte_ = RoundTo<uint8_t>(value); break;
-        case 2: integer16_ = RoundTo<int16_t>(value); break;
-        case 3: StoreLE16(word_.data(), static_cast<uint16_t>(RoundHalfEven(value))); break;
-        case 4: integer32_ = RoundTo<int32_t>(value); break;
-        case 5: StoreLE32(raw_.data(), static_cast<uint32_t>(RoundHalfEven(value))); break;
-        case 6: integer64_ = RoundHalfEven(value); break;
-        case 7: float32_ = static_cast<float>(value); break;
-        case 8: float64_ = value; break;
-        default: break;
+        case 1:
+            byte_ = RoundTo<uint8_t>(value);
+            break;
+        case 2:
+            integer16_ = RoundTo<int16_t>(value);
+            break;
+        case 3:
+            StoreLE16(word_.data(), static_cast<uint16_t>(RoundHalfEven(value)));
+            break;
+        case 4:
+            integer32_ = RoundTo<int32_t>(value);
+            break;
+        case 5:
+            StoreLE32(raw_.data(), static_cast<uint32_t>(RoundHalfEven(value)));
+            break;
+        case 6:
+            integer64_ = RoundHalfEven(value);
+            break;
+        case 7:
+            float32_ = static_cast<float>(value);
+            break;
+        case 8:
+            float64_ = value;
+            break;
+        default:
+            break;
     }
 }
 

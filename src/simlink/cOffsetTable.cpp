@@ -7,8 +7,8 @@
 void cOffsetTable::RegisterOffset(int32_t offset, int32_t dataType, std::string_view name,
                                   std::optional<int32_t> lenght) {
     if (OffsetRegistered(name)) return;
-    auto entry = std::unique_ptr<Entry>(
-        new Entry{std::string(name), cOFFSET(fsuipc_, offset, dataType)});
+    auto entry =
+        std::unique_ptr<Entry>(new Entry{std::string(name), cOFFSET(fsuipc_, offset, dataType)});
     if (lenght) entry->offset.Lenght = *lenght;
     entries_.push_back(std::move(entry));
     ++shape_;

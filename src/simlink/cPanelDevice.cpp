@@ -17,7 +17,7 @@ cPanelDevice::cPanelDevice(Container& parent, const DeviceServices& services, Pa
     cmdSetup.Click.Connect([this] { SetupRequest.Raise(); });
 }
 
-cPanelDevice::~cPanelDevice() { End(); }
+cPanelDevice::~cPanelDevice() { Disconnect(); }
 
 bool cPanelDevice::Connect(const std::string& DevicePathName) {
     link_ = services_.deckhub.CreateLink();
@@ -43,19 +43,24 @@ void cPanelDevice::TakeReport(uint8_t byte0, uint8_t byte1, uint8_t byte2, uint8
 }
 
 void cPanelDevice::End() {
+    if (link_) TurnOff();
+    Disconnect();
+}
+
+void cPanelDevice::Disconnect() {
     if (ended_) return;
     ended_ = true;
+    MessageLoop& loop = services_.loop;
     if (link_) {
-        TurnOff();
-        services_.loop.RunPending();
+        loop.RunPending();
         link_->StopReading();
-        services_.loop.RunPending();
+        loop.RunPending();
         link_.reset();
     }
-    services_.loop.RunPending();
+    loop.RunPending();
     services_.hid.Close(deviceHandle_);
     deviceHandle_ = 0;
-    services_.loop.RunPending();
+    loop.RunPending();
 }
 
 void cPanelDevice::Resized() {

@@ -53,8 +53,9 @@ class cPanelDevice : public Picture {
     // The device has just been opened.
     virtual void Connected() {}
 
-    // Turns the output off, stops the link and closes the device; only the first call does anything.
-    // Lets pending messages run, so a final class calls it in its destructor, while it is whole.
+    // Turns the output off, stops the link and closes the device; only the first call does
+    // anything. Lets pending messages run, so a final class calls it in its destructor, while it is
+    // whole.
     void End();
 
     uintptr_t DeviceHandle() const { return deviceHandle_; }
@@ -68,6 +69,7 @@ class cPanelDevice : public Picture {
     void Resized() override;
 
   private:
+    void Disconnect();
     void TakeReport(uint8_t byte0, uint8_t byte1, uint8_t byte2, uint8_t byte3);
 
     const DeviceServices services_;

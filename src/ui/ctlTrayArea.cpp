@@ -57,13 +57,26 @@ void ctlTrayArea::Notify(uint32_t message, uint32_t flags) {
 
 void ctlTrayArea::Dispatch(int32_t mouseMessage) {
     switch (mouseMessage) {
-        case 512: MouseMove.Raise(); break;
-        case 513: MouseDown.Raise(1); break;
-        case 514: MouseUp.Raise(1); break;
-        case 516: MouseDown.Raise(2); break;
-        case 517: MouseUp.Raise(2); break;
+        case 512:
+            MouseMove.Raise();
+            break;
+        case 513:
+            MouseDown.Raise(1);
+            break;
+        case 514:
+            MouseUp.Raise(1);
+            break;
+        case 516:
+            MouseDown.Raise(2);
+            break;
+        case 517:
+            MouseUp.Raise(2);
+            break;
         case 515:
-        case 518: DblClick.Raise(); break;
-        default: break;
+        case 518:
+            DblClick.Raise();
+            break;
+        default:
+            break;
     }
 }

@@ -16,14 +16,14 @@ struct ShapeRow {
 };
 
 constexpr ShapeRow kShapes[] = {
-    {ShapeKind::RoundedRectangle, 15, 15, 10875, 2835, kBody, kRim},     // body
-    {ShapeKind::Oval, 420, 600, 840, 840, kKnob, 0x707070},              // selector
-    {ShapeKind::Rectangle, 2520, 240, 3180, 780, kWell, kRim},           // upper display
-    {ShapeKind::Rectangle, 2520, 1140, 3180, 780, kWell, kRim},          // lower display
-    {ShapeKind::Oval, 6510, 420, 1200, 1200, kKnob, 0x707070},           // knob
-    {ShapeKind::RoundedRectangle, 8100, 1740, 1020, 345, kWell, kRim},   // auto-throttle slot
-    {ShapeKind::RoundedRectangle, 8520, 720, 180, 780, kWell, kRim},     // flaps slot
-    {ShapeKind::RoundedRectangle, 9660, 480, 840, 1920, kKnob, 0x707070},  // trim wheel
+    {ShapeKind::RoundedRectangle, 15, 15, 10875, 2835, kBody, kRim},       // body
+    {ShapeKind::Oval, 420, 600, 840, 840, kKnob, 0x707070},                // selector
+    {ShapeKind::Rectangle, 2520, 240, 3180, 780, kWell, kRim},             // upper display
+    {ShapeKind::Rectangle, 2520, 1140, 3180, 780, kWell, kRim},            // lower display
+    {ShapeKind::Oval, 6510, 420, 1200, 1200, kKnob, 0x707070},             // knob
+    {ShapeKind::RoundedRectangle, 8100, 1740, 1020, 345, kWell, kRim},     // auto-throttle slot
+    {ShapeKind::RoundedRectangle, 8520, 720, 180, 780, kWell, kRim},       // flaps slot
+    {ShapeKind::RoundedRectangle, 9660, 480, 840, 1905, kKnob, 0x707070},  // trim wheel
 };
 
 struct CaptionRow {
@@ -33,17 +33,24 @@ struct CaptionRow {
 };
 
 constexpr CaptionRow kCaptions[] = {
-    {540, 255, 600, Alignment::Center, "ALT"},   {90, 390, 390, Alignment::Center, "VS"},
-    {30, 795, 360, Alignment::Center, "IAS"},    {30, 1140, 360, Alignment::Center, "HDG"},
-    {210, 1500, 420, Alignment::Center, "CRS"},  {8010, 1485, 1200, Alignment::Center, "AUTO THROTTLE"},
-    {8070, 2115, 540, Alignment::Center, "OFF"}, {8610, 2115, 540, Alignment::Center, "ARM"},
-    {8250, 210, 720, Alignment::Center, "FLAPS"}, {8310, 465, 600, Alignment::Center, "UP"},
-    {8820, 1185, 480, Alignment::Left, "DN"},    {9540, 180, 1080, Alignment::Center, "PITCH TRIM"},
+    {540, 255, 600, Alignment::Center, "ALT"},
+    {90, 390, 390, Alignment::Center, "VS"},
+    {30, 795, 360, Alignment::Center, "IAS"},
+    {30, 1140, 360, Alignment::Center, "HDG"},
+    {210, 1500, 420, Alignment::Center, "CRS"},
+    {7860, 1500, 1500, Alignment::Center, "AUTO THROTTLE"},
+    {8070, 2115, 540, Alignment::Center, "OFF"},
+    {8610, 2115, 540, Alignment::Center, "ARM"},
+    {8250, 210, 720, Alignment::Center, "FLAPS"},
+    {8310, 465, 600, Alignment::Center, "UP"},
+    {8820, 1185, 480, Alignment::Left, "DN"},
+    {9540, 180, 1080, Alignment::Center, "PITCH TRIM"},
 };
 
 }  // namespace
 
 MultiPanelBody::MultiPanelBody(Picture& panel) {
+    panel.BackColor = kBody;
     AddShapes(panel);
     AddCaptions(panel);
 }

@@ -78,6 +78,8 @@ void MultiPanelPicture::PlaceLabels() {
         label.Align = align;
     };
     place(labUpperValue, FontFace::SevenSegment, kDigits, Alignment::Right);
+    labUpperValue.FontHeight = 600;
+    labLowerValue.FontHeight = 600;
     labUpperValue.Move(2610, 330, 3000, 600);
     place(labLowerValue, FontFace::SevenSegment, kDigits, Alignment::Right);
     labLowerValue.Move(2610, 1230, 3000, 600);

@@ -32,7 +32,8 @@ class MultiPanelPicture {
     const MultiPanelBody body_;  // made first: all else lies in front of it
 
   public:
-    std::array<std::unique_ptr<Shape>, kMultiPanelButtons.size()> shpButton;  // as the buttons' table
+    std::array<std::unique_ptr<Shape>, kMultiPanelButtons.size()>
+        shpButton;  // as the buttons' table
     Label labUpperValue;
     Label labLowerValue;
     Label labUpperMode;

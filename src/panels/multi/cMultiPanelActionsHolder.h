@@ -16,7 +16,8 @@ class cMultiPanelActionsHolder {
     int16_t TrimSensitivity = 4;  // step factor of the trim wheel
     uint8_t ReverseTrim = 0;
     uint8_t ReverseFlaps = 0;
-    uint8_t CourseSel = 1;  // course of the CRS position: 1 NAV1, 2 NAV2, 0 what Radio Panel 1 shows
+    uint8_t CourseSel =
+        1;  // course of the CRS position: 1 NAV1, 2 NAV2, 0 what Radio Panel 1 shows
 
     int16_t GetRotAcceleration(int32_t Position) const;
     const ActionRecord& GetButtonsActions(int32_t Button) const;

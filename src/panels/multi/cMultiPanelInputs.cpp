@@ -60,7 +60,8 @@ void cMultiPanelLogic::Rotary(int16_t Direction, int16_t Speed) {
             courseValue_ = OnCompass(courseValue_ + step);
             WriteOffset(offsetOf(SecondCourse() ? kCourse2Row : kCourse1Row), 2, courseValue_);
             break;
-        default: break;
+        default:
+            break;
     }
 }
 
@@ -86,8 +87,7 @@ void cMultiPanelLogic::Trim(int16_t Direction, int16_t Speed) {
     const bool up = (Direction == 1) != (MPActions->ReverseTrim == 1);
     cOFFSET trim(session_.Fsuipc, kElevatorTrim, 2);
     trim.DirectRead(true);
-    trim.SetData(
-        std::clamp(trim.Data() + (up ? step : -step), -kFullDeflection, kFullDeflection));
+    trim.SetData(std::clamp(trim.Data() + (up ? step : -step), -kFullDeflection, kFullDeflection));
     trim.DirectWrite(true);
 }
 

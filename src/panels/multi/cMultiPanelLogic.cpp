@@ -95,10 +95,17 @@ void cMultiPanelLogic::RefreshTexts() {
             SetNumber(upperText_, altitudeValue_, 5);
             SetNumber(lowerText_, verticalSpeed_, 1);
             return;
-        case 3: SetNumber(upperText_, RoundHalfEven(speedValue_), 1); break;
-        case 4: SetNumber(upperText_, headingBug_, 3); break;
-        case 5: SetNumber(upperText_, courseValue_, 3); break;
-        default: return;
+        case 3:
+            SetNumber(upperText_, RoundHalfEven(speedValue_), 1);
+            break;
+        case 4:
+            SetNumber(upperText_, headingBug_, 3);
+            break;
+        case 5:
+            SetNumber(upperText_, courseValue_, 3);
+            break;
+        default:
+            return;
     }
     lowerText_.clear();
 }

@@ -13,9 +13,7 @@ std::string_view Strip(std::string_view text) {
     return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
 }
 
-std::string_view UpToNul(std::string_view text) {
-    return text.substr(0, text.find('\0'));
-}
+std::string_view UpToNul(std::string_view text) { return text.substr(0, text.find('\0')); }
 
 std::string_view WithoutQuotes(std::string_view value) {
     const bool quoted = value.size() >= 2 && value.front() == value.back() &&

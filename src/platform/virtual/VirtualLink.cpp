@@ -5,9 +5,7 @@ VirtualLink::VirtualLink(VirtualBus& bus, MessageLoop& loop,
                          std::shared_ptr<int> reading)
     : bus_(bus), loop_(loop), starts_(std::move(starts)), reading_(std::move(reading)) {}
 
-VirtualLink::~VirtualLink() {
-    VirtualLink::StopReading();
-}
+VirtualLink::~VirtualLink() { VirtualLink::StopReading(); }
 
 void VirtualLink::StartReading() {
     StopReading();

@@ -19,9 +19,7 @@ void VirtualLoop::RunPending() {
     while (const auto next = Next(now, firstLater)) RunAt(*next);
 }
 
-void VirtualLoop::Post(std::function<void()> task) {
-    After(0, std::move(task));
-}
+void VirtualLoop::Post(std::function<void()> task) { After(0, std::move(task)); }
 
 void VirtualLoop::After(uint32_t milliseconds, std::function<void()> task) {
     const Place place{clock_.Elapsed() + milliseconds, nextSerial_++};

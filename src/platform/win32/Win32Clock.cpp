@@ -2,10 +2,6 @@
 
 #include <windows.h>
 
-uint32_t Win32Clock::GetTickCount() {
-    return ::GetTickCount();
-}
+uint32_t Win32Clock::GetTickCount() { return ::GetTickCount(); }
 
-void Win32Clock::Sleep(uint32_t milliseconds) {
-    ::Sleep(milliseconds);
-}
+void Win32Clock::Sleep(uint32_t milliseconds) { ::Sleep(milliseconds); }

@@ -42,6 +42,4 @@ bool Win32Files::Replace(const std::string& from, const std::string& to) {
                        MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0;
 }
 
-bool Win32Files::Delete(const std::string& path) {
-    return DeleteFileA(path.c_str()) != 0;
-}
+bool Win32Files::Delete(const std::string& path) { return DeleteFileA(path.c_str()) != 0; }

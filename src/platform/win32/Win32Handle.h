@@ -33,12 +33,6 @@ class Win32Handle {
 };
 
 // The ports carry handles and windows as plain numbers.
-inline uintptr_t ToNumber(void* handle) {
-    return reinterpret_cast<uintptr_t>(handle);
-}
-inline HANDLE ToHandle(uintptr_t number) {
-    return reinterpret_cast<HANDLE>(number);
-}
-inline HWND ToWindow(uintptr_t number) {
-    return reinterpret_cast<HWND>(number);
-}
+inline uintptr_t ToNumber(void* handle) { return reinterpret_cast<uintptr_t>(handle); }
+inline HANDLE ToHandle(uintptr_t number) { return reinterpret_cast<HANDLE>(number); }
+inline HWND ToWindow(uintptr_t number) { return reinterpret_cast<HWND>(number); }

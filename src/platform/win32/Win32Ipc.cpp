@@ -75,6 +75,4 @@ uintptr_t Win32Ipc::SendMessageTimeoutA(uintptr_t window, uint32_t message, uint
     return answered;
 }
 
-uint32_t Win32Ipc::GetLastError() {
-    return lastError_;
-}
+uint32_t Win32Ipc::GetLastError() { return lastError_; }

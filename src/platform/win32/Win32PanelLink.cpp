@@ -26,9 +26,7 @@ Win32Handle OpenForReading(const std::string& path) {
 Win32PanelLink::Win32PanelLink(MessageLoop& loop, std::shared_ptr<const Win32HidLibrary> hid)
     : loop_(loop), hid_(std::move(hid)) {}
 
-Win32PanelLink::~Win32PanelLink() {
-    StopReading();
-}
+Win32PanelLink::~Win32PanelLink() { StopReading(); }
 
 void Win32PanelLink::StartReading() {
     if (reader_) return;

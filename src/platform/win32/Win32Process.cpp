@@ -6,9 +6,7 @@ Win32Process::~Win32Process() {
     for (const uintptr_t claim : claims_) CloseHandle(ToHandle(claim));
 }
 
-uint32_t Win32Process::GetCurrentProcessId() {
-    return ::GetCurrentProcessId();
-}
+uint32_t Win32Process::GetCurrentProcessId() { return ::GetCurrentProcessId(); }
 
 uint32_t Win32Process::ProcessOfWindow(uintptr_t window) {
     DWORD process = 0;

@@ -4,9 +4,7 @@
 
 namespace {
 
-ScreenRect FromRect(const RECT& rect) {
-    return {rect.left, rect.top, rect.right, rect.bottom};
-}
+ScreenRect FromRect(const RECT& rect) { return {rect.left, rect.top, rect.right, rect.bottom}; }
 
 BOOL CALLBACK AddMonitor(HMONITOR, HDC, RECT* rect, LPARAM monitors) {
     reinterpret_cast<std::vector<ScreenRect>*>(monitors)->push_back(FromRect(*rect));

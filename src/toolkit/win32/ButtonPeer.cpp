@@ -13,6 +13,4 @@ void ButtonPeer::OnCommand(UINT code) {
     if (code == BN_CLICKED) button_.Press();
 }
 
-void ButtonPeer::FollowMore() {
-    SetText(button_.Caption);
-}
+void ButtonPeer::FollowMore() { SetText(button_.Caption); }

@@ -12,23 +12,17 @@ namespace {
 
 constexpr int kCornerTwips = 90;
 
-int Scaled(int32_t twips) {
-    return ToPixels(twips, Canvas::kScale);
-}
+int Scaled(int32_t twips) { return ToPixels(twips, Canvas::kScale); }
 
 // A thin pen stays visible, none is none.
-int PenWidth(int32_t twips) {
-    return twips <= 0 ? 0 : std::max(1, Scaled(twips));
-}
+int PenWidth(int32_t twips) { return twips <= 0 ? 0 : std::max(1, Scaled(twips)); }
 
 RECT AreaOf(const Control& control) {
     return {Scaled(control.Left), Scaled(control.Top), Scaled(control.Left + control.Width),
             Scaled(control.Top + control.Height)};
 }
 
-COLORREF ToColor(Color color) {
-    return static_cast<COLORREF>(color) & 0xFFFFFF;
-}
+COLORREF ToColor(Color color) { return static_cast<COLORREF>(color) & 0xFFFFFF; }
 
 bool IsIn(HDC dc, const Control& control) {
     RECT area = DrawnArea(control);

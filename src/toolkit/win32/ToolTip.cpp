@@ -8,9 +8,7 @@ ToolTip::ToolTip(HWND window)
           WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX, 0, 0, 0,
           0, GetAncestor(window, GA_ROOT), nullptr, GetModuleHandleW(nullptr), nullptr)) {}
 
-ToolTip::~ToolTip() {
-    DestroyWindow(tip_);
-}
+ToolTip::~ToolTip() { DestroyWindow(tip_); }
 
 void ToolTip::Set(UINT part, const RECT& area, const std::wstring& text) {
     TTTOOLINFOW tool{};

@@ -11,6 +11,4 @@ inline int ToPixels(int32_t twips, int scale = 1) {
     return static_cast<int>((twice + half) / (2 * kTwipsPerPixel));
 }
 
-inline int32_t ToTwips(int pixels) {
-    return pixels * kTwipsPerPixel;
-}
+inline int32_t ToTwips(int pixels) { return pixels * kTwipsPerPixel; }

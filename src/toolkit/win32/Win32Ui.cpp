@@ -109,9 +109,7 @@ Win32Ui::Win32Ui() : fonts_(std::make_unique<FontCache>()) {
     keyHook_ = SetWindowsHookExW(WH_GETMESSAGE, FilterKeys, nullptr, GetCurrentThreadId());
 }
 
-Win32Ui::~Win32Ui() {
-    UnhookWindowsHookEx(static_cast<HHOOK>(keyHook_));
-}
+Win32Ui::~Win32Ui() { UnhookWindowsHookEx(static_cast<HHOOK>(keyHook_)); }
 
 std::unique_ptr<Peer> Win32Ui::MakePeer(Control& control) {
     PeerMaker maker(*fonts_);
