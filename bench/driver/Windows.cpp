@@ -1,0 +1,144 @@
+#include "bench/driver/Windows.h"
+
+#include <commctrl.h>
+
+#include <utility>
+
+#include "bench/driver/RemoteMemory.h"
+
+namespace {
+
+constexpr UINT kPatienceMs = 3000;
+constexpr int kTrayIconWidth = 20;
+
+LRESULT Send(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
+    DWORD_PTR result = 0;
+    SendMessageTimeoutA(window, message, wParam, lParam, SMTO_ABORTIFHUNG, kPatienceMs, &result);
+    return static_cast<LRESULT>(result);
+}
+
+struct Search {
+    DWORD process = 0;
+    const char* className = nullptr;
+    std::optional<std::string> text;
+    HWND found = nullptr;
+};
+
+BOOL CALLBACK Look(HWND window, LPARAM parameter) {
+    auto& search = *reinterpret_cast<Search*>(parameter);
+    DWORD process = 0;
+    GetWindowThreadProcessId(window, &process);
+    if (search.process != 0 && process != search.process) return TRUE;
+    char className[128] = "";
+    GetClassNameA(window, className, sizeof className);
+    if (search.className && lstrcmpiA(search.className, className) != 0) return TRUE;
+    if (search.text && TextOf(window) != *search.text) return TRUE;
+    search.found = window;
+    return FALSE;
+}
+
+RECT TrayIconPlace() {
+    RECT place{};
+    const HWND taskBar = FindWindowA("Shell_TrayWnd", nullptr);
+    if (taskBar && GetWindowRect(taskBar, &place)) place.left = place.right - kTrayIconWidth;
+    return place;
+}
+
+uint64_t PictureOf(const RECT& place) {
+    const int width = place.right - place.left;
+    const int height = place.bottom - place.top;
+    if (width <= 0 || height <= 0) return 0;
+    const HDC screen = GetDC(nullptr);
+    const HDC copy = CreateCompatibleDC(screen);
+    BITMAPINFO info{};
+    info.bmiHeader.biSize = sizeof info.bmiHeader;
+    info.bmiHeader.biWidth = width;
+    info.bmiHeader.biHeight = height;
+    info.bmiHeader.biPlanes = 1;
+    info.bmiHeader.biBitCount = 32;
+    void* bits = nullptr;
+    const HBITMAP bitmap = CreateDIBSection(copy, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
+    uint64_t sum = 0;
+    if (bitmap) {
+        const HGDIOBJ before = SelectObject(copy, bitmap);
+        BitBlt(copy, 0, 0, width, height, screen, place.left, place.top, SRCCOPY);
+        GdiFlush();
+        sum = 14695981039346656037u;
+        for (int i = 0; i < width * height; ++i) {
+            sum = (sum ^ (static_cast<const uint32_t*>(bits)[i] & 0xFFFFFF)) * 1099511628211u;
+        }
+        SelectObject(copy, before);
+        DeleteObject(bitmap);
+    }
+    DeleteDC(copy);
+    ReleaseDC(nullptr, screen);
+    return sum;
+}
+
+}  // namespace
+
+HWND FindWindowOf(DWORD process, const char* className, const std::string& title) {
+    Search search{process, className, title};
+    EnumWindows(Look, reinterpret_cast<LPARAM>(&search));
+    return search.found;
+}
+
+HWND FindChild(HWND parent, const char* className, const std::optional<std::string>& text) {
+    Search search{0, className, text};
+    if (parent) EnumChildWindows(parent, Look, reinterpret_cast<LPARAM>(&search));
+    return search.found;
+}
+
+std::string TextOf(HWND window) {
+    char text[1024] = "";
+    Send(window, WM_GETTEXT, sizeof text, reinterpret_cast<LPARAM>(text));
+    return text;
+}
+
+std::vector<std::string> StatusTexts(HWND statusBar) {
+    std::vector<std::string> texts;
+    const RemoteMemory memory(statusBar, 1024);
+    const LRESULT parts = Send(statusBar, SB_GETPARTS);
+    for (LRESULT i = 0; i < parts && memory.Address() != 0; ++i) {
+        char text[1024] = "";
+        Send(statusBar, SB_GETTEXTA, static_cast<WPARAM>(i), memory.Address());
+        memory.Read(text, sizeof text - 1);
+        texts.emplace_back(text);
+    }
+    return texts;
+}
+
+void PressButton(HWND button) { PostMessageA(button, BM_CLICK, 0, 0); }
+
+void PressBoxButton(HWND box, int button) { PressButton(GetDlgItem(box, button)); }
+
+std::string BoxText(HWND box) { return TextOf(GetDlgItem(box, 0xFFFF)); }
+
+bool ClickTab(HWND tabs, int index) {
+    const RemoteMemory memory(tabs, sizeof(RECT));
+    RECT place{};
+    if (memory.Address() == 0 ||
+        !Send(tabs, TCM_GETITEMRECT, static_cast<WPARAM>(index), memory.Address()) ||
+        !memory.Read(&place, sizeof place)) {
+        return false;
+    }
+    const LPARAM point = MAKELPARAM((place.left + place.right) / 2, (place.top + place.bottom) / 2);
+    PostMessageA(tabs, WM_LBUTTONDOWN, MK_LBUTTON, point);
+    PostMessageA(tabs, WM_LBUTTONUP, 0, point);
+    return true;
+}
+
+bool DoubleClickTrayIcon() {
+    const HWND taskBar = FindWindowA("Shell_TrayWnd", nullptr);
+    RECT place{};
+    if (!taskBar || !GetClientRect(taskBar, &place)) return false;
+    const LPARAM point = MAKELPARAM(place.right - kTrayIconWidth / 2, place.bottom / 2);
+    return PostMessageA(taskBar, WM_LBUTTONDBLCLK, MK_LBUTTON, point) != 0;
+}
+
+uint64_t PictureOf(HWND window) {
+    RECT place{};
+    return GetWindowRect(window, &place) ? PictureOf(place) : 0;
+}
+
+uint64_t PictureOfTrayIcon() { return PictureOf(TrayIconPlace()); }

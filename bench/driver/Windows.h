@@ -1,0 +1,40 @@
+#pragma once
+
+#include <windows.h>
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+// Work with the windows of another process. A window that doesn't answer within a few seconds
+// counts as one that is not there.
+
+// First window of the process with this class (none: any) and this title. Hidden ones count.
+HWND FindWindowOf(DWORD process, const char* className, const std::string& title);
+
+// First child, at any depth, with this class and, if given, this text.
+HWND FindChild(HWND parent, const char* className, const std::optional<std::string>& text);
+
+std::string TextOf(HWND window);
+
+// Texts of the parts of a status bar.
+std::vector<std::string> StatusTexts(HWND statusBar);
+
+// Presses a button. Returns before what it starts is over.
+void PressButton(HWND button);
+// The same for the button of a message box that has this number (IDOK, IDCANCEL).
+void PressBoxButton(HWND box, int button);
+// The text of a message box.
+std::string BoxText(HWND box);
+
+// Clicks a tab, from 0.
+bool ClickTab(HWND tabs, int index);
+
+// Double click on the icon at the right end of the task bar.
+bool DoubleClickTrayIcon();
+
+// A number for what the screen shows in a window's place, or in the place of that icon; 0 when it
+// can't be had.
+uint64_t PictureOf(HWND window);
+uint64_t PictureOfTrayIcon();

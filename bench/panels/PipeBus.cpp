@@ -1,0 +1,57 @@
+#include "bench/panels/PipeBus.h"
+
+#include <windows.h>
+
+#include <fstream>
+
+#include "base/Text.h"
+#include "bench/console/Command.h"
+
+PipeBus::PipeBus(const std::string& folder) : list_(folder + "\\panels.txt") { WriteList(); }
+
+PipeBus::~PipeBus() { DeleteFileA(list_.c_str()); }
+
+bool PipeBus::PlugIn(std::shared_ptr<VirtualPanel> panel) {
+    // hid.dll takes the numbers from the name, since a handle without rights can't ask for them.
+    const std::string path = "\\\\.\\pipe\\orvo-bench-vid_" + HexText(kPanelVendor, 4) + "&pid_" +
+                             HexText(panel->Kind().productId, 4) + "#" +
+                             std::to_string(panel->Number()) + "-" +
+                             std::to_string(GetCurrentProcessId());
+    devices_.push_back(std::make_unique<PipeDevice>(std::move(panel), path));
+    if (WaitNamedPipeA(path.c_str(), 2000) && WriteList()) return true;
+    devices_.pop_back();
+    return false;
+}
+
+void PipeBus::Unplug(const VirtualPanel& panel) {
+    std::erase_if(devices_, [&](const auto& device) { return &device->Panel() == &panel; });
+    WriteList();
+}
+
+void PipeBus::Send(const VirtualPanel& panel, const VirtualPanel::Report& report) {
+    if (PipeDevice* device = Find(panel)) device->Send(report);
+}
+
+int PipeBus::Readers(const VirtualPanel& panel) {
+    PipeDevice* device = Find(panel);
+    return device ? device->Readers() : 0;
+}
+
+void PipeBus::Pause(uint32_t milliseconds) { ::Sleep(milliseconds); }
+
+PipeDevice* PipeBus::Find(const VirtualPanel& panel) const {
+    for (const auto& device : devices_) {
+        if (&device->Panel() == &panel) return device.get();
+    }
+    return nullptr;
+}
+
+bool PipeBus::WriteList() const {
+    const std::string fresh = list_ + ".new";
+    {
+        std::ofstream file(fresh, std::ios::trunc);
+        for (const auto& device : devices_) file << device->Path() << "\n";
+        if (!file.flush()) return false;
+    }
+    return MoveFileExA(fresh.c_str(), list_.c_str(), MOVEFILE_REPLACE_EXISTING) != 0;
+}

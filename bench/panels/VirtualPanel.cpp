@@ -1,0 +1,51 @@
+#include "bench/panels/VirtualPanel.h"
+
+#include <utility>
+
+namespace {
+
+constexpr size_t kLogLimit = 10000;
+
+VirtualPanel::Report ReportOf(uint32_t state) {
+    return {0, static_cast<uint8_t>(state >> 16), static_cast<uint8_t>(state >> 8),
+            static_cast<uint8_t>(state)};
+}
+
+}  // namespace
+
+VirtualPanel::VirtualPanel(const PanelKind& kind, int number)
+    : kind_(kind), number_(number), state_(kind.startState) {}
+
+std::string VirtualPanel::Name() const { return std::string(kind_.name) + std::to_string(number_); }
+
+VirtualPanel::Report VirtualPanel::Change(uint32_t bits, uint32_t mask) {
+    const std::lock_guard hold(lock_);
+    state_ = (state_ & ~mask) | bits;
+    return ReportOf(state_);
+}
+
+std::vector<uint8_t> VirtualPanel::Positions() const {
+    const std::lock_guard hold(lock_);
+    const Report report = ReportOf(state_);
+    std::vector<uint8_t> positions(report.begin(), report.end());
+    positions.resize(kind_.featureSize);
+    return positions;
+}
+
+void VirtualPanel::TakeFeature(std::span<const uint8_t> report) {
+    const std::lock_guard hold(lock_);
+    last_.assign(report.begin(), report.end());
+    if (features_.size() == kLogLimit) features_.pop_front();
+    features_.push_back(last_);
+}
+
+std::vector<std::string> VirtualPanel::TakeFeatures() {
+    const std::lock_guard hold(lock_);
+    const std::deque<std::string> features = std::exchange(features_, {});
+    return {features.begin(), features.end()};
+}
+
+std::string VirtualPanel::Show() const {
+    const std::lock_guard hold(lock_);
+    return last_.empty() ? "untouched" : DescribeFeature(kind_, last_);
+}

@@ -1,0 +1,112 @@
+#include "bench/sim/AircraftModel.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <iterator>
+
+#include "base/Bytes.h"
+#include "base/Number.h"
+
+namespace {
+
+constexpr size_t kLogLimit = 10000;
+constexpr uint32_t kTitle = 0x3D00;
+constexpr size_t kTitleSize = 256;
+constexpr uint32_t kGearHandle = 0x0BE8;
+constexpr uint32_t kGearPositions[] = {0x0BEC, 0x0BF0, 0x0BF4};
+constexpr int32_t kGearDown = 16383;
+constexpr double kGearTravelMs = 6000;
+constexpr uint32_t kControl = 0x3110;
+constexpr size_t kControlSize = 8;
+constexpr uint32_t kRadioSwap = 0x3123;
+
+struct Radio {
+    uint8_t swapBit;
+    uint32_t active;
+    uint32_t standby;
+};
+constexpr Radio kRadios[] = {
+    {8, 0x034E, 0x311A},  // COM1
+    {4, 0x3118, 0x311C},  // COM2
+    {2, 0x0350, 0x311E},  // NAV1
+    {1, 0x0352, 0x3120},  // NAV2
+};
+
+template <class T>
+std::vector<T> TakeAll(std::deque<T>& log) {
+    std::vector<T> all(std::make_move_iterator(log.begin()), std::make_move_iterator(log.end()));
+    log.clear();
+    return all;
+}
+
+template <class T>
+void Append(std::deque<T>& log, T entry) {
+    if (log.size() == kLogLimit) log.pop_front();
+    log.push_back(std::move(entry));
+}
+
+}  // namespace
+
+AircraftModel::AircraftModel(OffsetServer& space)
+    : space_(space),
+      written_(space.Written.Connect(
+          [this](uint32_t offset, std::span<const uint8_t> bytes) { TakeWrite(offset, bytes); })) {
+    space_.SetVersion(0x39990005, 8);
+    SetTitle("Bench Trainer");
+    space_.Set<int32_t>(0x281C, 1);  // battery
+    space_.Set<int32_t>(0x2E80, 1);  // avionics
+    space_.Set<uint16_t>(0x07CC, RoundTo<uint16_t>(80 * 65536.0 / 360));
+    space_.Set<int32_t>(0x07D4, RoundTo<int32_t>(5000 / 3.28084 * 65536));
+    space_.Set<int16_t>(0x07E2, 120);
+    space_.Set<uint16_t>(0x0C4E, 90);
+    space_.Set<uint16_t>(0x0C5E, 270);
+    space_.Set<int32_t>(kGearHandle, kGearDown);
+    gear_ = kGearDown;
+    uint16_t frequency = 0x1810;
+    for (const Radio& radio : kRadios) {
+        space_.Set<uint16_t>(radio.active, frequency++);
+        space_.Set<uint16_t>(radio.standby, frequency++);
+    }
+    MoveTo(0);
+}
+
+void AircraftModel::SetTitle(std::string_view title) {
+    std::vector<uint8_t> bytes(kTitleSize);
+    std::ranges::copy(title.substr(0, kTitleSize - 1), bytes.begin());
+    space_.SetBytes(kTitle, bytes);
+}
+
+void AircraftModel::MoveTo(uint32_t milliseconds) {
+    const uint32_t passed = milliseconds - lastMove_;
+    lastMove_ = milliseconds;
+    const double travel = passed * kGearDown / kGearTravelMs;
+    const auto wanted = static_cast<double>(space_.Get<int32_t>(kGearHandle));
+    gear_ += std::clamp(wanted - gear_, -travel, travel);
+    for (const uint32_t position : kGearPositions) {
+        space_.Set<int32_t>(position, RoundTo<int32_t>(gear_));
+    }
+}
+
+std::vector<AircraftModel::Write> AircraftModel::TakeWrites() { return TakeAll(writes_); }
+
+std::vector<AircraftModel::Control> AircraftModel::TakeControls() { return TakeAll(controls_); }
+
+void AircraftModel::TakeWrite(uint32_t offset, std::span<const uint8_t> bytes) {
+    Append(writes_, {offset, {bytes.begin(), bytes.end()}});
+    if (offset == kControl && bytes.size() == kControlSize) {
+        Append(controls_, {static_cast<int32_t>(LoadLE32(&bytes[0])),
+                           static_cast<int32_t>(LoadLE32(&bytes[4]))});
+    }
+    if (offset <= kRadioSwap && offset + bytes.size() > kRadioSwap) SwapRadios();
+}
+
+void AircraftModel::SwapRadios() {
+    const auto wanted = space_.Get<uint8_t>(kRadioSwap);
+    for (const Radio& radio : kRadios) {
+        if ((wanted & radio.swapBit) == 0) continue;
+        const auto active = space_.Get<uint16_t>(radio.active);
+        space_.Set<uint16_t>(radio.active, space_.Get<uint16_t>(radio.standby));
+        space_.Set<uint16_t>(radio.standby, active);
+    }
+    space_.Set<uint8_t>(kRadioSwap, 0);
+}
