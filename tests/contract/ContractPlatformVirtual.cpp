@@ -9,17 +9,11 @@ ContractPlatform::ContractPlatform() : machine_(std::make_unique<Machine>()) {
 
 ContractPlatform::~ContractPlatform() = default;
 
-Platform ContractPlatform::Ports() {
-    return machine_->Ports();
-}
+Platform ContractPlatform::Ports() { return machine_->Ports(); }
 
-std::string ContractPlatform::Path(const std::string& name) const {
-    return "C:\\Orvo\\" + name;
-}
+std::string ContractPlatform::Path(const std::string& name) const { return "C:\\Orvo\\" + name; }
 
-std::string ContractPlatform::UnwritablePath() const {
-    return Path("missing\\file.ini");
-}
+std::string ContractPlatform::UnwritablePath() const { return Path("missing\\file.ini"); }
 
 void ContractPlatform::Put(const std::string& path, const std::string& content) {
     machine_->files.Put(path, content);

@@ -24,17 +24,13 @@ ContractPlatform::~ContractPlatform() {
     std::filesystem::remove_all(machine_->folder, ignored);
 }
 
-Platform ContractPlatform::Ports() {
-    return machine_->platform.Ports();
-}
+Platform ContractPlatform::Ports() { return machine_->platform.Ports(); }
 
 std::string ContractPlatform::Path(const std::string& name) const {
     return (machine_->folder / name).string();
 }
 
-std::string ContractPlatform::UnwritablePath() const {
-    return Path("missing\\file.ini");
-}
+std::string ContractPlatform::UnwritablePath() const { return Path("missing\\file.ini"); }
 
 void ContractPlatform::Put(const std::string& path, const std::string& content) {
     std::ofstream(path, std::ios::binary) << content;

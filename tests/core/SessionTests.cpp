@@ -1,0 +1,238 @@
+#include <gtest/gtest.h>
+
+#include "support/Cockpit.h"
+
+namespace {
+
+using Reports = std::vector<VirtualDevice::Report>;
+
+const VirtualDevice::Report kDark = {0, 15, 15, 15, 15, 15, 15, 15, 15, 15, 15, 0, 0};
+
+struct SessionTest : testing::Test, Cockpit {
+    VirtualDevice& panel = Plug(PanelKind::Multi);
+
+    void Turn(int32_t bit, int pulses) {
+        for (int i = 0; i < pulses; ++i) {
+            const auto high = static_cast<uint8_t>((bit | MultiPanelBit::kSelectorHDG) >> 16);
+            panel.SendReport({0, high, 0, 0});
+            panel.SendReport({0, MultiPanelBit::kSelectorHDG >> 16, 0, 0});
+        }
+        machine.loop.RunPending();
+    }
+    std::string Texts() {
+        return Window().Status.Text.Get() + "|" + Window().FSUIPCver.Text.Get() + "|" +
+               Window().FSver.Text.Get() + "|" + Window().Aircraft.Text.Get();
+    }
+    void LoseSimulator() {
+        machine.ipc.RemoveWindows();
+        machine.ipc.AnswerWith(0);
+        Tick();
+        machine.ipc.AnswerWith(0, 0);
+    }
+    const TrayRecord& Icon() { return machine.tray.records.back().second; }
+
+    static constexpr const char* kDisconnected =
+        "FSUIPC Status: Disconnected|FSUIPC Version:|Flight Simulator Version:|Aircraft in use:";
+};
+
+TEST_F(SessionTest, LooksForTheSimulatorOnceASecond) {
+    ASSERT_TRUE(Start());
+    EXPECT_EQ(Texts(), kDisconnected);
+    machine.loop.Advance(5000);
+    EXPECT_EQ(machine.ipc.CallCount(IpcCall::FindWindowExA), 10U) << "two classes, five times";
+    EXPECT_EQ(Texts(), kDisconnected);
+}
+
+TEST_F(SessionTest, SimulatorComesUp) {
+    ASSERT_TRUE(Start());
+    machine.ipc.AddWindow("UIPCMAIN");
+    machine.loop.Advance(1000);
+    EXPECT_EQ(Texts(),
+              "FSUIPC Status: Connected|FSUIPC Version: 3.9990|Flight Simulator Version: FSX|"
+              "Aircraft in use:");
+    EXPECT_EQ(Icon().icon, TrayIcon::Green);
+    EXPECT_EQ(Icon().tip, "Connected...");
+    EXPECT_EQ(program->Session.FSVersion, 8);
+    Tick();
+    EXPECT_EQ(Window().Aircraft.Text.Get(), "Aircraft in use: Baron 58");
+    machine.ipc.ForgetSentMessages();
+    machine.loop.Advance(1000);
+    EXPECT_EQ(machine.ipc.SentMessages().size(), 100U) << "one exchange in 10 ms";
+}
+
+TEST_F(SessionTest, SimulatorNumbersBeyondTheListShowAsNumbers) {
+    const std::pair<uint16_t, const char*> cases[] = {
+        {0, "Any"}, {10, "P3D"}, {11, "11"}, {300, "300"}};
+    ASSERT_TRUE(Start());
+    for (const auto& [number, name] : cases) {
+        machine.server.SetVersion(0x41530000, number);
+        Connect();
+        EXPECT_EQ(Window().FSver.Text.Get(), std::string("Flight Simulator Version: ") + name);
+        EXPECT_EQ(Window().FSUIPCver.Text.Get(), "FSUIPC Version: 4.1530");
+        LoseSimulator();
+    }
+}
+
+TEST_F(SessionTest, AircraftIsBoundWhenItsTitleChanges) {
+    int bindings = 0;
+    const ScopedConnection reads = machine.server.Reading.Connect(
+        [&](uint32_t offset, uint32_t) { bindings += offset == 0x060C ? 1 : 0; });
+    machine.server.Set<int16_t>(0x060C, 1);
+    ASSERT_TRUE(Start());
+    Connect();
+    Tick();
+    EXPECT_EQ(bindings, 1);
+    EXPECT_TRUE(program->Session.GearIsRetractable);
+    SetTitle("");
+    Tick();
+    EXPECT_EQ(bindings, 1);
+    EXPECT_EQ(Window().Aircraft.Text.Get(), "Aircraft in use: ");
+    SetTitle("Baron 58");
+    Tick();
+    EXPECT_EQ(bindings, 1) << "an empty title in between changes nothing";
+    SetTitle("Cessna");
+    Tick();
+    SetTitle("Baron 58");
+    Tick();
+    EXPECT_EQ(bindings, 3);
+    LoseSimulator();
+    Connect();
+    EXPECT_EQ(bindings, 3) << "coming back to the same aircraft";
+}
+
+TEST_F(SessionTest, TitleIsReadAsSixtyBytes) {
+    ASSERT_TRUE(Start());
+    SetTitle(std::string(100, 'T'));
+    Connect();
+    EXPECT_EQ(Window().Aircraft.Text.Get(), "Aircraft in use: " + std::string(60, 'T'));
+}
+
+TEST_F(SessionTest, KnobAtHeadingMovesTheSimulatorAndThePanelShowsIt) {
+    panel.positions = {0, 0x08, 0, 0};
+    machine.server.Set<uint16_t>(0x07CC, 14564);  // 80 degrees
+    ASSERT_TRUE(Start());
+    Connect();
+    Tick();
+    EXPECT_EQ(panel.featureReports.back(),
+              (VirtualDevice::Report{0, 10, 10, 0, 8, 0, 10, 10, 10, 10, 10, 0, 0}));
+    Turn(MultiPanelBit::kKnobClockwisePulse, 6);
+    machine.loop.Advance(300);
+    Turn(MultiPanelBit::kKnobCounterClockwisePulse, 2);
+    Tick();
+    EXPECT_EQ(machine.server.Get<uint16_t>(0x07CC), 14928) << "82 degrees";
+    Tick();
+    EXPECT_EQ(panel.featureReports.back()[5], 2);
+    EXPECT_EQ(Multi().OnScreen.labUpperValue.Caption.Get(), "082");
+    const size_t sent = panel.featureReports.size();
+    machine.loop.Advance(1000);
+    EXPECT_EQ(panel.featureReports.size(), sent) << "no change, no report";
+}
+
+TEST_F(SessionTest, InputWithoutASessionIsDropped) {
+    ASSERT_TRUE(Start());
+    Turn(MultiPanelBit::kKnobClockwisePulse, 6);
+    Connect();
+    Tick();
+    EXPECT_EQ(machine.server.Get<uint16_t>(0x07CC), 0);
+}
+
+TEST_F(SessionTest, LostSessionDarkensThePanelAndIsFoundAgain) {
+    panel.positions = {0, 0x08, 0, 0};
+    ASSERT_TRUE(Start());
+    Connect();
+    const uint32_t shape = program->Session.OffsetTable.Shape();
+    LoseSimulator();
+    EXPECT_FALSE(program->Session.FSConnected);
+    EXPECT_EQ(Texts(), kDisconnected);
+    EXPECT_EQ(Icon().tip, "Waiting FS connection...");
+    EXPECT_EQ(panel.featureReports.back(), kDark);
+    EXPECT_EQ(machine.ipc.OpenViews() + machine.ipc.OpenAtoms() + machine.ipc.OpenMappings(), 0U);
+    machine.loop.Advance(3000);
+    EXPECT_EQ(panel.featureReports.back(), kDark);
+    Connect();
+    Tick();
+    EXPECT_EQ(Window().Status.Text.Get(), "FSUIPC Status: Connected");
+    EXPECT_EQ(Window().Aircraft.Text.Get(), "Aircraft in use: Baron 58");
+    EXPECT_NE(panel.featureReports.back(), kDark);
+    EXPECT_EQ(program->Session.OffsetTable.Shape(), shape) << "no entry twice";
+}
+
+TEST_F(SessionTest, ServersThatMisbehaveEndTheSessionAndNothingElse) {
+    ASSERT_TRUE(Start());
+    machine.ipc.AddWindow("UIPCMAIN");
+    machine.loop.Advance(1000);
+    machine.ipc.AfterServing([](std::span<uint8_t> block) { block[0] = 9; });
+    Tick();
+    EXPECT_FALSE(program->Session.FSConnected) << "garbage";
+    machine.loop.Advance(5000);
+    EXPECT_EQ(Texts(), kDisconnected);
+    machine.ipc.AfterServing({});
+    machine.loop.Advance(2000);
+    EXPECT_TRUE(program->Session.FSConnected);
+    machine.ipc.TimeOut(11);
+    Tick();
+    EXPECT_FALSE(program->Session.FSConnected) << "silence";
+}
+
+TEST_F(SessionTest, AutoQuitLeavesWithTheSimulator) {
+    ASSERT_TRUE(Start("Splash=0\r\nAutoQuit=1\r\n"));
+    Connect();
+    LoseSimulator();
+    EXPECT_TRUE(Window().IsUnloaded());
+    EXPECT_TRUE(machine.loop.QuitWasCalled());
+    EXPECT_NE(machine.files.Look("C:\\Orvo\\Orvo.ini")->find("OrvoPriority=32"), std::string::npos);
+    const size_t looked = machine.ipc.CallCount(IpcCall::FindWindowExA);
+    machine.loop.Advance(3000);
+    EXPECT_EQ(machine.ipc.CallCount(IpcCall::FindWindowExA), looked) << "no tick any more";
+}
+
+TEST_F(SessionTest, QuittingIsAskedForAndEndsInOrder) {
+    ASSERT_TRUE(Start());
+    Connect();
+    ui.Answer = [](const MsgBoxRequest&) { return MsgBoxResult::Cancel; };
+    Window().btnQuit.Press();
+    EXPECT_FALSE(Window().IsUnloaded());
+    ui.Answer = [&](const MsgBoxRequest& box) {
+        EXPECT_EQ(box.text, "           Are you sure ?\nQuitting will stop the panels.");
+        EXPECT_EQ(box.title, " ORVO - Quit request");
+        const size_t sent = machine.ipc.SentMessages().size();
+        machine.loop.Advance(100);
+        EXPECT_EQ(machine.ipc.SentMessages().size(), sent + 10) << "the tick goes on under the box";
+        return MsgBoxResult::Ok;
+    };
+    Window().btnQuit.Press();
+    EXPECT_TRUE(machine.loop.QuitWasCalled());
+    EXPECT_EQ(machine.tray.records.back().first, 2U);
+    EXPECT_EQ(machine.ipc.OpenViews(), 0U);
+    EXPECT_EQ(machine.hid.OpenCount(), 1U) << "the panel ends with the window's own end";
+    panel.SendReport({0, 0x28, 0, 0});
+    program.reset();
+    EXPECT_EQ(panel.featureReports.back(), kDark);
+    EXPECT_EQ(machine.hid.OpenCount(), 0U);
+    EXPECT_EQ(machine.deckhub.ReadingCount(), 0);
+    EXPECT_EQ(machine.loop.TimerCount(), 0U);
+}
+
+TEST_F(SessionTest, UnpluggedPanelDisturbsNobody) {
+    VirtualDevice& second = Plug(PanelKind::Multi, 2);
+    second.positions = {0, 0x08, 0, 0};
+    ASSERT_TRUE(Start());
+    Connect();
+    panel.Unplug();
+    machine.server.Set<uint16_t>(0x07CC, 32768);
+    machine.loop.Advance(100);
+    EXPECT_EQ(second.featureReports.back()[3], 1);
+    EXPECT_TRUE(program->Session.FSConnected);
+    EXPECT_TRUE(ui.Boxes.empty());
+}
+
+TEST_F(SessionTest, UnwritableFolderDoesNotKeepItFromEnding) {
+    machine.files.Protect("C:\\Orvo");
+    ASSERT_TRUE(Start("Splash=0\r\nAutoQuit=1\r\n"));
+    Connect();
+    LoseSimulator();
+    EXPECT_TRUE(machine.loop.QuitWasCalled());
+    EXPECT_TRUE(ui.Boxes.empty());
+}
+
+}  // namespace

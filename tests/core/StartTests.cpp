@@ -1,0 +1,158 @@
+#include <algorithm>
+#include <gtest/gtest.h>
+
+#include "support/Cockpit.h"
+
+namespace {
+
+struct StartTest : testing::Test, Cockpit {
+    std::vector<std::string> Tabs() {
+        std::vector<std::string> captions;
+        for (const auto& tab : Window().tabMain.Tabs()) captions.push_back(tab.caption);
+        return captions;
+    }
+};
+
+TEST_F(StartTest, SecondInstanceShowsOneBoxAndTouchesNothing) {
+    machine.process.HoldInstance("Orvo");
+    Plug(PanelKind::Multi);
+    EXPECT_FALSE(Start());
+    ASSERT_EQ(ui.Boxes.size(), 1U);
+    EXPECT_EQ(ui.Boxes[0].text, "Orvo is already running...");
+    EXPECT_EQ(ui.Boxes[0].title, "Orvo");
+    EXPECT_TRUE(machine.tray.records.empty());
+    EXPECT_TRUE(machine.deckhub.Starts().empty());
+    EXPECT_EQ(program->Window(), nullptr);
+}
+
+TEST_F(StartTest, NoPanelsEndsWithOneBoxAndNoTick) {
+    EXPECT_FALSE(Start());
+    ASSERT_EQ(ui.Boxes.size(), 1U);
+    EXPECT_EQ(ui.Boxes[0].text, "No Panel found, check your connections !");
+    EXPECT_EQ(ui.Boxes[0].title, "  Orvo");
+    EXPECT_TRUE(Window().IsUnloaded());
+    EXPECT_EQ(machine.loop.TimerCount(), 0U);
+    EXPECT_EQ(machine.tray.records.back().first, 2U) << "the icon is gone";
+}
+
+TEST_F(StartTest, LoadWithoutPanelsSetsUpOneOfEach) {
+    ASSERT_TRUE(Start("LoadWithoutPanels=1\r\n"));
+    EXPECT_EQ(Tabs(), (std::vector<std::string>{"General", "Radio Panel 1", "Multi Panel 1",
+                                                "Switch Panel 1", "BIP Panel 1"}));
+    EXPECT_TRUE(ui.Boxes.empty());
+    Connect();
+    EXPECT_TRUE(program->Session.FSConnected);
+    EXPECT_TRUE(machine.deckhub.Starts().empty());
+    EXPECT_EQ(Multi().OnScreen.labUpperValue.Caption.Get(), "");
+    Multi().SelectorChange.Raise(MultiPanelBit::kSelectorHDG, 0);
+    Tick();
+    EXPECT_EQ(Multi().OnScreen.labUpperValue.Caption.Get(), "000") << "the screen works";
+    program.reset();
+    EXPECT_EQ(machine.hid.OpenCount(), 0U);
+}
+
+TEST_F(StartTest, PanelsAreNumberedByKindAndPath) {
+    Plug(PanelKind::BIP);
+    Plug(PanelKind::Radio, 2);
+    Plug(PanelKind::Radio, 1);
+    ASSERT_TRUE(Start("Splash=0\r\nDeckhubPriority=128\r\nDeckhubAffinity=6\r\n"));
+    EXPECT_EQ(Tabs(), (std::vector<std::string>{"General", "Radio Panel 1", "Radio Panel 2",
+                                                "BIP Panel 1"}));
+    EXPECT_EQ(Window().tabMain.Tabs()[2].key, "RadioPanel2");
+    EXPECT_EQ(machine.deckhub.Starts(), (std::vector<LinkStart>{{"RadioPanel1", 1500, 0, -1},
+                                                                {"RadioPanel2", 1500, 0, -1},
+                                                                {"BIPPanel1", 1500, 128, 6}}))
+        << "the readers of Switch and BIP Panels take the options";
+    EXPECT_EQ(machine.hid.OpenCount(), 3U);
+}
+
+TEST_F(StartTest, TabsShowThePageOfTheirPanel) {
+    Plug(PanelKind::Radio, 1);
+    Plug(PanelKind::Radio, 2);
+    Plug(PanelKind::Switch);
+    ASSERT_TRUE(Start());
+    const auto visible = [&](PanelKind kind, size_t n) {
+        return Window().Panels[kind][n]->control->Visible.Get();
+    };
+    Window().tabMain.Select(3);
+    EXPECT_FALSE(Window().picMain.Visible);
+    EXPECT_TRUE(visible(PanelKind::Radio, 1));
+    Window().tabMain.Select(4);
+    EXPECT_FALSE(visible(PanelKind::Radio, 1));
+    EXPECT_TRUE(visible(PanelKind::Switch, 0));
+    Window().tabMain.Select(1);
+    EXPECT_FALSE(visible(PanelKind::Switch, 0));
+    EXPECT_TRUE(Window().picMain.Visible);
+}
+
+TEST_F(StartTest, SystemWithoutDeviceListsEndsWithThreeLines) {
+    machine.deckhub.RefuseEnumerator();
+    EXPECT_FALSE(Start());
+    ASSERT_EQ(ui.Boxes.size(), 1U);
+    EXPECT_EQ(std::ranges::count(ui.Boxes[0].text, '\n'), 2);
+    EXPECT_TRUE(ui.Boxes[0].text.starts_with("Error starting the application\n"));
+}
+
+TEST_F(StartTest, PanelThatCannotBeOpenedIsNoObstacle) {
+    Plug(PanelKind::Multi);
+    machine.hid.Refuse(HidCall::Open);
+    ASSERT_TRUE(Start());
+    Connect();
+    EXPECT_TRUE(ui.Boxes.empty());
+    EXPECT_TRUE(program->Session.FSConnected);
+}
+
+TEST_F(StartTest, WindowIsHiddenUntilTheIconIsDoubleClicked) {
+    Plug(PanelKind::Multi);
+    ASSERT_TRUE(Start("Splash=0\r\nMainFormTop=1500\r\nMainFormLeft=3000\r\n"));
+    EXPECT_FALSE(Window().Visible);
+    EXPECT_EQ(Window().Top, 1500);
+    EXPECT_EQ(Window().Left, 3000);
+    EXPECT_EQ(machine.tray.records.back().second.tip, "Waiting FS connection...");
+    program->Windows.ModalWindowOpen = true;
+    machine.tray.MouseActivity.Raise(515);
+    EXPECT_FALSE(Window().Visible);
+    program->Windows.ModalWindowOpen = false;
+    machine.tray.MouseActivity.Raise(515);
+    EXPECT_TRUE(Window().Visible);
+}
+
+TEST_F(StartTest, PriorityAndAffinityComeFromTheOptions) {
+    Plug(PanelKind::Multi);
+    machine.process.SetAffinity(255);
+    ASSERT_TRUE(Start("Splash=0\r\nOrvoPriority=128\r\n"));
+    EXPECT_EQ(machine.process.Priority(VirtualProcess::kProcessId), 128U);
+    EXPECT_EQ(machine.process.Affinity(), 252U);
+}
+
+TEST_F(StartTest, SplashRunsToItsEndBeforeTheNextPanelConnects) {
+    VirtualDevice& first = Plug(PanelKind::Multi, 1);
+    Plug(PanelKind::Multi, 2);
+    size_t reportsAtSecondStart = 0;
+    machine.loop.After(1, [&] { EXPECT_EQ(machine.deckhub.Starts().size(), 1U); });
+    machine.loop.After(990, [&] { reportsAtSecondStart = machine.deckhub.Starts().size(); });
+    ASSERT_TRUE(Start(""));
+    EXPECT_EQ(first.featureReports.size(), 12U) << "ten pictures, an empty one, the dark one";
+    EXPECT_EQ(reportsAtSecondStart, 1U);
+    EXPECT_EQ(machine.deckhub.Starts().size(), 2U);
+}
+
+TEST_F(StartTest, SetupRequestReloadsTheBindingsAndReregisters) {
+    Plug(PanelKind::Multi);
+    ASSERT_TRUE(Start());
+    bool modalDuring = false;
+    Window().SetupWindows[static_cast<size_t>(PanelKind::Multi)] = [&] {
+        modalDuring = program->Windows.ModalWindowOpen;
+        auto& logic = static_cast<cMultiPanelLogic&>(*Unit(1).logic);
+        logic.MPActions->CourseSel = 2;
+    };
+    const uint32_t shape = program->Session.OffsetTable.Shape();
+    Multi().cmdSetup.Press();
+    EXPECT_TRUE(modalDuring);
+    EXPECT_FALSE(program->Windows.ModalWindowOpen);
+    EXPECT_EQ(program->Windows.SetupPanelIndex, 1);
+    EXPECT_EQ(static_cast<cMultiPanelLogic&>(*Unit(1).logic).MPActions->CourseSel, 1);
+    EXPECT_NE(program->Session.OffsetTable.Shape(), shape);
+}
+
+}  // namespace

@@ -1,0 +1,63 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "core/modMain.h"
+#include "panels/multi/cMultiPanelLogic.h"
+#include "panels/multi/ctlMultiPanel.h"
+#include "platform/virtual/VirtualPlatform.h"
+#include "toolkit/HeadlessUi.h"
+
+// The whole program on a virtual machine: panels are plugged and options put before Start.
+struct Cockpit {
+    VirtualPlatform machine;
+    HeadlessUi ui;
+    std::unique_ptr<modMain> program;
+
+    Cockpit() {
+        machine.server.SetVersion(0x39990005, 8);
+        machine.server.Set<int32_t>(0x281C, 1);
+        machine.server.Set<int32_t>(0x2E80, 1);
+        SetTitle("Baron 58");
+    }
+
+    VirtualDevice& Plug(PanelKind kind, int number = 1) {
+        const PanelIdentity& identity = kPanelIdentities[static_cast<size_t>(kind)];
+        return machine.bus.Add(kPanelVendorId, identity.productId,
+                               std::string(identity.key) + std::to_string(number));
+    }
+
+    void PutOptions(const std::string& keys) {
+        machine.files.Put("C:\\Orvo\\Orvo.ini", "[GeneralSetup]\r\n" + keys);
+    }
+
+    // Splash is off, for the tests that don't look at it.
+    bool Start(const std::string& options = "Splash=0\r\n") {
+        PutOptions(options);
+        program = std::make_unique<modMain>(machine.Ports(), ui);
+        return program->Main();
+    }
+
+    void SetTitle(const std::string& title) {
+        for (uint32_t i = 0; i < 256; ++i) {
+            machine.server.Set<char>(0x3D00 + i, i < title.size() ? title[i] : '\0');
+        }
+    }
+
+    // The simulator comes up and is found; one tick has read it.
+    void Connect() {
+        machine.ipc.AddWindow("UIPCMAIN");
+        machine.loop.Advance(1000);
+        Tick();
+    }
+    void Tick() { machine.loop.Advance(10); }
+
+    frmMain& Window() { return *program->Window(); }
+    ctlMultiPanel& Multi(int number = 1) {
+        return static_cast<ctlMultiPanel&>(*Unit(number).control);
+    }
+    PanelUnit& Unit(int number) {
+        return *Window().Panels[PanelKind::Multi][static_cast<size_t>(number - 1)];
+    }
+};

@@ -1,0 +1,216 @@
+#include <gtest/gtest.h>
+
+#include "toolkit/CommandButton.h"
+#include "toolkit/Form.h"
+#include "toolkit/Picture.h"
+#include "toolkit/StatusBar.h"
+#include "toolkit/TabStrip.h"
+#include "toolkit/win32/CommonControls.h"
+#include "toolkit/win32/SevenSegment.h"
+#include "toolkit/win32/WideText.h"
+#include "toolkit/win32/Win32Ui.h"
+#include "toolkit/win32/WindowPeer.h"
+
+namespace {
+
+HWND WindowOf(const Control& control) { return WindowPeer::Of(control)->Window(); }
+
+std::string TextOf(const Control& control) {
+    wchar_t text[100];
+    const int length = GetWindowTextW(WindowOf(control), text, 100);
+    return FromWide({text, static_cast<size_t>(length)});
+}
+
+void Pump() {
+    MSG message;
+    while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
+        TranslateMessage(&message);
+        DispatchMessageW(&message);
+    }
+}
+
+void PressTab() {
+    PostMessageW(GetFocus(), WM_KEYDOWN, VK_TAB, 0);
+    Pump();
+}
+
+void ClickAt(HWND window, int x, int y) {
+    SendMessageW(window, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(x, y));
+    SendMessageW(window, WM_LBUTTONUP, 0, MAKELPARAM(x, y));
+}
+
+COLORREF PixelOf(const Control& control, int x, int y) {
+    const HDC dc = GetDC(WindowOf(control));
+    const COLORREF color = GetPixel(dc, x, y);
+    ReleaseDC(WindowOf(control), dc);
+    return color;
+}
+
+struct PeerTest : testing::Test {
+    PeerTest() { form.Move(1500, 1500, 6000, 4208); }
+
+    Win32Ui ui;
+    Form form{ui};
+};
+
+}  // namespace
+
+TEST_F(PeerTest, NativeButtonClicksOnceAndMayBeChangedInItsHandler) {
+    Picture picture(&form);
+    CommandButton button(&picture);
+    button.Move(0, 0, 900, 330);
+    button.Caption = "Setup";
+    form.Load();
+    int clicks = 0;
+    button.Click.Connect([&] {
+        ++clicks;
+        button.Caption = "Caf\xE9 \x80";
+        button.Enabled = false;
+        button.Visible = false;
+    });
+    EXPECT_EQ(TextOf(button), "Setup");
+    SendMessageW(WindowOf(button), BM_CLICK, 0, 0);
+    EXPECT_EQ(clicks, 1);
+    EXPECT_EQ(TextOf(button), "Caf\xE9 \x80");
+    EXPECT_FALSE(IsWindowEnabled(WindowOf(button)));
+}
+
+TEST_F(PeerTest, TabsFollowBothWaysAndClickOnce) {
+    TabStrip tabs(&form);
+    tabs.Move(0, 0, 5000, 400);
+    for (const char* name : {"General", "Multi"}) tabs.AddTab(0, name, name);
+    form.Load();
+    const HWND window = WindowOf(tabs);
+    std::vector<int32_t> seen;
+    tabs.Click.Connect([&] { seen.push_back(tabs.SelectedItem()); });
+
+    tabs.Select(2);
+    EXPECT_EQ(SendMessageW(window, TCM_GETCURSEL, 0, 0), 1);
+    tabs.AddTab(1, "Radio", "Radio");
+    EXPECT_EQ(SendMessageW(window, TCM_GETITEMCOUNT, 0, 0), 3);
+    EXPECT_EQ(SendMessageW(window, TCM_GETCURSEL, 0, 0), 2);
+    EXPECT_EQ(seen, (std::vector<int32_t>{2}));
+
+    RECT first;
+    SendMessageW(window, TCM_GETITEMRECT, 0, reinterpret_cast<LPARAM>(&first));
+    ClickAt(window, first.left + 5, first.top + 5);
+    Pump();
+    EXPECT_EQ(seen, (std::vector<int32_t>{2, 1}));
+}
+
+TEST_F(PeerTest, StatusBarSharesTheWidthAndShowsItsTexts) {
+    StatusBar bar(&form);
+    bar.AddPanel("Status", "Session", 3);
+    StatusBar::Panel& version = bar.AddPanel("Version", "Version", 1);
+    form.Load();
+    version.Text = "\xA9 10";
+    wchar_t text[20];
+    SendMessageW(WindowOf(bar), SB_GETTEXTW, 1, reinterpret_cast<LPARAM>(text));
+    EXPECT_EQ(FromWide(text), "\xA9 10");
+
+    form.Width = 9000;
+    int ends[2];
+    ASSERT_EQ(SendMessageW(WindowOf(bar), SB_GETPARTS, 2, reinterpret_cast<LPARAM>(ends)), 2);
+    RECT client;
+    GetClientRect(WindowOf(form), &client);
+    EXPECT_EQ(ends[1], client.right);
+    EXPECT_NEAR(ends[0], client.right * 3 / 4, 1);
+}
+
+TEST_F(PeerTest, UsersMoveReachesTheFormAndHiddenWindowsFollowIt) {
+    form.Load();
+    EXPECT_FALSE(IsWindowVisible(WindowOf(form)));
+    SetWindowPos(WindowOf(form), nullptr, 33, 44, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+    EXPECT_EQ(form.Left, 33 * 15);
+    EXPECT_EQ(form.Top, 44 * 15);
+    EXPECT_EQ(form.Height, 4208) << "a fraction of a pixel is no change of size";
+
+    form.Left = 1200;
+    form.Caption = "Orvo";
+    RECT place;
+    GetWindowRect(WindowOf(form), &place);
+    EXPECT_EQ(place.left, 80);
+    EXPECT_EQ(place.top, 44);
+    EXPECT_EQ(TextOf(form), "Orvo");
+
+    EnableWindow(WindowOf(form), FALSE);
+    form.Caption = "Orvo 2";
+    EXPECT_FALSE(IsWindowEnabled(WindowOf(form))) << "as a message box has left it";
+
+    form.Width = 150;
+    EXPECT_EQ(form.Width, 150) << "the system's smallest width is no act of the user";
+}
+
+TEST_F(PeerTest, CloseBoxUnloadsOnceAndDestroysNothing) {
+    auto closing = std::make_unique<Form>(ui);
+    int unloads = 0;
+    closing->Unloaded.Connect([&] { ++unloads; });
+    closing->Load();
+    closing->Show();
+    const HWND window = WindowOf(*closing);
+    for (int i = 0; i < 2; ++i) SendMessageW(window, WM_CLOSE, 0, 0);
+    EXPECT_EQ(unloads, 1);
+    EXPECT_TRUE(IsWindow(window));
+    EXPECT_FALSE(IsWindowVisible(window));
+    closing.reset();
+    EXPECT_FALSE(IsWindow(window));
+}
+
+TEST_F(PeerTest, KeyboardAndStackGoByTheOrderOfChildren) {
+    CommandButton first(&form);
+    Container page(&form);
+    page.Move(0, 0, 900, 900);
+    CommandButton inner(&page);
+    CommandButton skipped(&page);
+    skipped.Enabled = false;
+    form.Load();
+    CommandButton last(&form);
+    form.Load();
+    EXPECT_EQ(GetWindow(WindowOf(form), GW_CHILD), WindowOf(last));
+
+    form.Show();
+    SetFocus(WindowOf(first));
+    for (const Control* next : {&inner, &last, &first, &inner}) {
+        PressTab();
+        EXPECT_EQ(GetFocus(), WindowOf(*next));
+    }
+
+    form.BringToFront(first);
+    EXPECT_EQ(GetWindow(WindowOf(form), GW_CHILD), WindowOf(first));
+    SetFocus(WindowOf(last));
+    PressTab();
+    EXPECT_EQ(GetFocus(), WindowOf(first));
+}
+
+TEST_F(PeerTest, PictureIsPaintedWhereItChangedAndOnlyWhenSeen) {
+    Picture picture(&form);
+    picture.Move(0, 0, 3000, 1500);
+    picture.BackColor = 0x202020;
+    Shape lamp(&picture);
+    lamp.Move(300, 300, 600, 600);
+    lamp.FillColor = 0x00FFFF;
+    form.Load();
+    lamp.FillColor = 0x00FF00;
+    EXPECT_FALSE(GetUpdateRect(WindowOf(picture), nullptr, FALSE));
+
+    form.Show();
+    Pump();
+    EXPECT_EQ(PixelOf(picture, 40, 40), 0x00FF00u);
+    EXPECT_EQ(PixelOf(picture, 100, 40), 0x202020u);
+
+    lamp.Left = 600;
+    RECT changed;
+    ASSERT_TRUE(GetUpdateRect(WindowOf(picture), &changed, FALSE));
+    EXPECT_LT(changed.right, 110) << "no more than the old place and the new one";
+    Pump();
+    EXPECT_EQ(PixelOf(picture, 30, 40), 0x202020u);
+    EXPECT_EQ(PixelOf(picture, 60, 40), 0x00FF00u);
+}
+
+TEST(SevenSegmentTest, PointJoinsTheDigitBeforeItAndLettersAreBlank) {
+    const SegmentCell blank{};
+    EXPECT_EQ(ToSegmentCells("-1.8,"),
+              (std::vector<SegmentCell>{{0x40, false}, {0x06, true}, {0x7F, true}}));
+    EXPECT_EQ(ToSegmentCells(" A"), (std::vector<SegmentCell>{blank, blank}));
+    EXPECT_EQ(ToSegmentCells("..").size(), 2u);
+}
