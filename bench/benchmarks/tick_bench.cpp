@@ -1,0 +1,60 @@
+// What a steady tick costs, against copying the bytes that it reads once.
+#include <atomic>
+#include <benchmark/benchmark.h>
+#include <cstdlib>
+#include <new>
+
+#include "support/Cockpit.h"
+
+namespace {
+
+std::atomic<size_t> allocations = 0;
+
+constexpr int kPanels = 4;
+// Multi Panel values, the power switches and the title.
+constexpr size_t kBytesRead = 8 * 4 + 3 * 4 + 5 * 2 + 60;
+
+void CopyOnce(benchmark::State& state) {
+    std::array<uint8_t, kBytesRead> from{}, to{};
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(from.data());
+        std::copy(from.begin(), from.end(), to.begin());
+        benchmark::DoNotOptimize(to.data());
+    }
+}
+BENCHMARK(CopyOnce);
+
+void SteadyTick(benchmark::State& state) {
+    Cockpit cockpit;
+    for (int n = 1; n <= kPanels; ++n) {
+        cockpit.Plug(PanelKind::Multi, n).positions = {0, 0x08, 0, 0};
+    }
+    cockpit.Start();
+    cockpit.Connect();
+    cockpit.machine.loop.Advance(1000);
+    frmMain& window = cockpit.Window();
+    size_t counted = 0;
+    for (auto _ : state) {
+        const size_t before = allocations;
+        window.timerFSUIPC.Tick.Raise();
+        counted += allocations - before;
+        state.PauseTiming();
+        cockpit.machine.ipc.ForgetSentMessages();
+        state.ResumeTiming();
+    }
+    state.counters["allocations/tick"] =
+        static_cast<double>(counted) / static_cast<double>(state.iterations());
+}
+BENCHMARK(SteadyTick)->Iterations(10000);
+
+}  // namespace
+
+void* operator new(size_t size) {
+    ++allocations;
+    if (void* memory = std::malloc(size)) return memory;
+    throw std::bad_alloc();
+}
+void operator delete(void* memory) noexcept { std::free(memory); }
+void operator delete(void* memory, size_t) noexcept { std::free(memory); }
+
+BENCHMARK_MAIN();
