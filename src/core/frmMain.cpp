@@ -26,9 +26,9 @@ frmMain::frmMain(const MainServices& services)
       Status(barMain.AddPanel("Status", "Connection status between Orvo and Flight Simulator", 23)),
       FSUIPCver(barMain.AddPanel(
           "FSUIPCver", "FSUIPC version installed in currently loaded Flight Simulator", 20)),
-      FSver(barMain.AddPanel("FSver", "Currently loaded Flight Simulator Version", 22)),
+      FSver(barMain.AddPanel("FSver", "Currently loaded Flight Simulator Version", 27)),
       Aircraft(barMain.AddPanel("Aircraft",
-                                "Name of the aircraft currently in use in Flight Simulator", 35)),
+                                "Name of the aircraft currently in use in Flight Simulator", 30)),
       trayMain(services.platform.tray),
       timerFSUIPC(services.platform.loop, kWaitingIntervalMs),
       services_(services),

@@ -28,23 +28,17 @@ constexpr ShapeRow kShapes[] = {
 
 struct CaptionRow {
     int32_t left, top, width;
-    Alignment align;
+    int32_t fontHeight;
     const char* text;
 };
 
 constexpr CaptionRow kCaptions[] = {
-    {540, 255, 600, Alignment::Center, "ALT"},
-    {90, 390, 390, Alignment::Center, "VS"},
-    {30, 795, 360, Alignment::Center, "IAS"},
-    {30, 1140, 360, Alignment::Center, "HDG"},
-    {210, 1500, 420, Alignment::Center, "CRS"},
-    {7860, 1500, 1500, Alignment::Center, "AUTO THROTTLE"},
-    {8070, 2115, 540, Alignment::Center, "OFF"},
-    {8610, 2115, 540, Alignment::Center, "ARM"},
-    {8250, 210, 720, Alignment::Center, "FLAPS"},
-    {8310, 465, 600, Alignment::Center, "UP"},
-    {8820, 1185, 480, Alignment::Left, "DN"},
-    {9540, 180, 1080, Alignment::Center, "PITCH TRIM"},
+    {540, 270, 600, 135, "ALT"},    {150, 420, 330, 135, "VS"},
+    {30, 750, 330, 135, "IAS"},     {30, 1125, 330, 135, "HDG"},
+    {240, 1500, 390, 135, "CRS"},   {7860, 1500, 1500, 165, "AUTO THROTTLE"},
+    {8070, 2115, 540, 165, "OFF"},  {8610, 2115, 540, 165, "ARM"},
+    {8250, 210, 720, 165, "FLAPS"}, {8310, 465, 600, 165, "UP"},
+    {8820, 1185, 330, 165, "DN"},   {9540, 180, 1080, 165, "PITCH TRIM"},
 };
 
 }  // namespace
@@ -70,9 +64,9 @@ void MultiPanelBody::AddCaptions(Picture& panel) {
     for (const CaptionRow& row : kCaptions) {
         auto label = std::make_unique<Label>(&panel);
         label->Caption = row.text;
-        label->Align = row.align;
+        label->Align = Alignment::Center;
         label->ForeColor = kPrint;
-        label->FontHeight = 165;
+        label->FontHeight = row.fontHeight;
         label->Move(row.left, row.top, row.width, 225);
         parts_.push_back(std::move(label));
     }

@@ -1,0 +1,174 @@
+// The shipping Orvo.exe with the simulator stand-in and virtual panels, each in a process of its
+// own. Every wait has a deadline, so every test has one.
+
+#include <windows.h>
+
+#include <filesystem>
+#include <gtest/gtest.h>
+#include <memory>
+#include <string>
+
+#include "bench/console/Command.h"
+#include "bench/driver/Cockpit.h"
+#include "bench/driver/Until.h"
+#include "bench/flight/ScriptedFlight.h"
+
+namespace {
+
+constexpr uint32_t kSoonMs = 10000;
+// A silent server holds the program for eleven calls of two seconds.
+constexpr uint32_t kAfterSilenceMs = 40000;
+constexpr char kConnected[] = "FSUIPC Status: Connected";
+constexpr char kDisconnected[] = "FSUIPC Status: Disconnected";
+constexpr char kDark[] = "upper dark lower dark lights none";
+
+class EndToEnd : public testing::Test {
+  protected:
+    static std::unique_ptr<Cockpit> MakeCockpit(const std::string& folder) {
+        char self[MAX_PATH] = "";
+        GetModuleFileNameA(nullptr, self, MAX_PATH);
+        const auto bench = std::filesystem::path(self).parent_path();
+        return std::make_unique<Cockpit>((bench.parent_path() / "Orvo.exe").string(),
+                                         (bench / "e2e" / folder).string());
+    }
+
+    void SetUp() override { ASSERT_TRUE(cockpit_->IsReady()); }
+
+    void PlugIn(const std::string& panel) { EXPECT_EQ(cockpit_->Panels("add multi"), panel); }
+
+    void StartConnected() {
+        cockpit_->StartSimulator();
+        cockpit_->StartPanels();
+        PlugIn("multi1");
+        cockpit_->StartOrvo();
+        ASSERT_TRUE(cockpit_->StatusBecomes(0, kConnected, kSoonMs));
+    }
+
+    void ExpectQuits() {
+        EXPECT_TRUE(cockpit_->QuitByUser());
+        EXPECT_EQ(cockpit_->Orvo().WaitForEnd(0), 0u);
+    }
+
+    // Batches that the simulator gets in the next three seconds.
+    int64_t BatchesInThreeSeconds() {
+        const auto count = [this] {
+            return ParseNumber(cockpit_->Simulator("batches"), 0, INT32_MAX).value_or(0);
+        };
+        const int64_t before = count();
+        ::Sleep(3000);
+        return count() - before;
+    }
+
+    std::unique_ptr<Cockpit> cockpit_ =
+        MakeCockpit(testing::UnitTest::GetInstance()->current_test_info()->name());
+};
+
+// Waits for a box of this title, reads it and presses OK.
+std::string AnswerBox(const Cockpit& cockpit, const std::string& title) {
+    HWND box = nullptr;
+    if (!Until(kSoonMs, [&] { return (box = cockpit.Box(title)) != nullptr; })) return "no box";
+    const std::string text = BoxText(box);
+    PressBoxButton(box, IDOK);
+    return text;
+}
+
+TEST_F(EndToEnd, FliesTheScriptedFlight) {
+    EXPECT_TRUE(ScriptedFlight(*cockpit_, FlightLog(false)).Fly());
+}
+
+TEST_F(EndToEnd, WithoutPanelsSaysSoAndEnds) {
+    cockpit_->StartOrvo();
+    EXPECT_EQ(AnswerBox(*cockpit_, "  Orvo"), "No Panel found, check your connections !");
+    EXPECT_EQ(cockpit_->Orvo().WaitForEnd(kSoonMs), 0u);
+}
+
+TEST_F(EndToEnd, WithoutPanelsRunsIfToldToButNotTwice) {
+    cockpit_->WriteIni("[GeneralSetup]\r\nLoadWithoutPanels=1\r\n");
+    cockpit_->StartSimulator();
+    cockpit_->StartOrvo();
+    ASSERT_TRUE(cockpit_->StatusBecomes(0, kConnected, kSoonMs));
+
+    const auto second = MakeCockpit("SecondInstance");
+    second->StartOrvo();
+    EXPECT_EQ(AnswerBox(*second, "Orvo"), "Orvo is already running...");
+    EXPECT_TRUE(second->Orvo().WaitForEnd(kSoonMs));
+    ExpectQuits();
+}
+
+TEST_F(EndToEnd, AutoQuitLeavesWithTheSimulator) {
+    cockpit_->WriteIni("[GeneralSetup]\r\nAutoQuit=1\r\n");
+    StartConnected();
+    cockpit_->KillSimulator();
+    EXPECT_EQ(cockpit_->Orvo().WaitForEnd(kAfterSilenceMs), 0u);
+    EXPECT_EQ(cockpit_->Panels("show multi1"), kDark);
+    char kept[8] = "";
+    GetPrivateProfileStringA("GeneralSetup", "AutoQuit", "", kept, sizeof kept,
+                             (cockpit_->Folder() + "\\Orvo.ini").c_str());
+    EXPECT_STREQ(kept, "1");
+}
+
+TEST_F(EndToEnd, APanelThatVanishesHurtsNothingElse) {
+    cockpit_->StartSimulator();
+    cockpit_->StartPanels();
+    PlugIn("multi1");
+    PlugIn("multi2");
+    cockpit_->StartOrvo();
+    ASSERT_TRUE(cockpit_->StatusBecomes(0, kConnected, kSoonMs));
+    EXPECT_EQ(cockpit_->Panels("unplug multi1"), "ok");
+
+    cockpit_->Panels("selector multi2 HDG");
+    cockpit_->Panels("knob multi2 +1 60");
+    EXPECT_TRUE(
+        cockpit_->PanelBecomes("multi2", "upper \"  081\" lower \"     \" lights none", kSoonMs));
+
+    cockpit_->KillSimulator();
+    ASSERT_TRUE(cockpit_->StatusBecomes(0, kDisconnected, kSoonMs));
+    const uint64_t before = cockpit_->Orvo().ProcessorTime();
+    ::Sleep(2000);
+    EXPECT_LT(cockpit_->Orvo().ProcessorTime() - before, 500u) << "ms of 2000: a reader spins";
+    ExpectQuits();
+}
+
+TEST_F(EndToEnd, ABadServerEndsTheSessionAndIsTriedOnceASecond) {
+    StartConnected();
+    struct Case {
+        const char* fault;
+        int64_t batchesPerTry;
+    };
+    // Zeros don't break a session; they only keep a new one from coming up, after five batches.
+    for (const auto& [fault, batchesPerTry] : {Case{"garbage", 1}, {"reply 0", 1}, {"zeros", 5}}) {
+        SCOPED_TRACE(fault);
+        cockpit_->Simulator(batchesPerTry == 1 ? fault : "reply 0");
+        EXPECT_TRUE(cockpit_->StatusBecomes(0, kDisconnected, kSoonMs));
+        cockpit_->Simulator("normal");
+        cockpit_->Simulator("hide");
+        cockpit_->Simulator(fault);
+        cockpit_->Simulator("show");
+        const int64_t batches = BatchesInThreeSeconds();
+        EXPECT_GE(batches, batchesPerTry);
+        EXPECT_LE(batches, 4 * batchesPerTry);
+        EXPECT_EQ(cockpit_->Status().at(0), kDisconnected);
+        cockpit_->Simulator("normal");
+        EXPECT_TRUE(cockpit_->StatusBecomes(0, kConnected, kSoonMs));
+    }
+    ExpectQuits();
+}
+
+TEST_F(EndToEnd, ASilentServerEndsTheSession) {
+    StartConnected();
+    cockpit_->Simulator("silent");
+    EXPECT_TRUE(cockpit_->PanelBecomes("multi1", kDark, kAfterSilenceMs));
+    cockpit_->Simulator("normal");
+    EXPECT_TRUE(cockpit_->StatusBecomes(0, kConnected, kAfterSilenceMs));
+    ExpectQuits();
+}
+
+TEST_F(EndToEnd, RunsWhereItsFileCannotBeWritten) {
+    // A folder of that name can be neither read nor replaced.
+    std::filesystem::create_directory(cockpit_->Folder() + "\\Orvo.ini");
+    StartConnected();
+    ExpectQuits();
+    EXPECT_TRUE(std::filesystem::is_directory(cockpit_->Folder() + "\\Orvo.ini"));
+}
+
+}  // namespace
