@@ -4,6 +4,8 @@
 #include <limits>
 #include <vector>
 
+#include "base/Number.h"
+
 namespace {
 
 constexpr int64_t kLastOffset = OffsetServer::kSpaceSize - 1;
@@ -18,6 +20,7 @@ std::string SimConsole::Answer(const Command& command) {
     if (command.name == "writes") return Writes();
     if (command.name == "controls") return Controls();
     if (command.name == "batches") return std::to_string(state_.Batches());
+    if (command.name == "pace") return Pace(command);
     if (command.name == "client") return "0x" + HexText(state_.Space().ClientVersion(), 4);
     if (command.name == "version") return Version(command);
     if (command.name == "reply") return Reply(command);
@@ -75,6 +78,15 @@ std::string SimConsole::Version(const Command& command) {
     if (!version || !simulator) return "error: version NUMBER [SIMULATOR]";
     state_.Space().SetVersion(static_cast<uint32_t>(*version), static_cast<uint16_t>(*simulator));
     return "ok";
+}
+
+std::string SimConsole::Pace(const Command& command) {
+    const auto intervals = ParseNumber(command.Argument(0), 1, 10000);
+    if (!intervals) return "error: pace INTERVALS, 1 to 10000";
+    const auto pace = state_.TakePace(static_cast<size_t>(*intervals));
+    if (!pace) return "none";
+    return "median " + FormatPlain(pace->median, 3) + " ms, 99th percentile " +
+           FormatPlain(pace->percentile99, 3) + " ms";
 }
 
 std::string SimConsole::Reply(const Command& command) {

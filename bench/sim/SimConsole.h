@@ -20,6 +20,7 @@ class SimConsole {
     std::string Get(const Command& command);
     std::string Set(const Command& command);
     std::string Version(const Command& command);
+    std::string Pace(const Command& command);
     std::string Reply(const Command& command);
     std::string Show(bool visible);
     std::string Writes();

@@ -1,7 +1,10 @@
 #pragma once
 
+#include <chrono>
 #include <cstdint>
+#include <optional>
 #include <span>
+#include <vector>
 
 #include "bench/sim/AircraftModel.h"
 #include "platform/virtual/OffsetServer.h"
@@ -27,6 +30,14 @@ class SimState {
     Fault GetFault() const { return fault_; }
     uint64_t Batches() const { return batches_; }
 
+    // Milliseconds between one batch and the next.
+    struct Pace {
+        double median;
+        double percentile99;
+    };
+    // Of the batches that came since the last call of this kind; none before there are `intervals`.
+    std::optional<Pace> TakePace(size_t intervals);
+
   private:
     void Damage(std::span<uint8_t> block) const;
 
@@ -35,4 +46,5 @@ class SimState {
     Fault fault_ = Fault::None;
     uint32_t reply_ = 1;
     uint64_t batches_ = 0;
+    std::vector<std::chrono::steady_clock::time_point> arrivals_;
 };
