@@ -4,7 +4,7 @@
 #include <cstdlib>
 #include <new>
 
-#include "support/Cockpit.h"
+#include "support/VirtualCockpit.h"
 
 namespace {
 
@@ -25,7 +25,7 @@ void CopyOnce(benchmark::State& state) {
 BENCHMARK(CopyOnce);
 
 void SteadyTick(benchmark::State& state) {
-    Cockpit cockpit;
+    VirtualCockpit cockpit;
     for (int n = 1; n <= kPanels; ++n) {
         cockpit.Plug(PanelKind::Multi, n).positions = {0, 0x08, 0, 0};
     }

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "support/Cockpit.h"
+#include "support/VirtualCockpit.h"
 
 namespace {
 
@@ -8,7 +8,7 @@ using Reports = std::vector<VirtualDevice::Report>;
 
 const VirtualDevice::Report kDark = {0, 15, 15, 15, 15, 15, 15, 15, 15, 15, 15, 0, 0};
 
-struct SessionTest : testing::Test, Cockpit {
+struct SessionTest : testing::Test, VirtualCockpit {
     VirtualDevice& panel = Plug(PanelKind::Multi);
 
     void Turn(int32_t bit, int pulses) {

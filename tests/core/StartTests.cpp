@@ -1,11 +1,11 @@
 #include <algorithm>
 #include <gtest/gtest.h>
 
-#include "support/Cockpit.h"
+#include "support/VirtualCockpit.h"
 
 namespace {
 
-struct StartTest : testing::Test, Cockpit {
+struct StartTest : testing::Test, VirtualCockpit {
     std::vector<std::string> Tabs() {
         std::vector<std::string> captions;
         for (const auto& tab : Window().tabMain.Tabs()) captions.push_back(tab.caption);

@@ -1,10 +1,10 @@
 #include <gtest/gtest.h>
 
-#include "support/Cockpit.h"
+#include "support/VirtualCockpit.h"
 
 namespace {
 
-struct MultiPanelLogicTest : testing::Test, Cockpit {
+struct MultiPanelLogicTest : testing::Test, VirtualCockpit {
     VirtualDevice& device = Plug(PanelKind::Multi);
 
     MultiPanelLogicTest() {

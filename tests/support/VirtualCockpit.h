@@ -10,12 +10,12 @@
 #include "toolkit/HeadlessUi.h"
 
 // The whole program on a virtual machine: panels are plugged and options put before Start.
-struct Cockpit {
+struct VirtualCockpit {
     VirtualPlatform machine;
     HeadlessUi ui;
     std::unique_ptr<modMain> program;
 
-    Cockpit() {
+    VirtualCockpit() {
         machine.server.SetVersion(0x39990005, 8);
         machine.server.Set<int32_t>(0x281C, 1);
         machine.server.Set<int32_t>(0x2E80, 1);
