@@ -3,6 +3,7 @@
 #include <windows.h>
 
 #include <algorithm>
+#include <utility>
 
 #include "platform/win32/Win32HiddenWindow.h"
 #include "platform/win32/Win32TimerThread.h"
@@ -13,7 +14,9 @@ namespace {
 // RunPending can leave it out with two ranges.
 constexpr UINT kWake = 0xBFFF;
 
-constexpr UINT_PTR kGiveWayTimer = 1;
+// No number of a timer of the program.
+constexpr MessageLoop::TimerId kGiveWayTimer = 0;
+constexpr uint32_t kGiveWayMs = 1;
 
 // A window that asks to be painted for ever, or posts to itself, must not hold a pass.
 constexpr int kMessagesPerPass = 1000;
@@ -113,6 +116,7 @@ MessageLoop::TimerId Win32Loop::StartTimer(uint32_t intervalMs, std::function<vo
 }
 
 void Win32Loop::StopTimer(TimerId timer) {
+    if (timer == kGiveWayTimer) return;
     timerThread_->Stop(timer);
     const std::lock_guard lock(mutex_);
     std::erase_if(timers_, [timer](const auto& known) { return known->id == timer; });
@@ -121,6 +125,11 @@ void Win32Loop::StopTimer(TimerId timer) {
 // On the timer thread.
 void Win32Loop::MarkDue(TimerId timer) {
     const std::lock_guard lock(mutex_);
+    if (timer == kGiveWayTimer) {
+        wakeWaits_ = false;
+        Wake();
+        return;
+    }
     for (const auto& known : timers_) {
         if (known->id != timer || known->waiting != 0) continue;
         known->waiting = ++lastNumber_;
@@ -134,27 +143,27 @@ void Win32Loop::Wake() {
 
 intptr_t Win32Loop::Handle(void* window, uint32_t message, uintptr_t wParam, intptr_t lParam) {
     const HWND own = static_cast<HWND>(window);
-    if (message == kWake) {
-        TakeWake();
-    } else if (message == WM_TIMER && wParam == kGiveWayTimer) {
-        KillTimer(own, kGiveWayTimer);
-        PostMessageW(own, kWake, 0, 0);
-    } else {
-        return DefWindowProcW(own, message, wParam, lParam);
-    }
+    if (message != kWake) return DefWindowProcW(own, message, wParam, lParam);
+    TakeWake();
     return 0;
 }
 
 void Win32Loop::TakeWake() {
     uint64_t last = 0;
+    bool givesWay = false;
     {
         const std::lock_guard lock(mutex_);
         if (FirstNumber() > batchEnd_) {
             batchEnd_ = lastNumber_;
-            if (crowded_ && GiveWay()) return;
+            givesWay = MustGiveWay();
         }
-        wakeWaits_ = false;
+        // While it gives way it counts as woken, so that no one else wakes it.
+        wakeWaits_ = givesWay;
         last = lastNumber_;
+    }
+    if (givesWay) {
+        timerThread_->StartOnce(kGiveWayTimer, kGiveWayMs);
+        return;
     }
     RunFirst(last);
     const std::lock_guard lock(mutex_);
@@ -162,11 +171,10 @@ void Win32Loop::TakeWake() {
 }
 
 // Posted messages go before input and painting. When one batch of work follows upon another
-// without a gap, this lets the waiting ones through: a timer message comes last of all.
-bool Win32Loop::GiveWay() {
-    crowded_ = false;
-    if (HIWORD(GetQueueStatus(QS_INPUT | QS_PAINT)) == 0) return false;
-    return SetTimer(window_->Get(), kGiveWayTimer, USER_TIMER_MINIMUM, nullptr) != 0;
+// without a gap, a pause lets the waiting ones through: short, so that ticks keep their pace, and
+// not by the system's timer messages, which are coarse and come last of all.
+bool Win32Loop::MustGiveWay() {
+    return std::exchange(crowded_, false) && HIWORD(GetQueueStatus(QS_INPUT | QS_PAINT)) != 0;
 }
 
 // Runs what came first if it came no later than `last`.

@@ -41,7 +41,7 @@ class Win32Loop final : public MessageLoop {
 
     intptr_t Handle(void* window, uint32_t message, uintptr_t wParam, intptr_t lParam);
     void TakeWake();
-    bool GiveWay();
+    bool MustGiveWay();
     bool RunFirst(uint64_t last);
     void MarkDue(TimerId timer);
     // These three need the lock.

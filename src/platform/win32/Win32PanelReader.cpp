@@ -36,6 +36,28 @@ void ApplyAffinity(int32_t mask) {
     SetThreadAffinityMask(GetCurrentThread(), static_cast<uint32_t>(mask));
 }
 
+// ERROR_NO_SUCH_DEVICE, which not all headers have.
+constexpr DWORD kNoSuchDevice = 433;
+
+// Whether a read fails so for good. All else may pass: a bus that is reset or wakes from sleep
+// fails or cancels reads of devices that stay.
+bool IsGone(DWORD error) {
+    switch (error) {
+        case ERROR_FILE_NOT_FOUND:
+        case ERROR_INVALID_HANDLE:
+        case ERROR_DEV_NOT_EXIST:
+        case ERROR_BROKEN_PIPE:
+        case ERROR_NO_DATA:
+        case ERROR_PIPE_NOT_CONNECTED:
+        case kNoSuchDevice:
+        case ERROR_DEVICE_NOT_CONNECTED:
+        case ERROR_DEVICE_REMOVED:
+            return true;
+        default:
+            return false;
+    }
+}
+
 }  // namespace
 
 Win32PanelReader::Win32PanelReader(Win32Handle device, const Settings& settings,
@@ -56,18 +78,31 @@ void Win32PanelReader::Run() const {
     ApplyAffinity(settings_.affinity);
     const Win32Handle completed(CreateEventW(nullptr, TRUE, FALSE, nullptr));
     std::array<uint8_t, 64> buffer{};
-    for (;;) {
+    // A device that fails, or gives nothing, over and over must not keep a processor busy.
+    DWORD pause = 0;
+    while (WaitForSingleObject(stop_.Get(), pause) == WAIT_TIMEOUT) {
         OVERLAPPED read{};
         read.hEvent = completed.Get();
-        const bool begun = ReadFile(device_.Get(), buffer.data(), static_cast<DWORD>(buffer.size()),
-                                    nullptr, &read) ||
-                           GetLastError() == ERROR_IO_PENDING;
-        if (!begun || !AwaitRead(read)) return;
         DWORD count = 0;
-        // A device that gives nothing over and over is as good as gone.
-        if (!GetOverlappedResult(device_.Get(), &read, &count, FALSE) || count == 0) return;
-        received_(std::span(buffer).first(count));
+        const Outcome outcome = Read(read, buffer, count);
+        if (outcome == Outcome::End) return;
+        pause = outcome == Outcome::Nothing ? settings_.wait : 0;
+        if (outcome == Outcome::Report) received_(std::span(buffer).first(count));
     }
+}
+
+Win32PanelReader::Outcome Win32PanelReader::Read(OVERLAPPED& read, std::span<uint8_t> buffer,
+                                                 DWORD& count) const {
+    if (!ReadFile(device_.Get(), buffer.data(), static_cast<DWORD>(buffer.size()), nullptr,
+                  &read)) {
+        const DWORD error = GetLastError();
+        if (error != ERROR_IO_PENDING) return IsGone(error) ? Outcome::End : Outcome::Nothing;
+    }
+    if (!AwaitRead(read)) return Outcome::End;
+    if (!GetOverlappedResult(device_.Get(), &read, &count, FALSE)) {
+        return IsGone(GetLastError()) ? Outcome::End : Outcome::Nothing;
+    }
+    return count > 0 ? Outcome::Report : Outcome::Nothing;
 }
 
 // False when the thread is to end; the buffer is free by then. A read that times out is left

@@ -7,11 +7,11 @@
 
 #include "platform/win32/Win32Handle.h"
 
-// A thread that reads one device until it ends or the device fails.
+// A thread that reads one device until it ends or the device is gone.
 class Win32PanelReader {
   public:
     struct Settings {
-        DWORD wait = 1;         // milliseconds of one wait, at least 1
+        DWORD wait = 1;         // milliseconds of one wait, at least 1; also before trying again
         int32_t priority = 0;   // priority class, 0 to leave it
         int32_t affinity = -1;  // processor mask, -1 to leave it
     };
@@ -26,7 +26,10 @@ class Win32PanelReader {
     ~Win32PanelReader();
 
   private:
+    enum class Outcome { Report, Nothing, End };
+
     void Run() const;
+    Outcome Read(OVERLAPPED& read, std::span<uint8_t> buffer, DWORD& count) const;
     bool AwaitRead(OVERLAPPED& read) const;
 
     Win32Handle device_;

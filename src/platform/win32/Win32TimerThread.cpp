@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+#include "platform/win32/Win32Library.h"
+
 namespace {
 
 // CREATE_WAITABLE_TIMER_HIGH_RESOLUTION, which not all headers have. Systems before Windows 10 1803
@@ -13,6 +15,25 @@ constexpr DWORD kTimerAccess = SYNCHRONIZE | TIMER_MODIFY_STATE;
 
 // Length of the system's own clock tick, which an ordinary timer can't go below by itself.
 constexpr std::chrono::milliseconds kSystemTick{16};
+
+// Newer systems slow down programs that show no window, and make their timers coarse; asks them not
+// to. Older ones know nothing of it, or only of the speed.
+void DeclineThrottling() {
+    const Win32Library kernel(L"kernel32.dll");
+    BOOL(WINAPI * setInformation)(HANDLE, PROCESS_INFORMATION_CLASS, LPVOID, DWORD) = nullptr;
+    kernel.Find("SetProcessInformation", setInformation);
+    if (!setInformation) return;
+    PROCESS_POWER_THROTTLING_STATE state{};
+    state.Version = PROCESS_POWER_THROTTLING_CURRENT_VERSION;
+    for (const ULONG controlled : {PROCESS_POWER_THROTTLING_EXECUTION_SPEED |
+                                       PROCESS_POWER_THROTTLING_IGNORE_TIMER_RESOLUTION,
+                                   PROCESS_POWER_THROTTLING_EXECUTION_SPEED}) {
+        state.ControlMask = controlled;
+        if (setInformation(GetCurrentProcess(), ProcessPowerThrottling, &state, sizeof state)) {
+            return;
+        }
+    }
+}
 
 }  // namespace
 
@@ -24,6 +45,7 @@ Win32TimerThread::Win32TimerThread(std::function<void(uint32_t)> due)
     if (!highResolution_) {
         waitable_ = Win32Handle(CreateWaitableTimerExW(nullptr, nullptr, 0, kTimerAccess));
     }
+    DeclineThrottling();
     thread_ = std::thread([this] { Run(); });
 }
 
@@ -38,10 +60,14 @@ Win32TimerThread::~Win32TimerThread() {
     thread_.join();
 }
 
-void Win32TimerThread::Start(uint32_t id, uint32_t intervalMs) {
+void Win32TimerThread::Start(uint32_t id, uint32_t intervalMs) { Add(id, intervalMs, false); }
+
+void Win32TimerThread::StartOnce(uint32_t id, uint32_t delayMs) { Add(id, delayMs, true); }
+
+void Win32TimerThread::Add(uint32_t id, uint32_t intervalMs, bool once) {
     const std::chrono::milliseconds interval(std::max(intervalMs, 1u));
     const std::lock_guard lock(mutex_);
-    timers_.push_back({id, interval, SteadyClock::now() + interval});
+    timers_.push_back({id, interval, SteadyClock::now() + interval, once});
     ChoosePeriod();
     SetEvent(changed_.Get());
 }
@@ -68,8 +94,12 @@ std::optional<Win32TimerThread::SteadyClock::time_point> Win32TimerThread::Raise
     const std::lock_guard lock(mutex_);
     const auto now = SteadyClock::now();
     for (Timer& timer : timers_) {
+        if (timer.due <= now) due_(timer.id);
+    }
+    const auto spent = [now](const Timer& timer) { return timer.once && timer.due <= now; };
+    if (std::erase_if(timers_, spent) > 0) ChoosePeriod();
+    for (Timer& timer : timers_) {
         if (timer.due <= now) {
-            due_(timer.id);
             // To the first due time that is still ahead: keeps the rhythm, makes up for nothing.
             timer.due += timer.interval * ((now - timer.due) / timer.interval + 1);
         }

@@ -22,6 +22,8 @@ class Win32TimerThread {
     ~Win32TimerThread();
 
     void Start(uint32_t id, uint32_t intervalMs);
+    // Due one time only.
+    void StartOnce(uint32_t id, uint32_t delayMs);
     void Stop(uint32_t id);
 
   private:
@@ -30,9 +32,11 @@ class Win32TimerThread {
         uint32_t id;
         std::chrono::milliseconds interval;
         SteadyClock::time_point due;
+        bool once;
     };
 
     void Run();
+    void Add(uint32_t id, uint32_t intervalMs, bool once);
     std::optional<SteadyClock::time_point> RaiseDue();
     void Arm(std::optional<SteadyClock::time_point> next);
     void ChoosePeriod();

@@ -31,7 +31,10 @@ Win32Tray::Win32Tray()
       window_(std::make_unique<Win32HiddenWindow>(
           L"OrvoTray", nullptr, [this](HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
               return static_cast<LRESULT>(Handle(window, message, wParam, lParam));
-          })) {}
+          })) {
+    // Also when this program runs with more rights than the task bar does.
+    ChangeWindowMessageFilterEx(window_->Get(), taskBarCreated_, MSGFLT_ALLOW, nullptr);
+}
 
 Win32Tray::~Win32Tray() {
     if (icon_) Tell(NIM_DELETE, *icon_);
@@ -39,7 +42,9 @@ Win32Tray::~Win32Tray() {
 
 bool Win32Tray::NotifyIcon(uint32_t message, const TrayRecord& record) {
     Remember(message, record);
-    return Tell(message, record);
+    if (Tell(message, record)) return true;
+    const bool lacking = message == NIM_MODIFY && icon_ && icon_->id == record.id;
+    return lacking && Tell(NIM_ADD, *icon_);
 }
 
 void Win32Tray::Remember(uint32_t message, const TrayRecord& record) {

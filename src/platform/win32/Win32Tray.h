@@ -23,7 +23,7 @@ class Win32Tray final : public TrayPort {
 
     uint32_t taskBarCreated_;
     // What the icon should be like now; nothing when there is to be none. Kept when the system
-    // refuses: at log-on the task bar may come later than the program.
+    // refuses: at log-on the task bar may come later than the program, or be too busy to answer.
     std::optional<TrayRecord> icon_;
     std::unique_ptr<Win32HiddenWindow> window_;
 };

@@ -1,0 +1,181 @@
+#include <windows.h>
+
+#include <gtest/gtest.h>
+// Counts on windows.h.
+#include <shellapi.h>
+
+#include <algorithm>
+#include <array>
+#include <chrono>
+#include <utility>
+#include <vector>
+
+#include "platform/win32/Win32Handle.h"
+#include "platform/win32/Win32HidLibrary.h"
+#include "platform/win32/Win32HiddenWindow.h"
+#include "platform/win32/Win32Loop.h"
+#include "platform/win32/Win32PanelLink.h"
+#include "platform/win32/Win32Tray.h"
+
+namespace {
+
+using Report = std::array<uint8_t, 4>;
+using Reports = std::vector<Report>;
+
+constexpr char kPipe[] = R"(\\.\pipe\orvo-adapter-tests)";
+
+// The device is a pipe that hands over what is sent in the same pieces.
+struct PanelLinkTest : testing::Test {
+    PanelLinkTest() {
+        hid->setNumInputBuffers = [](HANDLE handle, ULONG) -> BOOLEAN {
+            DWORD mode = PIPE_READMODE_MESSAGE;
+            return SetNamedPipeHandleState(handle, &mode, nullptr, nullptr) != 0;
+        };
+        link.DeviceAddress = kPipe;
+        link.ReadWait = 1500;
+    }
+
+    void Send(const std::vector<uint8_t>& bytes) {
+        DWORD count = 0;
+        EXPECT_TRUE(WriteFile(device.Get(), bytes.data(), static_cast<DWORD>(bytes.size()), &count,
+                              nullptr));
+    }
+
+    // Until so many reports have come, or 2 s.
+    void Await(size_t count) {
+        const ULONGLONG end = GetTickCount64() + 2000;
+        const auto timer = loop.StartTimer(10, [] {});
+        loop.RunUntil([&] { return seen.size() >= count || GetTickCount64() > end; });
+        loop.StopTimer(timer);
+    }
+
+    void StopAtOnce() {
+        const ULONGLONG start = GetTickCount64();
+        link.StopReading();
+        EXPECT_LT(GetTickCount64() - start, 500u);
+    }
+
+    Win32Handle device{
+        CreateNamedPipeA(kPipe, PIPE_ACCESS_DUPLEX, PIPE_TYPE_MESSAGE, 1, 4096, 4096, 0, nullptr)};
+    Win32Loop loop;
+    std::shared_ptr<Win32HidLibrary> hid = std::make_shared<Win32HidLibrary>();
+    Win32PanelLink link{loop, hid};
+    Reports seen;
+    ScopedConnection input =
+        link.RawInput.Connect([this](auto... bytes) { seen.push_back({bytes...}); });
+};
+
+TEST_F(PanelLinkTest, WholeReportsComeInOrderAndShortOnesNot) {
+    link.StartReading();
+    Send({0, 1, 2, 3});
+    Send({0, 4, 5, 6, 0, 7, 8, 9, 0, 10, 11, 12});
+    Send({0, 99, 99});
+    Send({0, 13, 14, 15, 99});
+    Await(5);
+    EXPECT_EQ(
+        seen,
+        (Reports{{0, 1, 2, 3}, {0, 4, 5, 6}, {0, 7, 8, 9}, {0, 10, 11, 12}, {0, 13, 14, 15}}));
+    StopAtOnce();
+}
+
+TEST_F(PanelLinkTest, FailedAndEmptyReadsAreTriedAgain) {
+    link.ReadWait = 20;
+    link.StartReading();
+    Send({});
+    Send({0, 1, 2, 3});
+    // Longer than any read: the first one fails, the second gives a rest that is no report.
+    Send(std::vector<uint8_t>(67));
+    Send({0, 4, 5, 6});
+    Await(2);
+    EXPECT_EQ(seen, (Reports{{0, 1, 2, 3}, {0, 4, 5, 6}}));
+}
+
+TEST_F(PanelLinkTest, NothingComesAfterStopReading) {
+    link.StartReading();
+    Send({0, 1, 2, 3});
+    Sleep(200);  // The report is posted by then, and the next read waits.
+    StopAtOnce();
+    loop.RunPending();
+    EXPECT_EQ(seen, Reports{});
+}
+
+TEST_F(PanelLinkTest, VanishedDeviceKeepsNoProcessorBusy) {
+    const auto used = [] {
+        FILETIME none{}, kernel{}, user{};
+        GetProcessTimes(GetCurrentProcess(), &none, &none, &kernel, &user);
+        return (kernel.dwLowDateTime + user.dwLowDateTime) / 10'000;  // in ms
+    };
+    link.ReadWait = 1;
+    link.StartReading();
+    device = Win32Handle();
+    const DWORD before = used();
+    Sleep(400);
+    EXPECT_LT(used() - before, 80u);
+    StopAtOnce();
+}
+
+TEST(Win32TrayTest, IconComesBack) {
+    Win32Loop loop;
+    Win32Tray tray;
+    TrayRecord record{.id = 7, .flags = NIF_MESSAGE | NIF_TIP, .callbackMessage = 512, .tip = "T"};
+    NOTIFYICONDATAA icon{};
+    icon.cbSize = sizeof icon;
+    icon.hWnd = FindWindowW(L"OrvoTray", nullptr);
+    icon.uID = record.id;
+    ASSERT_TRUE(tray.NotifyIcon(NIM_ADD, record)) << "there is no task bar";
+
+    ASSERT_TRUE(Shell_NotifyIconA(NIM_DELETE, &icon));
+    EXPECT_TRUE(tray.NotifyIcon(NIM_MODIFY, record)) << "a change adds an icon that is not there";
+    ASSERT_TRUE(Shell_NotifyIconA(NIM_DELETE, &icon));
+    PostMessageW(icon.hWnd, RegisterWindowMessageW(L"TaskbarCreated"), 0, 0);
+    loop.RunPending();
+    EXPECT_TRUE(Shell_NotifyIconA(NIM_MODIFY, &icon));
+
+    EXPECT_TRUE(tray.NotifyIcon(NIM_DELETE, record));
+    EXPECT_FALSE(tray.NotifyIcon(NIM_MODIFY, record)) << "no longer wanted";
+}
+
+TEST(Win32LoopTest, TicksKeepTheirPaceInAMessageBox) {
+    Win32Loop loop;
+    int ticks = 0;
+    const ULONGLONG start = GetTickCount64();
+    loop.StartTimer(10, [&] {
+        if (++ticks >= 50) PostMessageA(FindWindowA("#32770", "Pace"), WM_COMMAND, IDOK, 0);
+    });
+    EXPECT_EQ(MessageBoxA(nullptr, "Text", "Pace", MB_OK), IDOK);
+    EXPECT_LT(GetTickCount64() - start, 3000u);
+}
+
+TEST(Win32LoopTest, TasksWithoutEndLetInputAndPaintingThroughAndTicksKeepTheirPace) {
+    Win32Loop loop;
+    int paints = 0, keys = 0;
+    auto last = std::chrono::steady_clock::now();
+    std::vector<std::chrono::steady_clock::duration> intervals;
+    const Win32HiddenWindow window(L"OrvoAdapterTest", nullptr,
+                                   [&](auto own, auto message, auto... rest) {
+                                       if (message == WM_PAINT) ++paints;
+                                       if (message == WM_KEYDOWN) ++keys;
+                                       return DefWindowProcW(own, message, rest...);
+                                   });
+    SetWindowPos(window.Get(), HWND_TOPMOST, 0, 0, 50, 50, SWP_SHOWWINDOW);
+    SetForegroundWindow(window.Get());
+    std::function<void()> again = [&] { loop.Post(again); };
+    loop.Post(again);
+    loop.StartTimer(10, [&] {
+        const auto now = std::chrono::steady_clock::now();
+        intervals.push_back(now - std::exchange(last, now));
+        InvalidateRect(window.Get(), nullptr, FALSE);
+        if (intervals.size() % 10 == 0) keybd_event('A', 0, 0, 0);
+        if (intervals.size() % 10 == 5) keybd_event('A', 0, KEYEVENTF_KEYUP, 0);
+    });
+    const ULONGLONG end = GetTickCount64() + 10'000;
+    loop.RunUntil([&] { return intervals.size() >= 100 || GetTickCount64() > end; });
+    ASSERT_GE(intervals.size(), 100u);
+    // The middle one, so that a busy machine does no harm.
+    std::nth_element(intervals.begin(), intervals.begin() + 50, intervals.end());
+    EXPECT_LT(intervals[50], std::chrono::milliseconds(11));
+    EXPECT_GE(paints, 50);
+    EXPECT_GE(keys, 5);
+}
+
+}  // namespace
