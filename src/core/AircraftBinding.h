@@ -1,7 +1,6 @@
 #pragma once
 
 #include <string>
-#include <string_view>
 
 #include "simlink/cSession.h"
 
@@ -12,7 +11,7 @@ class AircraftBinding {
     explicit AircraftBinding(cSession& session) : session_(session) {}
 
     // Takes the title as the aircraft in use, and learns of the simulator what kind of gear it has.
-    void BindAircraft(std::string_view title);
+    void BindAircraft(std::string title);
 
     // Empty until the first session brings a title.
     const std::string& CurrentAircraft() const { return currentAircraft_; }

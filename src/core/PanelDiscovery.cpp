@@ -48,9 +48,12 @@ Discovery DiscoverPanels(frmMain& window, const MainServices& services) {
             if (!ConnectPanel(window, services, identity, ++tab, enumerator->GetPanelPath(n))) {
                 return Discovery::EndProcess;
             }
+            // A panel's show lets messages run.
+            if (window.IsUnloaded()) return Discovery::EndProcess;
         }
         StartLogics(window, services, identity.kind);
     }
+    if (window.IsUnloaded()) return Discovery::EndProcess;
     if (found) return Discovery::Found;
     if (services.generalSetup.LoadWithoutPanels) return Discovery::NoneGoOn;
     Report(services.ui, "No Panel found, check your connections !", "  Orvo");

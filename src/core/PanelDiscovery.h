@@ -6,7 +6,7 @@ enum class Discovery {
     Found,       // panels are connected and their logics run
     NoneGoOn,    // there are none, and the options say to go on without
     Stop,        // there are none, and the program is to stop
-    EndProcess,  // the program can't go on, and the user has been told
+    EndProcess,  // the user knows why not to go on, or has closed the window
 };
 
 // Finds the panels, connects them and starts their logics, kind by kind.

@@ -4,6 +4,7 @@ namespace {
 
 constexpr uint32_t kSetAndQuery = 0x600;
 constexpr uint32_t kQuery = 0x400;
+constexpr int32_t kAutomatic = -1;
 
 }  // namespace
 
@@ -25,7 +26,7 @@ uint32_t SetProcessPriority(ProcessPort& process, uint32_t processId, uintptr_t 
 }
 
 uint64_t ChooseAffinity(int32_t option, uint64_t processMask) {
-    if (option != -1) return static_cast<uint32_t>(option);
+    if (option != kAutomatic) return static_cast<uint32_t>(option);
     const auto mask = static_cast<int32_t>(processMask);
     if (mask >= 15) return static_cast<uint64_t>(mask & 65532);
     if (mask >= 7) return 4;
@@ -34,6 +35,6 @@ uint64_t ChooseAffinity(int32_t option, uint64_t processMask) {
 
 void SetProcessAffinity(ProcessPort& process, int32_t option) {
     uint64_t mask = 0;
-    process.GetProcessAffinityMask(mask);
+    if (!process.GetProcessAffinityMask(mask) && option == kAutomatic) return;
     process.SetProcessAffinityMask(ChooseAffinity(option, mask));
 }

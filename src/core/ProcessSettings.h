@@ -14,5 +14,5 @@ uint32_t SetProcessPriority(ProcessPort& process, uint32_t processId, uintptr_t 
 // may use, which leaves the first ones to the simulator.
 uint64_t ChooseAffinity(int32_t option, uint64_t processMask);
 
-// Applies that choice to the current process.
+// Applies that choice to the current process. What the system refuses leaves it as it was.
 void SetProcessAffinity(ProcessPort& process, int32_t option);

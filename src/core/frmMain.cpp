@@ -40,16 +40,18 @@ frmMain::frmMain(const MainServices& services)
     btnQuit.Click.Connect([this] { AskQuit(); });
     timerFSUIPC.Tick.Connect([this] { timerFSUIPC_Timer(); });
     trayDblClick_ = trayMain.DblClick.Connect([this] {
-        if (!services_.windows.ModalWindowOpen) Show();
+        if (!services_.windows.ModalWindowOpen && !IsUnloaded()) Show();
     });
     QueryUnload.Connect([this] { SavePosition(); });
     Unloaded.Connect([this] { CloseDown(); });
+    SessionEnding.Connect([this] { EndPanels(); });
 }
 
 // Each panel ends its connection, which lets messages run: so while all else is still there.
 frmMain::~frmMain() {
     timerFSUIPC.SetEnabled(false);
     services_.session.FSConnected = false;
+    EndPanels();
     for (const PanelIdentity& identity : kPanelIdentities) {
         for (auto& unit : Panels[identity.kind]) unit->control.reset();
     }
@@ -109,7 +111,7 @@ void frmMain::ArmTimer() {
     picMain.Top = 0;
     BringToFront(picOrder);
     services_.platform.loop.RunPending();
-    timerFSUIPC.SetEnabled(true);
+    timerFSUIPC.SetEnabled(!IsUnloaded());
 }
 
 void frmMain::SelectPage() {
@@ -155,7 +157,15 @@ void frmMain::CloseDown() {
     services_.platform.loop.Quit();
 }
 
+// The controls stay: the end of the user's session may come from within one of their calls.
+void frmMain::EndPanels() {
+    for (const PanelIdentity& identity : kPanelIdentities) {
+        for (auto& unit : Panels[identity.kind]) unit->control->End();
+    }
+}
+
 void frmMain::ServeSetupRequest(PanelUnit& unit) {
+    if (IsUnloaded()) return;
     services_.windows.SetupPanelIndex = unit.number;
     if (const auto& open = SetupWindows[static_cast<size_t>(unit.kind)]) {
         services_.windows.ModalWindowOpen = true;

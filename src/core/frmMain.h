@@ -73,6 +73,7 @@ class frmMain : public Form {
     void AskQuit();
     void SavePosition();
     void CloseDown();
+    void EndPanels();
     void ServeSetupRequest(PanelUnit& unit);
 
     void timerFSUIPC_Timer();

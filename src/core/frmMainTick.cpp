@@ -64,6 +64,7 @@ void frmMain::Poll() {
         return;
     }
     TakeAircraft();
+    if (!session.FSConnected) return;  // binding an aircraft may let messages run
     Panels.ForEachLogic([](cPanelLogic& logic) { logic.RefreshData(); });
 }
 
@@ -93,5 +94,6 @@ void frmMain::LoseSession() {
         Unload();
     }
     services_.platform.loop.RunPending();
-    services_.session.Fsuipc.FSUIPC_Initialize();
+    // Something that ran just now may have opened a box, and the simulator come back under it.
+    if (!services_.session.FSConnected) services_.session.Fsuipc.FSUIPC_Initialize();
 }

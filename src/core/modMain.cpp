@@ -33,6 +33,7 @@ bool modMain::Main() {
         case Discovery::Found:
         case Discovery::NoneGoOn:
             window_->ArmTimer();
+            if (window_->IsUnloaded()) return false;
             if (discovery == Discovery::NoneGoOn) SetUpUnconnectedPanels(*window_, services);
             return true;
     }

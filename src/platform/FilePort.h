@@ -7,6 +7,7 @@ class FilePort {
   public:
     virtual ~FilePort() = default;
 
+    // False only when it is certain that there is no such file.
     virtual bool Exists(const std::string& path) = 0;
     // Overwrites `to`.
     virtual bool Copy(const std::string& from, const std::string& to) = 0;

@@ -21,6 +21,6 @@ bool ButtonPress::Up() { return Held() < clickThreshold_; }
 
 void ButtonPress::Tick() {
     if (Held() <= clickThreshold_) return;
+    timerButton_.SetEnabled(false);  // first: the listeners may let the next press in
     LongClick.Raise(downMask_);
-    timerButton_.SetEnabled(false);
 }

@@ -8,18 +8,21 @@ class PulsePair {
   public:
     explicit PulsePair(uint32_t windowMs) : window_(windowMs) {}
 
-    // Takes one report: whether it has the pulse bit, and its clock. True when it completes a step:
-    // the second report without the bit that comes within the window after one with it. A report
-    // that comes for another reason counts too.
+    // Takes one report: whether it has the pulse bit, and its clock. True when it makes a step: the
+    // second report without the bit that comes within the window after one with it. A report that
+    // comes for another reason counts too. The step lasts until StepTaken.
     bool Report(bool bit, uint32_t clock) {
         if (bit) {
             tick_ = clock;
             return false;
         }
         if (clock - tick_ >= window_) return false;
-        armed_ = !armed_;
-        return !armed_;
+        if (armed_) return true;
+        armed_ = true;
+        return false;
     }
+
+    void StepTaken() { armed_ = false; }
 
   private:
     uint32_t window_;

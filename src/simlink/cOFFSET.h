@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <string_view>
 
+#include "base/Number.h"
 #include "simlink/modFSUIPC.h"
 
 // One typed value at one offset of the simulator, with its own storage, into which a read copies
@@ -31,7 +32,7 @@ class cOFFSET {
     // The value as a number; every type's numbers are exact in it. A string gives 0. The third byte
     // of type 5 weighs 655536: the levels that are compared with it are in that scale.
     double Data() const;
-    int32_t IntegerData() const { return static_cast<int32_t>(Data()); }
+    int32_t IntegerData() const { return RoundTo<int32_t>(Data()); }
     // Converted to the type: rounded half to even and held to its range; of types 3 and 5 the low
     // bytes. Strings and unknown types ignore it.
     void SetData(double value);

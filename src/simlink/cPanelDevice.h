@@ -42,6 +42,11 @@ class cPanelDevice : public Picture {
     // Darkens displays and lights.
     virtual void TurnOff() {}
 
+    // Turns the output off, stops the link and closes the device; only the first call does
+    // anything, and what is written later goes nowhere. Lets pending messages run, so a final class
+    // calls it in its destructor, while it is whole.
+    void End();
+
     Event<uint8_t, uint8_t, uint8_t, uint8_t> RawInput;  // every report, before anything else
     Event<> SetupRequest;                                // cmdSetup was pressed
 
@@ -52,11 +57,6 @@ class cPanelDevice : public Picture {
     virtual void HandleReport(int32_t /*state*/, uint32_t /*clock*/) {}
     // The device has just been opened.
     virtual void Connected() {}
-
-    // Turns the output off, stops the link and closes the device; only the first call does
-    // anything. Lets pending messages run, so a final class calls it in its destructor, while it is
-    // whole.
-    void End();
 
     uintptr_t DeviceHandle() const { return deviceHandle_; }
     const DeviceServices& Services() const { return services_; }

@@ -204,8 +204,9 @@ bool modFSUIPC::SendBatch(uintptr_t& reply, int32_t& result) {
     return false;
 }
 
-// The replies must be the records of the batch, in its order: so no position, length or destination
-// is ever taken from the block.
+// Each reply must be the record of the batch that stood in its place: so no position, length or
+// destination is ever taken from the block. What a reply that ends early leaves out keeps its
+// value.
 bool modFSUIPC::UnpackReplies() {
     const uint8_t* reply = view_;
     for (size_t i = 0; LoadLE16(reply) != 0; ++i) {

@@ -42,7 +42,8 @@ class modFSUIPC {
 
     // Opens the channel and checks the versions, within about 300 ms when the simulator answers at
     // once. `requestedSimulator` is its number, 0 for any. After a failure the channel is closed,
-    // but for code 1, which leaves it as it was.
+    // but for code 1, which leaves it as it was. Go by what it gives: where a reply can't be
+    // unpacked, `result` is that of the last record, 0.
     bool FSUIPC_Open(uint32_t requestedSimulator, int32_t& result);
     void FSUIPC_Close();
 
@@ -53,8 +54,9 @@ class modFSUIPC {
     // Queues a write; the data is copied at once.
     bool FSUIPC_Write(int32_t offset, int32_t count, const void* source, int32_t& result);
 
-    // Sends the batch. Whatever the outcome, the batch is empty afterwards. A reply that isn't made
-    // of the records that were sent fails with `result` as it was on entry.
+    // Sends the batch. Whatever the outcome, the batch is empty afterwards. A reply with a record
+    // other than the one that was sent fails with `result` as it was on entry; one that ends early
+    // is taken as far as it goes.
     bool FSUIPC_Process(int32_t& result);
 
     bool IsOpen() const { return view_ != nullptr; }

@@ -8,6 +8,14 @@ Form::~Form() = default;
 
 void Form::Load() { Realize(ui_); }
 
+void Form::Show() {
+    if (!Visible) {
+        Visible = true;
+    } else if (Peer* peer = GetPeer()) {
+        peer->Activate();
+    }
+}
+
 void Form::Unload() {
     if (unloaded_) return;
     unloaded_ = true;

@@ -15,10 +15,14 @@ class Form : public Container {
 
     Event<> QueryUnload;  // the window is going to close; all of it is still there
     Event<> Unloaded;     // it is closing for good
+    // The user's session ends, and the process with it as soon as this returns: what must not be
+    // left behind is to be ended here. The form is unloaded already.
+    Event<> SessionEnding;
 
     // Makes the peers that are missing; to be called again after controls have been added.
     void Load();
-    void Show() { Visible = true; }
+    // Brings the window to the front, also when it is shown already.
+    void Show();
     void Hide() { Visible = false; }
 
     // Closes for good: QueryUnload, Unloaded, then the window is hidden. The peers stay until the

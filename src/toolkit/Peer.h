@@ -8,4 +8,7 @@ class Peer {
     // Takes over what has changed in the control. What the native control echoes back while it
     // follows must not reach the control again.
     virtual void Follow() = 0;
+
+    // Brings a window that is shown to the front, also when it is minimised.
+    virtual void Activate() {}
 };

@@ -50,6 +50,14 @@ struct RadioControl {
     Event<int16_t, int32_t, int32_t> SelectorChange;
 };
 
+struct MultiControl {
+    Event<int32_t> ButtonClick, ButtonLongClick;
+    Event<int16_t> RotaryUp, RotaryDown, TrimUp, TrimDown;
+    Event<> FlapsUp, FlapsDown;
+    Event<int32_t, int32_t> SelectorChange;
+    Event<bool> AutoThrottleChange;
+};
+
 struct SwitchControl {
     Event<int32_t, bool> SwitchChange;
     Event<int32_t, int32_t> SelectorChange;
@@ -78,6 +86,24 @@ TEST_F(ForwardingTest, RadioKnobsBecomeRingsAndSides) {
     EXPECT_EQ(logic.Take(), "selector 2 7 1, click 16384, up 16384, long 32768");
 }
 
+TEST_F(ForwardingTest, MultiPanelEvents) {
+    MultiControl control;
+    ForwardMultiEvents(control, Find());
+    control.ButtonClick.Raise(0x000200);
+    control.ButtonLongClick.Raise(0x002000);
+    control.RotaryUp.Raise(5);
+    control.RotaryDown.Raise(1);
+    control.TrimUp.Raise(10);
+    control.TrimDown.Raise(20);
+    EXPECT_EQ(logic.Take(), "click 3, long 7, rotary 1 5, rotary 0 1, trim 1 10, trim 0 20");
+    control.FlapsUp.Raise();
+    control.FlapsDown.Raise();
+    control.SelectorChange.Raise(0x040000, 0x100000);
+    control.AutoThrottleChange.Raise(true);
+    control.AutoThrottleChange.Raise(false);
+    EXPECT_EQ(logic.Take(), "flaps 1, flaps 0, selector 3 5, throttle 1, throttle 0");
+}
+
 TEST_F(ForwardingTest, SwitchesAndGear) {
     SwitchControl control;
     ForwardSwitchEvents(control, Find());
@@ -99,12 +125,24 @@ TEST_F(ForwardingTest, WithoutASessionNothingArrivesAndNothingIsKept) {
     EXPECT_EQ(logic.Take(), "");
 }
 
+// Each column numbers its bits from 1 without a gap, in the panel's own order of bits.
+TEST(PositionTablesTest, ColumnsNumberTheirBits) {
+    const auto column = [](int32_t (*position)(int32_t)) {
+        std::vector<int32_t> numbers;
+        for (int32_t bit = 1; bit <= 0x800000; bit *= 2) numbers.push_back(position(bit));
+        return numbers;
+    };
+    EXPECT_EQ(column(RadioSelectorPosition), (std::vector{0, 0, 0, 0, 0, 0, 0, 0, 2, 3, 4, 5,
+                                                          6, 7, 0, 0, 1, 2, 3, 4, 5, 6, 7, 1}));
+    EXPECT_EQ(column(MultiButtonPosition), (std::vector{0, 0, 0, 0, 0, 0, 0, 0, 2, 3, 4, 5,
+                                                        6, 7, 8, 0, 0, 0, 0, 0, 0, 0, 0, 1}));
+    EXPECT_EQ(column(MultiSelectorPosition), (std::vector{0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0,
+                                                          0, 0, 0, 0, 1, 2, 3, 4, 5, 0, 0, 0}));
+    EXPECT_EQ(column(SwitchPosition), (std::vector{4,  5, 19, 20, 0, 0, 0, 0, 14, 15, 16, 17,
+                                                   18, 1, 2,  3,  6, 7, 8, 9, 10, 11, 12, 13}));
+}
+
 TEST(PositionTablesTest, BitsOutsideATableGiveZero) {
-    EXPECT_EQ(RadioSelectorPosition(0x800000), 1);
-    EXPECT_EQ(RadioSelectorPosition(0x400000), 7);
-    EXPECT_EQ(MultiButtonPosition(0x800000), 1);
-    EXPECT_EQ(MultiButtonPosition(0x004000), 8);
-    EXPECT_EQ(MultiSelectorPosition(0x080000), 4);
     EXPECT_EQ(MultiSelectorPosition(0x200000), 0);
     EXPECT_EQ(SwitchPosition(0x800000), 13);
     EXPECT_EQ(SwitchPosition(0), 0);

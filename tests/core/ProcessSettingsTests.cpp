@@ -42,7 +42,9 @@ TEST(ProcessSettingsTest, RefusedAccessIsNotedAndChangesNothing) {
     EXPECT_EQ(SetProcessPriority(process, 0, 0, 0x80), 0U);
     process.Refuse(ProcessCall::GetProcessAffinityMask);
     SetProcessAffinity(process, -1);
-    EXPECT_EQ(process.Affinity(), 1U);
+    EXPECT_EQ(process.Affinity(), 0xFU);
+    SetProcessAffinity(process, 5);
+    EXPECT_EQ(process.Affinity(), 5U) << "a mask of the user's needs no other";
 }
 
 }  // namespace

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <gtest/gtest.h>
 
 #include "support/VirtualCockpit.h"
@@ -130,10 +131,17 @@ TEST_F(SessionTest, KnobAtHeadingMovesTheSimulatorAndThePanelShowsIt) {
 
 TEST_F(SessionTest, InputWithoutASessionIsDropped) {
     ASSERT_TRUE(Start());
+    // The channel alone is no session; a write that got into its batch would go out.
+    machine.ipc.AddWindow("UIPCMAIN");
+    int32_t result = 0;
+    ASSERT_TRUE(program->Session.Fsuipc.FSUIPC_Open(0, result));
     Turn(MultiPanelBit::kKnobClockwisePulse, 6);
-    Connect();
-    Tick();
-    EXPECT_EQ(machine.server.Get<uint16_t>(0x07CC), 0);
+    EXPECT_FALSE(program->Session.Fsuipc.FSUIPC_Process(result));
+    EXPECT_EQ(result, 10);
+    program->Session.FSConnected = true;
+    Turn(MultiPanelBit::kKnobClockwisePulse, 6);
+    EXPECT_FALSE(program->Session.Fsuipc.FSUIPC_Process(result))
+        << "the selector's place was not kept either";
 }
 
 TEST_F(SessionTest, LostSessionDarkensThePanelAndIsFoundAgain) {
@@ -200,8 +208,13 @@ TEST_F(SessionTest, QuittingIsAskedForAndEndsInOrder) {
         EXPECT_EQ(machine.ipc.SentMessages().size(), sent + 10) << "the tick goes on under the box";
         return MsgBoxResult::Ok;
     };
+    Window().Left = 3000;
+    Window().Top = 1500;
     Window().btnQuit.Press();
     EXPECT_TRUE(machine.loop.QuitWasCalled());
+    EXPECT_EQ(Unit(1).logic, nullptr);
+    const std::string options = *machine.files.Look("C:\\Orvo\\Orvo.ini");
+    EXPECT_NE(options.find("MainFormTop=1500\r\nMainFormLeft=3000\r\n"), std::string::npos);
     EXPECT_EQ(machine.tray.records.back().first, 2U);
     EXPECT_EQ(machine.ipc.OpenViews(), 0U);
     EXPECT_EQ(machine.hid.OpenCount(), 1U) << "the panel ends with the window's own end";
@@ -211,6 +224,60 @@ TEST_F(SessionTest, QuittingIsAskedForAndEndsInOrder) {
     EXPECT_EQ(machine.hid.OpenCount(), 0U);
     EXPECT_EQ(machine.deckhub.ReadingCount(), 0);
     EXPECT_EQ(machine.loop.TimerCount(), 0U);
+}
+
+// A press that waited while the simulator hung: its box opens in the middle of the lost session.
+TEST_F(SessionTest, SimulatorThatComesBackUnderABoxOfTheLostSessionIsKept) {
+    ASSERT_TRUE(Start());
+    Connect();
+    ui.Answer = [&](const MsgBoxRequest&) {
+        machine.ipc.AnswerWith(0, 0);
+        Connect();
+        return MsgBoxResult::Cancel;
+    };
+    machine.loop.Post([&] { Window().btnQuit.Press(); });
+    machine.ipc.RemoveWindows();
+    machine.ipc.AnswerWith(0);
+    Window().timerFSUIPC.Tick.Raise();
+    ASSERT_EQ(ui.Boxes.size(), 1U);
+    machine.loop.Advance(3000);
+    EXPECT_TRUE(program->Session.FSConnected);
+    EXPECT_TRUE(program->Session.Fsuipc.IsOpen());
+    EXPECT_EQ(machine.ipc.OpenViews(), 1U);
+}
+
+TEST_F(SessionTest, AutoQuitUnderTheQuitBoxEndsOnce) {
+    ASSERT_TRUE(Start("Splash=0\r\nAutoQuit=1\r\n"));
+    Connect();
+    ui.Answer = [&](const MsgBoxRequest&) {
+        LoseSimulator();
+        EXPECT_TRUE(Window().IsUnloaded());
+        return MsgBoxResult::Ok;
+    };
+    Window().btnQuit.Press();
+    machine.tray.MouseActivity.Raise(515);
+    EXPECT_FALSE(Window().Visible) << "a closed window stays closed";
+    EXPECT_EQ(std::ranges::count_if(machine.tray.records,
+                                    [](const auto& record) { return record.first == 2U; }),
+              1);
+    program.reset();
+    EXPECT_EQ(panel.featureReports.back(), kDark);
+}
+
+TEST_F(SessionTest, EndOfTheUsersSessionLeavesNoPanelLit) {
+    ASSERT_TRUE(Start());
+    Connect();
+    ASSERT_NE(panel.featureReports.back(), kDark);
+    Window().Unload();
+    for (int i = 0; i < 2; ++i) Window().SessionEnding.Raise();
+    EXPECT_EQ(panel.featureReports.back(), kDark);
+    EXPECT_EQ(machine.hid.OpenCount(), 0U);
+    EXPECT_EQ(machine.deckhub.ReadingCount(), 0);
+    const size_t sent = panel.featureReports.size();
+    Multi().WriteDisplay("1", "2", uint8_t{1});
+    machine.loop.Advance(1000);
+    program.reset();
+    EXPECT_EQ(panel.featureReports.size(), sent);
 }
 
 TEST_F(SessionTest, UnpluggedPanelDisturbsNobody) {
@@ -233,6 +300,8 @@ TEST_F(SessionTest, UnwritableFolderDoesNotKeepItFromEnding) {
     LoseSimulator();
     EXPECT_TRUE(machine.loop.QuitWasCalled());
     EXPECT_TRUE(ui.Boxes.empty());
+    EXPECT_EQ(machine.files.Look("C:\\Orvo\\Orvo.ini"),
+              "[GeneralSetup]\r\nSplash=0\r\nAutoQuit=1\r\n");
 }
 
 }  // namespace

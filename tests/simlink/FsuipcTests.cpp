@@ -209,6 +209,12 @@ TEST_F(FsuipcTest, HostileRepliesFail) {
     }
 }
 
+TEST_F(FsuipcTest, OpeningFailsOnARecordThatWasNotSent) {
+    machine.ipc.AfterServing([](std::span<uint8_t> b) { StoreLE32(&b[0], 7); });
+    EXPECT_FALSE(Open());
+    ExpectClosed();
+}
+
 TEST_F(FsuipcTest, ReplyOfZerosEndsTheWalk) {
     ASSERT_TRUE(Open());
     data.fill(0xAA);

@@ -18,8 +18,8 @@ struct ShapeRow {
 constexpr ShapeRow kShapes[] = {
     {ShapeKind::RoundedRectangle, 15, 15, 10875, 2835, kBody, kRim},       // body
     {ShapeKind::Oval, 420, 600, 840, 840, kKnob, 0x707070},                // selector
-    {ShapeKind::Rectangle, 2520, 240, 3180, 780, kWell, kRim},             // upper display
-    {ShapeKind::Rectangle, 2520, 1140, 3180, 780, kWell, kRim},            // lower display
+    {ShapeKind::Rectangle, 3000, 240, 2700, 780, kWell, kRim},             // upper display
+    {ShapeKind::Rectangle, 3000, 1140, 2700, 780, kWell, kRim},            // lower display
     {ShapeKind::Oval, 6510, 420, 1200, 1200, kKnob, 0x707070},             // knob
     {ShapeKind::RoundedRectangle, 8100, 1740, 1020, 345, kWell, kRim},     // auto-throttle slot
     {ShapeKind::RoundedRectangle, 8520, 720, 180, 780, kWell, kRim},       // flaps slot

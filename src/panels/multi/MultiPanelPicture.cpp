@@ -80,13 +80,13 @@ void MultiPanelPicture::PlaceLabels() {
     place(labUpperValue, FontFace::SevenSegment, kDigits, Alignment::Right);
     labUpperValue.FontHeight = 600;
     labLowerValue.FontHeight = 600;
-    labUpperValue.Move(2610, 330, 3000, 600);
+    labUpperValue.Move(3110, 330, 2500, 600);
     place(labLowerValue, FontFace::SevenSegment, kDigits, Alignment::Right);
-    labLowerValue.Move(2610, 1230, 3000, 600);
+    labLowerValue.Move(3110, 1230, 2500, 600);
     place(labUpperMode, FontFace::Bold, kPrint, Alignment::Right);
-    labUpperMode.Move(1620, 510, 780, 270);
+    labUpperMode.Move(2100, 510, 780, 270);
     place(labLowerMode, FontFace::Bold, kPrint, Alignment::Right);
-    labLowerMode.Move(1620, 1410, 780, 270);
+    labLowerMode.Move(2100, 1410, 780, 270);
     place(labSpeed, FontFace::Normal, kPrint, Alignment::Center);
     labSpeed.Move(6810, 1680, 600, 240);
     place(labSpeed2, FontFace::Normal, kPrint, Alignment::Center);

@@ -29,8 +29,8 @@ std::span<uint8_t, 5> Digits(std::array<uint8_t, kMultiReportSize>& report, size
 
 ctlMultiPanel::ctlMultiPanel(Container& parent, const DeviceServices& services)
     : cPanelDevice(parent, services, PanelKind::Multi),
-      rotSpeed_(kKnobThresholds),
-      trimSpeed_(kTrimThresholds),
+      rotSpeed_(services.loop, kSpeedPeriodMs, kKnobThresholds),
+      trimSpeed_(services.loop, kSpeedPeriodMs, kTrimThresholds),
       pulses_{{
           {MultiPanelBit::kKnobClockwisePulse, PulsePair(kKnobWindowMs), rotSpeed_, RotaryUp,
            &MultiPanelPicture::KnobClockwise},
@@ -41,27 +41,21 @@ ctlMultiPanel::ctlMultiPanel(Container& parent, const DeviceServices& services)
           {MultiPanelBit::kTrimDownPulse, PulsePair(kTrimWindowMs), trimSpeed_, TrimDown,
            &MultiPanelPicture::TrimDown},
       }},
-      press_(services.clock, services.loop, services.generalSetup.ClickThreshold),
-      timerRotSpeed_(services.loop, kSpeedPeriodMs),
-      timerTrimSpeed_(services.loop, kSpeedPeriodMs) {
+      press_(services.clock, services.loop, services.generalSetup.ClickThreshold) {
     std::fill_n(display_.bytes.begin() + kMultiUpperDigits, 10, kMultiBlank);
     press_.LongClick.Connect([this](int32_t mask) { ButtonLongClick.Raise(mask); });
-    timerRotSpeed_.Tick.Connect([this] {
-        rotSpeed_.Sample();
-        OnScreen.ShowSpeed(OnScreen.labSpeed, rotSpeed_.Speed());
-    });
-    timerTrimSpeed_.Tick.Connect([this] {
-        trimSpeed_.Sample();
-        OnScreen.ShowSpeed(OnScreen.labSpeed2, trimSpeed_.Speed());
-    });
-    timerTrimSpeed_.SetEnabled(true);
+    rotSpeed_.Sampled.Connect(
+        [this](int16_t speed) { OnScreen.ShowSpeed(OnScreen.labSpeed, speed); });
+    trimSpeed_.Sampled.Connect(
+        [this](int16_t speed) { OnScreen.ShowSpeed(OnScreen.labSpeed2, speed); });
+    trimSpeed_.Start();
 }
 
 ctlMultiPanel::~ctlMultiPanel() { End(); }
 
-void ctlMultiPanel::RotAcceleration(uint8_t value) { timerRotSpeed_.SetInterval(value * 3U + 50U); }
+void ctlMultiPanel::RotAcceleration(uint8_t value) { rotSpeed_.SetPeriod(value * 3U + 50U); }
 
-void ctlMultiPanel::TrimAcceleration(uint8_t value) { timerTrimSpeed_.SetInterval(value * 3U); }
+void ctlMultiPanel::TrimAcceleration(uint8_t value) { trimSpeed_.SetPeriod(value * 3U); }
 
 void ctlMultiPanel::HandleReport(int32_t state, uint32_t clock) {
     for (Pulses& pulses : pulses_) CheckPulse(pulses, state, clock);
@@ -83,6 +77,7 @@ void ctlMultiPanel::CheckPulse(Pulses& pulses, int32_t state, uint32_t clock) {
     if (!pulses.pair.Report(bit, clock)) return;
     pulses.step.Raise(pulses.speed.Speed());
     (OnScreen.*pulses.show)();
+    pulses.pair.StepTaken();
 }
 
 void ctlMultiPanel::CheckButton(int32_t mask, int32_t state) {
@@ -96,8 +91,8 @@ void ctlMultiPanel::CheckButton(int32_t mask, int32_t state) {
     ButtonUp.Raise(mask);
     OnScreen.ShowButton(mask, false);
     if (!press_.Up()) return;
+    press_.Cancel();  // first: the click's listeners may let the next press in
     ButtonClick.Raise(mask);
-    press_.Cancel();
 }
 
 void ctlMultiPanel::CheckFlaps(int32_t mask, int32_t state) {

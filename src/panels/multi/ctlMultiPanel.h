@@ -11,7 +11,6 @@
 #include "simlink/PulsePair.h"
 #include "simlink/SpeedSampler.h"
 #include "simlink/cPanelDevice.h"
-#include "toolkit/Timer.h"
 
 // Device object of one Multi Panel: turns its reports into events, writes its displays and lights,
 // and mirrors all of it in the picture. Buttons are told by their mask, selector positions by their
@@ -63,7 +62,7 @@ class ctlMultiPanel final : public cPanelDevice {
     };
 
     void HandleReport(int32_t state, uint32_t clock) override;
-    void Connected() override { timerRotSpeed_.SetEnabled(true); }
+    void Connected() override { rotSpeed_.Start(); }
     void CheckPulse(Pulses& pulses, int32_t state, uint32_t clock);
     void CheckButton(int32_t mask, int32_t state);
     void CheckFlaps(int32_t mask, int32_t state);
@@ -78,6 +77,4 @@ class ctlMultiPanel final : public cPanelDevice {
     SpeedSampler trimSpeed_;
     std::array<Pulses, 4> pulses_;
     ButtonPress press_;
-    Timer timerRotSpeed_;
-    Timer timerTrimSpeed_;
 };

@@ -24,6 +24,6 @@ std::vector<std::string> VirtualBus::Paths(int32_t vendorId, int32_t productId) 
             paths.push_back(device->path);
         }
     }
-    std::sort(paths.begin(), paths.end());
+    std::ranges::sort(paths, {}, [](const std::string& path) { return ToLower(path); });
     return paths;
 }

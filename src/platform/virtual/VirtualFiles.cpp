@@ -5,7 +5,7 @@
 #include "base/Text.h"
 
 bool VirtualFiles::Exists(const std::string& path) {
-    return !faults_.Take(FileCall::Exists) && files_.contains(Key(path));
+    return faults_.Take(FileCall::Exists) || files_.contains(Key(path));
 }
 
 bool VirtualFiles::Copy(const std::string& from, const std::string& to) {

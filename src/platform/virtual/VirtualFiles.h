@@ -36,6 +36,7 @@ class VirtualFiles : public FilePort {
     // Sorted, in lower case.
     std::vector<std::string> Paths() const;
 
+    // A refused Exists can't tell, and so gives true.
     void Refuse(FileCall call, int times = Faults<FileCall>::kAlways) {
         faults_.Refuse(call, times);
     }

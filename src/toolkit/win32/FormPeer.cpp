@@ -1,5 +1,6 @@
 #include "toolkit/win32/FormPeer.h"
 
+#include <algorithm>
 #include <string_view>
 
 #include "toolkit/win32/Units.h"
@@ -49,7 +50,10 @@ LRESULT FormPeer::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
             form_.Unload();
             return 0;
         case WM_ENDSESSION:
-            if (wParam) form_.Unload();
+            if (wParam) {
+                form_.Unload();
+                form_.SessionEnding.Raise();
+            }
             return 0;
         case WM_ACTIVATE:
             if (HIWORD(wParam) == 0) OnActivate(LOWORD(wParam) != WA_INACTIVE);
@@ -76,7 +80,7 @@ void FormPeer::Report() {
         ReportPixels(form_.Left, place.left);
         ReportPixels(form_.Top, place.top);
         ReportPixels(form_.Width, place.right - place.left);
-        ReportPixels(form_.Height, place.bottom - place.top);
+        ReportPixels(form_.Height, place.bottom - place.top - extraHeight_);
     }
     Follow();
 }
@@ -102,14 +106,33 @@ void FormPeer::MoveFocus(bool back) {
     SendMessageW(Window(), WM_CHANGEUISTATE, MAKEWPARAM(UIS_CLEAR, UISF_HIDEFOCUS), 0);
 }
 
+// The system's scaling makes caption, borders and status bar higher, but not the contents: without
+// this the bar would be covered by them. The form's own Height stays what the program has set.
+int FormPeer::MissingHeight(const RECT& place) const {
+    if (form_.Resizable) return 0;
+    int bar = 0;
+    int bottom = 0;
+    for (const Control* child : form_.Children()) {
+        const WindowPeer* peer = WindowPeer::Of(*child);
+        bar += peer ? peer->HeightAtBottom() : 0;
+        bottom = std::max(bottom, ToPixels(child->Top + child->Height));
+    }
+    if (bar == 0) return 0;
+    RECT client;
+    GetClientRect(Window(), &client);
+    const int frame = place.bottom - place.top - client.bottom;
+    return std::max(0, frame + bottom + bar - ToPixels(form_.Height));
+}
+
 void FormPeer::FollowPlace() {
     if (IsIconic(Window())) return;
     RECT place;
     GetWindowRect(Window(), &place);
+    extraHeight_ = MissingHeight(place);
     const int left = ToPixels(form_.Left);
     const int top = ToPixels(form_.Top);
     const int width = ToPixels(form_.Width);
-    const int height = ToPixels(form_.Height);
+    const int height = ToPixels(form_.Height) + extraHeight_;
     if (place.left == left && place.top == top && place.right - place.left == width &&
         place.bottom - place.top == height) {
         return;
@@ -124,10 +147,15 @@ void FormPeer::FollowVisible() {
         ShowWindow(Window(), SW_HIDE);
         return;
     }
+    Activate();
+}
+
+void FormPeer::Activate() {
     if (IsIconic(Window())) ShowWindow(Window(), SW_RESTORE);
     // Not by ShowWindow, whose first call in a process may be bent by the way it was started.
     SetWindowPos(Window(), HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_SHOWWINDOW);
-    SetForegroundWindow(Window());
+    // A box that is open in front of the form keeps the keyboard.
+    SetForegroundWindow(GetLastActivePopup(Window()));
 }
 
 void FormPeer::FollowMore() {

@@ -11,6 +11,8 @@ class FormPeer : public ContainerPeer {
     // Nothing for a window that isn't a form of this thread.
     static FormPeer* Of(HWND window);
 
+    void Activate() override;
+
     // Gives the keyboard to the next control in the order, or the one before.
     void MoveFocus(bool back);
 
@@ -22,9 +24,12 @@ class FormPeer : public ContainerPeer {
 
   private:
     void Report();
+    // Pixels by which a window at `place` is too low for what it holds.
+    int MissingHeight(const RECT& place) const;
     void OnActivate(bool active);
     void SetIcons();
 
     Form& form_;
     HWND lastFocus_ = nullptr;
+    int extraHeight_ = 0;
 };

@@ -15,6 +15,9 @@ LRESULT PicturePeer::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
             return 0;
         case WM_ERASEBKGND:
             return 1;
+        // What is seen in the round corners of a button.
+        case WM_CTLCOLORBTN:
+            return reinterpret_cast<LRESULT>(ground_.get());
         default:
             return ContainerPeer::OnMessage(message, wParam, lParam);
     }
@@ -22,7 +25,22 @@ LRESULT PicturePeer::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
 
 void PicturePeer::FollowMore() {
     InvalidateRect(Window(), nullptr, FALSE);
+    if (!ground_ || groundColor_ != picture_.BackColor) {
+        groundColor_ = picture_.BackColor;
+        ground_.reset(CreateSolidBrush(static_cast<COLORREF>(groundColor_)));
+    }
     ContainerPeer::FollowMore();
+}
+
+void PicturePeer::FollowLabels() {
+    std::string text;
+    for (const Control* child : picture_.Children()) {
+        const auto* label = dynamic_cast<const Label*>(child);
+        if (!label || !label->Visible || label->Caption.Get().empty()) continue;
+        if (!text.empty()) text += ' ';
+        text += label->Caption.Get();
+    }
+    SetText(text);
 }
 
 void PicturePeer::Paint() {
@@ -38,7 +56,7 @@ void PicturePeer::Paint() {
 }
 
 DrawnPeer::DrawnPeer(const Control& control, PicturePeer& picture)
-    : control_(control), picture_(picture) {
+    : control_(control), label_(dynamic_cast<const Label*>(&control)), picture_(picture) {
     Follow();
 }
 
@@ -46,4 +64,13 @@ void DrawnPeer::Follow() {
     picture_.Invalidate(area_);
     area_ = DrawnArea(control_);
     picture_.Invalidate(area_);
+    if (label_) FollowCaption();
+}
+
+void DrawnPeer::FollowCaption() {
+    static const std::string kHidden;
+    const std::string& caption = label_->Visible ? label_->Caption.Get() : kHidden;
+    if (shown_ == caption) return;
+    shown_ = caption;
+    picture_.FollowLabels();
 }

@@ -2,6 +2,7 @@
 
 #include "toolkit/Picture.h"
 #include "toolkit/win32/ContainerPeer.h"
+#include "toolkit/win32/GdiHandle.h"
 
 class FontCache;
 
@@ -13,6 +14,9 @@ class PicturePeer : public ContainerPeer {
     // What is drawn in an area isn't true any more. Several calls make one painting.
     void Invalidate(const RECT& area) { InvalidateRect(Window(), &area, FALSE); }
 
+    // A label shows something else: the window's text, which screen readers read, follows.
+    void FollowLabels();
+
   protected:
     LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
     void FollowMore() override;
@@ -22,6 +26,8 @@ class PicturePeer : public ContainerPeer {
 
     Picture& picture_;
     FontCache& fonts_;
+    Color groundColor_ = 0;
+    GdiHandle<HBRUSH> ground_;
 };
 
 // The peer of what is drawn on a Picture.
@@ -33,7 +39,11 @@ class DrawnPeer : public Peer {
     void Follow() override;
 
   private:
+    void FollowCaption();
+
     const Control& control_;
+    const Label* const label_;  // none for what is no label
     PicturePeer& picture_;
     RECT area_{};
+    std::string shown_;  // the label's caption, empty while it is hidden
 };

@@ -136,6 +136,9 @@ void DrawSevenSegment(HDC dc, const RECT& area, const std::string& text, Alignme
     const double width = area.right - area.left;
     const auto places = static_cast<size_t>(std::max(1.0, (width - last) / measures.advance + 1));
     std::vector<SegmentCell> cells = ToSegmentCells(text);
+    if (align == Alignment::Right && cells.size() > places) {
+        cells.erase(cells.begin(), cells.end() - static_cast<std::ptrdiff_t>(places));
+    }
     const size_t spare = places > cells.size() ? places - cells.size() : 0;
     const size_t before =
         align == Alignment::Left ? 0 : spare / (align == Alignment::Center ? 2 : 1);

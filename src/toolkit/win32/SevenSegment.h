@@ -22,6 +22,7 @@ struct SegmentCell {
 std::vector<SegmentCell> ToSegmentCells(const std::string& text);
 
 // Draws as many places as the area is wide for; the text stands at the left, the right or in the
-// middle of them, and the places that it leaves, like its unlit segments, show faintly.
+// middle of them, and the places that it leaves, like its unlit segments, show faintly. Of a text
+// that is too long the first places are left out at the right, else the last ones.
 void DrawSevenSegment(HDC dc, const RECT& area, const std::string& text, Alignment align,
                       int digitHeight, COLORREF lit);

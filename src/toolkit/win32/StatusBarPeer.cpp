@@ -16,6 +16,12 @@ void StatusBarPeer::OnParentResized() {
     SetParts();
 }
 
+int StatusBarPeer::HeightAtBottom() const {
+    RECT place;
+    GetWindowRect(Window(), &place);
+    return place.bottom - place.top;
+}
+
 void StatusBarPeer::FollowMore() {
     const auto& panels = bar_.Panels();
     if (texts_.size() != panels.size()) {

@@ -14,6 +14,7 @@ class StatusBarPeer : public WindowPeer {
     StatusBarPeer(StatusBar& bar, FontCache& fonts);
 
     void OnParentResized() override;
+    int HeightAtBottom() const override;
 
   protected:
     void FollowPlace() override {}

@@ -9,6 +9,7 @@
 TabStripPeer::TabStripPeer(TabStrip& tabs, FontCache& fonts) : WindowPeer(tabs), tabs_(tabs) {
     Create(WC_TABCONTROLW, WS_TABSTOP, 0);
     SendMessageW(Window(), WM_SETFONT, reinterpret_cast<WPARAM>(fonts.Message()), FALSE);
+    SetText("Pages");  // for screen readers
     Follow();
 }
 

@@ -55,16 +55,36 @@ class PeerMaker : public ControlVisitor {
     FontCache& fonts_;
 };
 
-// The loop knows nothing of forms, so Tab is taken out of its messages here.
+bool IsPushButton(HWND window) {
+    const LRESULT kind = SendMessageW(window, WM_GETDLGCODE, 0, 0);
+    return (kind & (DLGC_DEFPUSHBUTTON | DLGC_UNDEFPUSHBUTTON)) != 0;
+}
+
+// A click takes the message's place, so that the loop delivers it: what it opens must not run
+// within the hook. A key that is held down clicks once.
+void TakeEnter(MSG& message) {
+    const bool held = (HIWORD(message.lParam) & KF_REPEAT) != 0;
+    message.message = held ? WM_NULL : BM_CLICK;
+    message.wParam = 0;
+    message.lParam = 0;
+}
+
+void TakeKey(MSG& message) {
+    FormPeer* form = FormPeer::Of(GetAncestor(message.hwnd, GA_ROOT));
+    if (!form) return;
+    if (message.wParam == VK_TAB) {
+        form->MoveFocus(GetKeyState(VK_SHIFT) < 0);
+        message.message = WM_NULL;
+    } else if (message.wParam == VK_RETURN && IsPushButton(message.hwnd)) {
+        TakeEnter(message);
+    }
+}
+
+// The loop knows nothing of forms, so Tab and Enter are taken out of its messages here.
 LRESULT CALLBACK FilterKeys(int code, WPARAM removed, LPARAM data) {
     auto& message = *reinterpret_cast<MSG*>(data);
-    if (code == HC_ACTION && removed == PM_REMOVE && message.message == WM_KEYDOWN &&
-        message.wParam == VK_TAB) {
-        FormPeer* form = FormPeer::Of(GetAncestor(message.hwnd, GA_ROOT));
-        if (form) {
-            form->MoveFocus(GetKeyState(VK_SHIFT) < 0);
-            message.message = WM_NULL;
-        }
+    if (code == HC_ACTION && removed == PM_REMOVE && message.message == WM_KEYDOWN) {
+        TakeKey(message);
     }
     return CallNextHookEx(nullptr, code, removed, data);
 }

@@ -75,7 +75,24 @@ void WindowPeer::FollowEnabled() {
 
 void WindowPeer::FollowVisible() {
     const bool shown = (GetWindowLongW(window_, GWL_STYLE) & WS_VISIBLE) != 0;
-    if (shown != control_.Visible) ShowWindow(window_, control_.Visible ? SW_SHOWNA : SW_HIDE);
+    if (shown == control_.Visible) return;
+    if (!control_.Visible) GiveFocusAway();
+    ShowWindow(window_, control_.Visible ? SW_SHOWNA : SW_HIDE);
+}
+
+// A hidden button that kept the keyboard could still be pressed.
+void WindowPeer::GiveFocusAway() {
+    const HWND focus = GetFocus();
+    const auto hides = [this](HWND stop) { return stop == window_ || IsChild(window_, stop); };
+    if (!focus || !hides(focus)) return;
+    const HWND form = GetAncestor(window_, GA_ROOT);
+    const HWND first = GetNextDlgTabItem(form, focus, TRUE);
+    HWND stop = first;
+    while (stop && hides(stop)) {
+        stop = GetNextDlgTabItem(form, stop, TRUE);
+        if (stop == first) stop = nullptr;
+    }
+    SetFocus(stop ? stop : form);
 }
 
 void WindowPeer::FollowToolTip() {

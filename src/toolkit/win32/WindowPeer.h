@@ -28,6 +28,8 @@ class WindowPeer : public Peer {
     // Colours to draw with; null for the system's.
     virtual HBRUSH OnColor(HDC /*dc*/) { return nullptr; }
     virtual void OnParentResized() {}
+    // Pixels of its parent's height that it takes for itself along the bottom.
+    virtual int HeightAtBottom() const { return 0; }
 
     bool IsFollowing() const { return following_; }
 
@@ -54,6 +56,7 @@ class WindowPeer : public Peer {
     void FollowEnabled();
     void FollowToolTip();
     void PutInOrder();
+    void GiveFocusAway();
 
     Control& control_;
     HWND window_ = nullptr;

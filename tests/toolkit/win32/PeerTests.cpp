@@ -5,6 +5,7 @@
 #include "toolkit/Picture.h"
 #include "toolkit/StatusBar.h"
 #include "toolkit/TabStrip.h"
+#include "toolkit/win32/Canvas.h"
 #include "toolkit/win32/CommonControls.h"
 #include "toolkit/win32/SevenSegment.h"
 #include "toolkit/win32/WideText.h"
@@ -29,8 +30,9 @@ void Pump() {
     }
 }
 
-void PressTab() {
-    PostMessageW(GetFocus(), WM_KEYDOWN, VK_TAB, 0);
+// `flags` as those of WM_KEYDOWN.
+void Press(WPARAM key, LPARAM flags = 0) {
+    PostMessageW(GetFocus(), WM_KEYDOWN, key, flags);
     Pump();
 }
 
@@ -44,6 +46,18 @@ COLORREF PixelOf(const Control& control, int x, int y) {
     const COLORREF color = GetPixel(dc, x, y);
     ReleaseDC(WindowOf(control), dc);
     return color;
+}
+
+// What a display of five places shows of a text.
+std::vector<COLORREF> Drawn(const std::string& text, Alignment align) {
+    const RECT area{0, 0, 167, 40};
+    Canvas canvas(area);
+    DrawSevenSegment(canvas.Dc(), area, text, align, 40, 0xFFFFFF);
+    std::vector<COLORREF> pixels;
+    for (int y = 0; y < area.bottom; ++y) {
+        for (int x = 0; x < area.right; ++x) pixels.push_back(GetPixel(canvas.Dc(), x, y));
+    }
+    return pixels;
 }
 
 struct PeerTest : testing::Test {
@@ -141,6 +155,123 @@ TEST_F(PeerTest, UsersMoveReachesTheFormAndHiddenWindowsFollowIt) {
     EXPECT_EQ(form.Width, 150) << "the system's smallest width is no act of the user";
 }
 
+TEST_F(PeerTest, ContentsNeverCoverTheStatusBar) {
+    Container page(&form);
+    page.Move(0, 0, 6000, 4500);
+    StatusBar bar(&form);
+    bar.AddPanel("Status", "Session", 1);
+    form.Load();
+    form.Show();
+    RECT place;
+    GetWindowRect(WindowOf(bar), &place);
+    MapWindowPoints(nullptr, WindowOf(form), reinterpret_cast<POINT*>(&place), 2);
+    EXPECT_EQ(place.top, 300);
+    RECT client;
+    GetClientRect(WindowOf(form), &client);
+    EXPECT_EQ(place.bottom, client.bottom);
+    SetWindowPos(WindowOf(form), nullptr, 33, 44, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+    EXPECT_EQ(form.Left, 33 * 15);
+    EXPECT_EQ(form.Height, 4208) << "what the program has set";
+
+    page.Height = 1500;
+    form.Top = 900;
+    RECT after;
+    GetWindowRect(WindowOf(form), &after);
+    EXPECT_EQ(after.bottom - after.top, 281) << "as set, where there is room";
+}
+
+TEST_F(PeerTest, ShowBringsAMinimisedFormBackAndACoveredOneToTheFront) {
+    form.Load();
+    form.Show();
+    ShowWindow(WindowOf(form), SW_MINIMIZE);
+    Pump();
+    ASSERT_TRUE(IsIconic(WindowOf(form)));
+    form.Show();
+    EXPECT_FALSE(IsIconic(WindowOf(form)));
+    EXPECT_EQ(form.Left, 1500);
+
+    Form other(ui);
+    other.Move(1500, 1500, 6000, 4208);
+    other.Load();
+    other.Show();
+    ASSERT_EQ(GetForegroundWindow(), WindowOf(other));
+    form.Show();
+    EXPECT_EQ(GetForegroundWindow(), WindowOf(form));
+}
+
+TEST_F(PeerTest, EndOfTheUsersSessionIsTold) {
+    form.Load();
+    std::string story;
+    form.Unloaded.Connect([&] { story += "unloaded "; });
+    form.SessionEnding.Connect([&] { story += "ending "; });
+    SendMessageW(WindowOf(form), WM_ENDSESSION, FALSE, 0);
+    EXPECT_EQ(story, "");
+    SendMessageW(WindowOf(form), WM_ENDSESSION, TRUE, 0);
+    EXPECT_EQ(story, "unloaded ending ");
+}
+
+TEST_F(PeerTest, EnterPressesTheFocusedButtonOnce) {
+    TabStrip tabs(&form);
+    CommandButton button(&form);
+    button.Move(0, 600, 900, 330);
+    form.Load();
+    form.Show();
+    int clicks = 0;
+    button.Click.Connect([&] { ++clicks; });
+    SetFocus(WindowOf(button));
+    Press(VK_RETURN);
+    Press(VK_RETURN, LPARAM{KF_REPEAT} << 16);
+    EXPECT_EQ(clicks, 1);
+    SetFocus(WindowOf(tabs));
+    Press(VK_RETURN);
+    EXPECT_EQ(clicks, 1);
+}
+
+TEST_F(PeerTest, HiddenPageGivesTheKeyboardAway) {
+    TabStrip tabs(&form);
+    Container page(&form);
+    CommandButton first(&page);
+    CommandButton second(&page);
+    form.Load();
+    form.Show();
+    SetFocus(WindowOf(first));
+    page.Visible = false;
+    EXPECT_EQ(GetFocus(), WindowOf(tabs));
+    EXPECT_EQ(TextOf(tabs), "Pages");
+
+    page.Visible = true;
+    tabs.Visible = false;
+    SetFocus(WindowOf(second));
+    page.Visible = false;
+    EXPECT_EQ(GetFocus(), WindowOf(form)) << "no stop is left";
+}
+
+TEST_F(PeerTest, PictureTellsScreenReadersItsLabelsAndButtonsItsGround) {
+    Picture picture(&form);
+    picture.BackColor = 0x302010;
+    CommandButton button(&picture);
+    Label mode(&picture);
+    Label empty(&picture);
+    Label value(&picture);
+    mode.Caption = "HDG";
+    value.Caption = "082";
+    form.Load();
+    EXPECT_EQ(TextOf(picture), "HDG 082");
+    value.Caption = "083";
+    mode.Visible = false;
+    EXPECT_EQ(TextOf(picture), "083");
+
+    picture.BackColor = 0x403020;
+    const HDC dc = GetDC(WindowOf(button));
+    const LRESULT brush =
+        SendMessageW(WindowOf(picture), WM_CTLCOLORBTN, reinterpret_cast<WPARAM>(dc),
+                     reinterpret_cast<LPARAM>(WindowOf(button)));
+    ReleaseDC(WindowOf(button), dc);
+    LOGBRUSH ground{};
+    ASSERT_NE(GetObjectW(reinterpret_cast<HGDIOBJ>(brush), sizeof ground, &ground), 0);
+    EXPECT_EQ(ground.lbColor, 0x403020u);
+}
+
 TEST_F(PeerTest, CloseBoxUnloadsOnceAndDestroysNothing) {
     auto closing = std::make_unique<Form>(ui);
     int unloads = 0;
@@ -171,14 +302,14 @@ TEST_F(PeerTest, KeyboardAndStackGoByTheOrderOfChildren) {
     form.Show();
     SetFocus(WindowOf(first));
     for (const Control* next : {&inner, &last, &first, &inner}) {
-        PressTab();
+        Press(VK_TAB);
         EXPECT_EQ(GetFocus(), WindowOf(*next));
     }
 
     form.BringToFront(first);
     EXPECT_EQ(GetWindow(WindowOf(form), GW_CHILD), WindowOf(first));
     SetFocus(WindowOf(last));
-    PressTab();
+    Press(VK_TAB);
     EXPECT_EQ(GetFocus(), WindowOf(first));
 }
 
@@ -205,6 +336,12 @@ TEST_F(PeerTest, PictureIsPaintedWhereItChangedAndOnlyWhenSeen) {
     Pump();
     EXPECT_EQ(PixelOf(picture, 30, 40), 0x202020u);
     EXPECT_EQ(PixelOf(picture, 60, 40), 0x00FF00u);
+}
+
+TEST(SevenSegmentTest, TooLongATextLosesItsFirstPlacesAtTheRightAndElseItsLast) {
+    EXPECT_EQ(Drawn("123456.", Alignment::Right), Drawn("23456.", Alignment::Right));
+    EXPECT_EQ(Drawn("123456", Alignment::Left), Drawn("12345", Alignment::Left));
+    EXPECT_NE(Drawn("12345", Alignment::Right), Drawn("2345", Alignment::Right)) << "five places";
 }
 
 TEST(SevenSegmentTest, PointJoinsTheDigitBeforeItAndLettersAreBlank) {
