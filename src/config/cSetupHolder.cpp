@@ -1,9 +1,11 @@
 #include "config/cSetupHolder.h"
 
+#include <algorithm>
 #include <type_traits>
 #include <variant>
 
 #include "base/Number.h"
+#include "base/Text.h"
 #include "config/IniSave.h"
 #include "config/cInifile.h"
 #include "config/cRegistry.h"
@@ -82,15 +84,20 @@ void Read(cSetupHolder& holder, const Field& field, const std::string& text) {
     }
 }
 
-bool Write(const cSetupHolder& holder, const Field& field, cInifile& ini) {
+// `keys` are those that the section holds.
+bool Write(const cSetupHolder& holder, const Field& field, const std::vector<std::string>& keys,
+           cInifile& ini) {
     if (field.keeping == Keeping::ReadOnly) return true;
     ini.Key = field.key;
     const int32_t value = Get(holder, field);
     if (field.keeping == Keeping::IfNotDefault && value == field.standard) {
-        ini.DeleteKey();  // refused when there is no such key, which is just as well
-        return true;
+        const bool there = std::ranges::any_of(
+            keys, [&field](const std::string& key) { return EqualNoCase(key, field.key); });
+        if (!there) return true;
+        ini.DeleteKey();
+    } else {
+        ini.SetValue(FormatInteger(value));
     }
-    ini.SetValue(FormatInteger(value));
     return ini.Success();
 }
 
@@ -127,9 +134,11 @@ void cSetupHolder::SaveSetup() {
     SaveAutoStart();
     SaveIni(ini_, files_, programFolder_ + "\\Orvo.ini", [this](cInifile& ini) {
         ini.Section = "GeneralSetup";
-        bool written = true;
-        for (const Field& field : kFields) written = Write(*this, field, ini) && written;
-        return written;
+        std::vector<std::string> keys;
+        int32_t count = 0;
+        ini.EnumerateCurrentSection(keys, count);
+        return std::ranges::all_of(
+            kFields, [&](const Field& field) { return Write(*this, field, keys, ini); });
     });
 }
 

@@ -130,7 +130,7 @@ TEST_F(ConfigTest, SavingKeepsWhatDiffersAndWhatIsNotOurs) {
 
 TEST_F(ConfigTest, LogonEntryFollowsAutoStart) {
     setup.AutoStart = true;
-    EXPECT_TRUE(SavedHas("AutoStart=1") || Saved().starts_with("[GeneralSetup]\r\nAutoStart=1"));
+    EXPECT_TRUE(SavedHas("AutoStart=1"));
     const auto* entry = machine.registry.Look(kCurrentUser, kRun, "ORVO");
     ASSERT_NE(entry, nullptr);
     EXPECT_EQ(entry->data, "C:\\Orvo\\Orvo.exe");
@@ -149,6 +149,19 @@ TEST_F(ConfigTest, UnwritableFolderLosesNothing) {
     machine.files.Protect("C:\\Orvo");
     setup.AutoQuit = false;
     EXPECT_EQ(Saved(), before);
+}
+
+TEST_F(ConfigTest, AnyWriteThatFailsLeavesTheWholeFile) {
+    const std::string before = "[GeneralSetup]\r\nAutoQuit=1\r\n[Profiles]\r\nA= \r\n";
+    for (const FileCall call : {FileCall::Write, FileCall::Copy, FileCall::Replace}) {
+        Load(before);
+        setup.AutoQuit = false;
+        setup.OrvoPriority = 64;
+        machine.files.Refuse(call, 1);
+        EXPECT_EQ(Saved(), before);
+    }
+    machine.files.Refuse(FileCall::Exists, 1);
+    EXPECT_TRUE(Saved().find("[Profiles]") != std::string::npos) << "a file that can't be seen";
 }
 
 // The program dies at every single change of a file that a save makes.
