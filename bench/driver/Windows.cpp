@@ -141,4 +141,11 @@ uint64_t PictureOf(HWND window) {
     return GetWindowRect(window, &place) ? PictureOf(place) : 0;
 }
 
+uint64_t PictureOf(HWND window, const RECT& part) {
+    RECT place{};
+    if (!GetWindowRect(window, &place)) return 0;
+    return PictureOf(RECT{place.left + part.left, place.top + part.top, place.left + part.right,
+                          place.top + part.bottom});
+}
+
 uint64_t PictureOfTrayIcon() { return PictureOf(TrayIconPlace()); }

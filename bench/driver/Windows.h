@@ -37,4 +37,6 @@ bool DoubleClickTrayIcon();
 // A number for what the screen shows in a window's place, or in the place of that icon; 0 when it
 // can't be had.
 uint64_t PictureOf(HWND window);
+// The same for a part of the window, in pixels from its upper left corner.
+uint64_t PictureOf(HWND window, const RECT& part);
 uint64_t PictureOfTrayIcon();

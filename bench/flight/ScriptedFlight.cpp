@@ -8,6 +8,8 @@
 
 namespace {
 
+// Inside the frame of the upper display, in pixels of the panel's picture.
+constexpr RECT kUpperDisplay = {204, 20, 376, 64};
 constexpr uint32_t kPatienceMs = 10000;
 // A hand takes as long to turn back. Sooner, the panel's reports still count for the old direction.
 constexpr DWORD kHandPauseMs = 300;
@@ -82,19 +84,33 @@ bool ScriptedFlight::TurnHeading() {
     cockpit_.Panels("selector multi1 HDG");
     if (!ExpectPanel(HeadingShown("080"))) return false;
     log_.Shot("2-heading-080");
-    const uint64_t before = PictureOf(cockpit_.MainWindow());
+    display080_ = UpperDisplay();
 
     cockpit_.Simulator("writes");
     cockpit_.Panels("knob multi1 +3 60");
     if (!ExpectPanel(HeadingShown("083")) || !ExpectHeadings({81, 82, 83})) return false;
     log_.Shot("3-heading-083");
     const bool redrawn =
-        Until(kPatienceMs, [&] { return PictureOf(cockpit_.MainWindow()) != before; });
-    if (!log_.Check("the panel's picture in the window has changed", redrawn)) return false;
+        display080_ != 0 && Until(kPatienceMs, [&] { return UpperDisplay() != display080_; });
+    if (!log_.Check("the display on the screen shows another number", redrawn)) return false;
 
     ::Sleep(kHandPauseMs);
     cockpit_.Panels("knob multi1 -1 60");
     return ExpectPanel(HeadingShown("082")) && ExpectHeadings({82});
+}
+
+uint64_t ScriptedFlight::UpperDisplay() {
+    // The page's picture stands at the main window's page area, the display in it.
+    const HWND setup = FindChild(cockpit_.MainWindow(), "Button", "Setup");
+    const HWND picture = GetParent(setup);
+    uint64_t last = 0;
+    uint64_t shown = 0;
+    Until(kPatienceMs, [&] {
+        last = shown;
+        shown = PictureOf(picture, kUpperDisplay);
+        return shown != 0 && shown == last;
+    });
+    return shown;
 }
 
 bool ScriptedFlight::LoseSimulator() {
@@ -118,6 +134,10 @@ bool ScriptedFlight::FindSimulatorAgain() {
         return false;
     }
     log_.Shot("5-connected-again");
+    if (!log_.Check("the display on the screen shows the first number again",
+                    Until(kPatienceMs, [this] { return UpperDisplay() == display080_; }))) {
+        return false;
+    }
     return log_.Check("the icon is back",
                       Until(kPatienceMs, [this] { return PictureOfTrayIcon() == connectedIcon_; }));
 }

@@ -25,9 +25,12 @@ class ScriptedFlight {
 
     bool ExpectStatus(size_t panel, const std::string& text);
     bool ExpectPanel(const std::string& shown);
+    // Picture of the upper display in the window, once it has come to rest.
+    uint64_t UpperDisplay();
     bool ExpectHeadings(const std::vector<int>& degrees);
 
     Cockpit& cockpit_;
     const FlightLog& log_;
     uint64_t connectedIcon_ = 0;
+    uint64_t display080_ = 0;  // picture of the upper display
 };

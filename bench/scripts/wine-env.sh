@@ -1,4 +1,4 @@
-# Shell helpers of ./run and ./test: packages, the project's own Wine prefix, a screen of its own.
+# Shell functions of ./run and ./test: packages, the project's own Wine prefix, a screen of its own.
 # Source it with `root` set to the project's folder and `me` to the name to speak under.
 # shellcheck shell=bash disable=SC2034,SC2154
 
@@ -35,11 +35,9 @@ need_packages() {
 # build_windows TARGET...: configures the windows preset if need be and builds.
 build_windows() {
     local log=$root/build/windows-build.log
-    if [[ ! -f $root/build/windows/build.ninja ]]; then
-        say "configuring build/windows"
-        (cd "$root" && cmake --preset windows) >"$log" 2>&1 ||
-            fail "the Windows programs can't be configured (see build/windows-build.log)"
-    fi
+    # Each time: packages that came later change what can be built.
+    (cd "$root" && cmake --preset windows) >"$log" 2>&1 ||
+        fail "the Windows programs can't be configured (see build/windows-build.log)"
     [[ -f $root/build/windows/Orvo.exe ]] || say "building the Windows programs"
     cmake --build "$root/build/windows" --target "$@" >"$log" 2>&1 ||
         fail "the Windows programs can't be built (see build/windows-build.log)"
@@ -72,10 +70,10 @@ start_screen() {
 # set_up_wine: after it, run_wine starts programs on a desktop that has a task bar. The desktop
 # comes from the prefix, so that standard input and output of the programs stay ours.
 set_up_wine() {
+    export WINEPREFIX=$root/build/wine WINEARCH=win64 WINEDEBUG=-all
     wine=$(command -v wine64 || true)
     [[ $wine ]] || wine=/usr/lib/wine/wine64
     [[ -x $wine ]] || fail "there is no wine64"
-    export WINEPREFIX=$root/build/wine WINEARCH=win64 WINEDEBUG=-all
     export WINEDLLOVERRIDES="mscoree,mshtml=;hid,setupapi=n,b"
     [[ -f $WINEPREFIX/ready ]] && return
     say "making the Wine prefix build/wine"
@@ -101,6 +99,6 @@ wine_path() {
 
 # stop_wine_and_screen: ends what the two above have started and nothing else.
 stop_wine_and_screen() {
-    [[ -z $wine ]] || wineserver -k 2>/dev/null || true
+    [[ -z $wine ]] || WINEPREFIX=$root/build/wine wineserver -k 2>/dev/null || true
     [[ -z $xvfb_id ]] || kill "$xvfb_id" 2>/dev/null || true
 }

@@ -3,6 +3,7 @@
 
 #include <windows.h>
 
+#include <cstdio>
 #include <filesystem>
 #include <gtest/gtest.h>
 #include <memory>
@@ -91,7 +92,7 @@ TEST_F(EndToEnd, WithoutPanelsRunsIfToldToButNotTwice) {
     const auto second = MakeCockpit("SecondInstance");
     second->StartOrvo();
     EXPECT_EQ(AnswerBox(*second, "Orvo"), "Orvo is already running...");
-    EXPECT_TRUE(second->Orvo().WaitForEnd(kSoonMs));
+    EXPECT_EQ(second->Orvo().WaitForEnd(kSoonMs), 0u);
     ExpectQuits();
 }
 
@@ -105,6 +106,16 @@ TEST_F(EndToEnd, AutoQuitLeavesWithTheSimulator) {
     GetPrivateProfileStringA("GeneralSetup", "AutoQuit", "", kept, sizeof kept,
                              (cockpit_->Folder() + "\\Orvo.ini").c_str());
     EXPECT_STREQ(kept, "1");
+}
+
+TEST_F(EndToEnd, AutoQuitEndsTheQuitBoxToo) {
+    cockpit_->WriteIni("[GeneralSetup]\r\nAutoQuit=1\r\n");
+    StartConnected();
+    PressButton(FindChild(cockpit_->MainWindow(), "Button", "Quit"));
+    EXPECT_TRUE(Until(kSoonMs, [&] { return cockpit_->Box(" ORVO - Quit request") != nullptr; }));
+    cockpit_->KillSimulator();
+    EXPECT_EQ(cockpit_->Orvo().WaitForEnd(kAfterSilenceMs), 0u);
+    EXPECT_EQ(cockpit_->Panels("show multi1"), kDark);
 }
 
 TEST_F(EndToEnd, APanelThatVanishesHurtsNothingElse) {
@@ -151,6 +162,23 @@ TEST_F(EndToEnd, ABadServerEndsTheSessionAndIsTriedOnceASecond) {
         cockpit_->Simulator("normal");
         EXPECT_TRUE(cockpit_->StatusBecomes(0, kConnected, kSoonMs));
     }
+    ExpectQuits();
+}
+
+TEST_F(EndToEnd, TheTickKeepsItsPaceUnderAMessageBox) {
+    StartConnected();
+    PressButton(FindChild(cockpit_->MainWindow(), "Button", "Quit"));
+    HWND box = nullptr;
+    ASSERT_TRUE(
+        Until(kSoonMs, [&] { return (box = cockpit_->Box(" ORVO - Quit request")) != nullptr; }));
+    cockpit_->Simulator("pace 1");
+    std::string pace = "none";
+    EXPECT_TRUE(Until(kSoonMs, [&] { return (pace = cockpit_->Simulator("pace 300")) != "none"; }));
+    double median = 0;
+    EXPECT_EQ(std::sscanf(pace.c_str(), "median %lf", &median), 1) << pace;
+    EXPECT_NEAR(median, 10, 2) << pace;
+    PressBoxButton(box, IDCANCEL);
+    EXPECT_EQ(cockpit_->Status().at(0), kConnected);
     ExpectQuits();
 }
 
