@@ -90,7 +90,7 @@ void MultiPanelPicture::PlaceLabels() {
     place(labSpeed, FontFace::Normal, kPrint, Alignment::Center);
     labSpeed.Move(6810, 1680, 600, 240);
     place(labSpeed2, FontFace::Normal, kPrint, Alignment::Center);
-    labSpeed2.Move(9060, 1200, 540, 240);
+    labSpeed2.Move(9240, 1980, 360, 240);
 }
 
 void MultiPanelPicture::PlacePointersAndLevers() {
