@@ -4,7 +4,7 @@
 #include <cstdlib>
 #include <new>
 
-#include "support/VirtualCockpit.h"
+#include "bench/virtual/VirtualCockpit.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 #include <algorithm>
 #include <gtest/gtest.h>
 
-#include "support/VirtualCockpit.h"
+#include "bench/virtual/VirtualCockpit.h"
 
 namespace {
 

@@ -3,8 +3,8 @@
 #include <gtest/gtest.h>
 
 #include "base/Bytes.h"
+#include "bench/virtual/SimulatorLink.h"
 #include "simlink/EventOutput.h"
-#include "support/SimulatorLink.h"
 
 namespace {
 

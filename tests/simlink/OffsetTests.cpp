@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 #include <vector>
 
-#include "support/SimulatorLink.h"
+#include "bench/virtual/SimulatorLink.h"
 
 namespace {
 

@@ -114,22 +114,6 @@ TEST_F(ToolkitTest, ChildrenKeepTheirOrderUntilOneIsBroughtToTheFrontOrGoes) {
     EXPECT_EQ(form.Children(), (std::vector<Control*>{&second, &first}));
 }
 
-TEST_F(ToolkitTest, PointerTurnsClockwiseFromStraightUp) {
-    struct Case {
-        double degrees;
-        int32_t x, y;
-    };
-    Line pointer(&form);
-    pointer.X1 = 840;
-    pointer.Y1 = 1020;
-    for (const Case& c : {Case{0, 840, 720}, Case{90, 1140, 1020}, Case{180, 840, 1320},
-                          Case{-90, 540, 1020}, Case{30, 990, 760}}) {
-        pointer.PointTo(c.degrees, 300);
-        EXPECT_EQ(pointer.X2, c.x) << c.degrees;
-        EXPECT_EQ(pointer.Y2, c.y) << c.degrees;
-    }
-}
-
 TEST(TimerTest, RestartsWithANewIntervalAndGoesOnWithTheSameOne) {
     VirtualClock clock;
     VirtualLoop loop(clock);

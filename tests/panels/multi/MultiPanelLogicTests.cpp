@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "support/VirtualCockpit.h"
+#include "bench/virtual/VirtualCockpit.h"
 
 namespace {
 
