@@ -14,5 +14,7 @@ class FilePort {
     // Puts `from` in the place of `to` in one step: whoever looks, at any moment and after any
     // crash, finds the old file or the new one.
     virtual bool Replace(const std::string& from, const std::string& to) = 0;
+    // Only when there is no file `to` yet.
+    virtual bool Rename(const std::string& from, const std::string& to) = 0;
     virtual bool Delete(const std::string& path) = 0;
 };

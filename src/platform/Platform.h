@@ -6,6 +6,7 @@
 #include "platform/HidPort.h"
 #include "platform/IniService.h"
 #include "platform/IpcChannel.h"
+#include "platform/KeyboardPort.h"
 #include "platform/MessageLoop.h"
 #include "platform/ProcessPort.h"
 #include "platform/RegistryPort.h"
@@ -26,4 +27,5 @@ struct Platform {
     ScreenPort& screen;
     TrayPort& tray;
     FilePort& files;
+    KeyboardPort& keyboard;
 };

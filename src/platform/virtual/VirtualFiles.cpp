@@ -23,6 +23,14 @@ bool VirtualFiles::Replace(const std::string& from, const std::string& to) {
     return true;
 }
 
+bool VirtualFiles::Rename(const std::string& from, const std::string& to) {
+    const auto content = Look(from);
+    if (!content || Look(to) || !MayChange(FileCall::Rename, to, nullptr)) return false;
+    files_.erase(Key(from));
+    files_[Key(to)] = *content;
+    return true;
+}
+
 bool VirtualFiles::Delete(const std::string& path) {
     if (!files_.contains(Key(path)) || !MayChange(FileCall::Delete, path, nullptr)) return false;
     files_.erase(Key(path));

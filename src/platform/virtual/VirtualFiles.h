@@ -8,7 +8,7 @@
 #include "platform/FilePort.h"
 #include "platform/virtual/Faults.h"
 
-enum class FileCall : uint8_t { Exists, Copy, Replace, Delete, Read, Write };
+enum class FileCall : uint8_t { Exists, Copy, Replace, Rename, Delete, Read, Write };
 
 // Thrown by the change at which the power went.
 struct PowerCut {};
@@ -24,6 +24,7 @@ class VirtualFiles : public FilePort {
     bool Exists(const std::string& path) override;
     bool Copy(const std::string& from, const std::string& to) override;
     bool Replace(const std::string& from, const std::string& to) override;
+    bool Rename(const std::string& from, const std::string& to) override;
     bool Delete(const std::string& path) override;
 
     // What other virtual ports read and write files by.

@@ -9,6 +9,7 @@
 #include "platform/virtual/VirtualHid.h"
 #include "platform/virtual/VirtualIni.h"
 #include "platform/virtual/VirtualIpc.h"
+#include "platform/virtual/VirtualKeyboard.h"
 #include "platform/virtual/VirtualLoop.h"
 #include "platform/virtual/VirtualProcess.h"
 #include "platform/virtual/VirtualRegistry.h"
@@ -30,8 +31,10 @@ struct VirtualPlatform {
     VirtualProcess process;
     VirtualScreen screen;
     VirtualTray tray;
+    VirtualKeyboard keyboard;
 
     Platform Ports() {
-        return {clock, loop, ipc, hid, deckhub, ini, registry, process, screen, tray, files};
+        return {clock,    loop,    ipc,    hid,  deckhub, ini,
+                registry, process, screen, tray, files,   keyboard};
     }
 };

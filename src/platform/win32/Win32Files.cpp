@@ -44,4 +44,10 @@ bool Win32Files::Replace(const std::string& from, const std::string& to) {
                        MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0;
 }
 
+bool Win32Files::Rename(const std::string& from, const std::string& to) {
+    DropIniCache(from);
+    DropIniCache(to);
+    return MoveFileExA(from.c_str(), to.c_str(), MOVEFILE_WRITE_THROUGH) != 0;
+}
+
 bool Win32Files::Delete(const std::string& path) { return DeleteFileA(path.c_str()) != 0; }

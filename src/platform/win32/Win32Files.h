@@ -8,5 +8,6 @@ class Win32Files final : public FilePort {
     // A copy of a read-only file can be written to.
     bool Copy(const std::string& from, const std::string& to) override;
     bool Replace(const std::string& from, const std::string& to) override;
+    bool Rename(const std::string& from, const std::string& to) override;
     bool Delete(const std::string& path) override;
 };

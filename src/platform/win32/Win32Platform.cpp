@@ -7,6 +7,7 @@
 #include "platform/win32/Win32HidLibrary.h"
 #include "platform/win32/Win32Ini.h"
 #include "platform/win32/Win32Ipc.h"
+#include "platform/win32/Win32Keyboard.h"
 #include "platform/win32/Win32Loop.h"
 #include "platform/win32/Win32Process.h"
 #include "platform/win32/Win32Registry.h"
@@ -26,6 +27,7 @@ struct Win32Platform::Parts {
     Win32Screen screen;
     Win32Tray tray;
     Win32Files files;
+    Win32Keyboard keyboard;
 };
 
 Win32Platform::Win32Platform() : parts_(std::make_unique<Parts>()) {}
@@ -35,5 +37,5 @@ Win32Platform::~Win32Platform() = default;
 Platform Win32Platform::Ports() {
     Parts& p = *parts_;
     return {p.clock,    p.loop,    p.ipc,    p.hid,  p.deckhub, p.ini,
-            p.registry, p.process, p.screen, p.tray, p.files};
+            p.registry, p.process, p.screen, p.tray, p.files,   p.keyboard};
 }
