@@ -5,10 +5,12 @@
 
 #include "toolkit/Peer.h"
 
+class ComboBox;
 class CommandButton;
 class Container;
 class Control;
 class Form;
+class Frame;
 class Label;
 class Line;
 class Picture;
@@ -23,8 +25,10 @@ class ControlVisitor {
 
     virtual void Visit(Form& form) = 0;
     virtual void Visit(Container& container) = 0;
+    virtual void Visit(Frame& frame) = 0;
     virtual void Visit(Picture& picture) = 0;
     virtual void Visit(CommandButton& button) = 0;
+    virtual void Visit(ComboBox& box) = 0;
     virtual void Visit(Label& label) = 0;
     virtual void Visit(Shape& shape) = 0;
     virtual void Visit(Line& line) = 0;

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/virtual/VirtualLoop.h"
+#include "toolkit/ComboBox.h"
 #include "toolkit/CommandButton.h"
 #include "toolkit/Form.h"
 #include "toolkit/HeadlessUi.h"
@@ -87,6 +88,25 @@ TEST_F(ToolkitTest, TabsInsertedAroundTheSelectedOneLeaveItSelected) {
     EXPECT_EQ(tabs.Tabs()[1].key, "old");
     EXPECT_EQ(tabs.Tabs()[2].key, "last");
     EXPECT_EQ(clicks, 0);
+}
+
+TEST_F(ToolkitTest, SelectingAnEntryRaisesClickOnceAndOnlyThen) {
+    ComboBox box(&form);
+    std::vector<std::string> seen;
+    box.Click.Connect([&] { seen.push_back(box.Text()); });
+    box.SetListIndex(0);
+    EXPECT_EQ(box.ListIndex(), -1);
+    box.AddItem("a");
+    box.AddItem("b");
+    for (const int32_t index : {1, 1, 2, -2}) box.SetListIndex(index);
+    box.AddItem("c");
+    EXPECT_EQ(box.ListIndex(), 1);
+    box.SetListIndex(-1);
+    EXPECT_EQ(box.Text(), "");
+    box.SetListIndex(2);
+    box.Clear();
+    EXPECT_EQ(box.ListIndex(), -1);
+    EXPECT_EQ(seen, (std::vector<std::string>{"b", "b", "c"}));
 }
 
 TEST_F(ToolkitTest, FormUnloadsOnceAndIsHiddenLast) {

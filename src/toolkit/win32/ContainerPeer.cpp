@@ -56,6 +56,10 @@ LRESULT ContainerPeer::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         default:
             break;
     }
+    return OnOther(message, wParam, lParam);
+}
+
+LRESULT ContainerPeer::OnOther(UINT message, WPARAM wParam, LPARAM lParam) {
     return DefWindowProcW(Window(), message, wParam, lParam);
 }
 

@@ -20,6 +20,8 @@ class ContainerPeer : public WindowPeer {
 
     // Messages of the peer's own window.
     virtual LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam);
+    // Those left to the window's class.
+    virtual LRESULT OnOther(UINT message, WPARAM wParam, LPARAM lParam);
     void FollowMore() override;
 
   private:

@@ -24,8 +24,10 @@ class Painter : private ControlVisitor {
     // These have windows of their own.
     void Visit(Form&) override {}
     void Visit(Container&) override {}
+    void Visit(Frame&) override {}
     void Visit(Picture&) override {}
     void Visit(CommandButton&) override {}
+    void Visit(ComboBox&) override {}
     void Visit(TabStrip&) override {}
     void Visit(StatusBar&) override {}
 

@@ -1,14 +1,18 @@
 #include "toolkit/win32/Win32Ui.h"
 
+#include "toolkit/ComboBox.h"
 #include "toolkit/CommandButton.h"
 #include "toolkit/Form.h"
+#include "toolkit/Frame.h"
 #include "toolkit/Picture.h"
 #include "toolkit/StatusBar.h"
 #include "toolkit/TabStrip.h"
 #include "toolkit/win32/ButtonPeer.h"
+#include "toolkit/win32/ComboBoxPeer.h"
 #include "toolkit/win32/CommonControls.h"
 #include "toolkit/win32/FontCache.h"
 #include "toolkit/win32/FormPeer.h"
+#include "toolkit/win32/FramePeer.h"
 #include "toolkit/win32/LabelPeer.h"
 #include "toolkit/win32/PicturePeer.h"
 #include "toolkit/win32/StatusBarPeer.h"
@@ -27,10 +31,12 @@ class PeerMaker : public ControlVisitor {
 
     void Visit(Form& form) override { made = std::make_unique<FormPeer>(form); }
     void Visit(Container& container) override { made = std::make_unique<ContainerPeer>(container); }
+    void Visit(Frame& frame) override { made = std::make_unique<FramePeer>(frame, fonts_); }
     void Visit(Picture& picture) override { made = std::make_unique<PicturePeer>(picture, fonts_); }
     void Visit(CommandButton& button) override {
         made = std::make_unique<ButtonPeer>(button, fonts_);
     }
+    void Visit(ComboBox& box) override { made = std::make_unique<ComboBoxPeer>(box, fonts_); }
     void Visit(Label& label) override {
         if (PicturePeer* picture = PictureAround(label)) {
             made = std::make_unique<DrawnPeer>(label, *picture);

@@ -62,8 +62,12 @@ void WindowPeer::FollowPlace() {
     if (placed_ && EqualRect(&*placed_, &place)) return;
     placed_ = place;
     tipText_.clear();  // its area is to be set anew
-    SetWindowPos(window_, nullptr, left, top, place.right - left, place.bottom - top,
-                 SWP_NOZORDER | SWP_NOACTIVATE);
+    PutAt(place);
+}
+
+void WindowPeer::PutAt(const RECT& place) {
+    SetWindowPos(window_, nullptr, place.left, place.top, place.right - place.left,
+                 place.bottom - place.top, SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 // Only what the control itself changes: a message box disables its owner meanwhile.

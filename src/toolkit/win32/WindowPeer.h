@@ -43,6 +43,8 @@ class WindowPeer : public Peer {
     void SetText(const std::string& text);
 
     virtual void FollowPlace();
+    // Gives the window its place in the parent, in pixels.
+    virtual void PutAt(const RECT& place);
     virtual void FollowVisible();
     // What this kind of control has beyond the others.
     virtual void FollowMore() {}

@@ -1,7 +1,10 @@
 #include <gtest/gtest.h>
 
+#include "base/Number.h"
+#include "toolkit/ComboBox.h"
 #include "toolkit/CommandButton.h"
 #include "toolkit/Form.h"
+#include "toolkit/Frame.h"
 #include "toolkit/Picture.h"
 #include "toolkit/StatusBar.h"
 #include "toolkit/TabStrip.h"
@@ -39,6 +42,16 @@ void Press(WPARAM key, LPARAM flags = 0) {
 void ClickAt(HWND window, int x, int y) {
     SendMessageW(window, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(x, y));
     SendMessageW(window, WM_LBUTTONUP, 0, MAKELPARAM(x, y));
+}
+
+std::string EntriesOf(const ComboBox& box) {
+    std::string all;
+    for (WPARAM i = 0; SendMessageW(WindowOf(box), CB_GETLBTEXTLEN, i, 0) != CB_ERR; ++i) {
+        wchar_t text[100] = L"";
+        SendMessageW(WindowOf(box), CB_GETLBTEXT, i, reinterpret_cast<LPARAM>(text));
+        all += FromWide(text) + ' ';
+    }
+    return all + '/' + FormatInteger(SendMessageW(WindowOf(box), CB_GETCURSEL, 0, 0));
 }
 
 COLORREF PixelOf(const Control& control, int x, int y) {
@@ -110,6 +123,116 @@ TEST_F(PeerTest, TabsFollowBothWaysAndClickOnce) {
     ClickAt(window, first.left + 5, first.top + 5);
     Pump();
     EXPECT_EQ(seen, (std::vector<int32_t>{2, 1}));
+}
+
+TEST_F(PeerTest, ListFollowsBothWaysAndClicksOnce) {
+    Frame frame(&form);
+    frame.Move(0, 0, 5000, 3000);
+    ComboBox box(&frame);
+    box.Move(150, 300, 3000, 330);
+    box.AddItem("Caf\xE9");
+    form.Load();
+    form.Show();
+    std::vector<int32_t> seen;
+    box.Click.Connect([&] { seen.push_back(box.ListIndex()); });
+    box.AddItem("B");
+    box.AddItem("C");
+    box.SetListIndex(2);
+    EXPECT_EQ(EntriesOf(box), "Caf\xE9 B C /2");
+    EXPECT_EQ(seen, (std::vector<int32_t>{2}));
+
+    SetFocus(WindowOf(box));
+    Press(VK_UP);
+    Press(VK_HOME);
+    EXPECT_EQ(seen, (std::vector<int32_t>{2, 1, 0}));
+
+    box.Click.Connect([&] {
+        box.Clear();
+        for (const char* item : {"D", "E"}) box.AddItem(item);
+    });
+    Press(VK_DOWN);
+    EXPECT_EQ(seen, (std::vector<int32_t>{2, 1, 0, 1}));
+    EXPECT_EQ(EntriesOf(box), "D E /-1") << "refilled by the handler";
+}
+
+TEST_F(PeerTest, LeavingAnOpenListSelectsWhatItShowsThen) {
+    ComboBox box(&form);
+    box.Move(0, 0, 3000, 330);
+    for (const char* item : {"A", "B", "C"}) box.AddItem(item);
+    box.SetListIndex(0);
+    form.Load();
+    form.Show();
+    SetFocus(WindowOf(box));
+    std::vector<int32_t> seen;
+    box.Click.Connect([&] { seen.push_back(box.ListIndex()); });
+    for (const WPARAM shown : {1, 0}) {
+        SendMessageW(WindowOf(box), CB_SHOWDROPDOWN, TRUE, 0);
+        Press(VK_DOWN);
+        SendMessageW(WindowOf(box), CB_SETCURSEL, shown, 0);
+        Press(VK_ESCAPE);
+        EXPECT_EQ(box.ListIndex(), static_cast<int32_t>(shown));
+    }
+    EXPECT_EQ(seen, (std::vector<int32_t>{1, 2, 0}));
+}
+
+TEST_F(PeerTest, ClosedListHasItsHeightAndTheOpenOneRoomForTwelve) {
+    ComboBox box(&form);
+    for (int i = 0; i < 40; ++i) box.AddItem("x");
+    form.Load();
+    form.Show();
+    for (const int height : {24, 30}) {
+        box.Move(0, 0, 3000, height * kTwipsPerPixel);
+        RECT place;
+        GetWindowRect(WindowOf(box), &place);
+        EXPECT_EQ(place.bottom - place.top, height);
+        COMBOBOXINFO parts{};
+        parts.cbSize = sizeof parts;
+        GetComboBoxInfo(WindowOf(box), &parts);
+        SendMessageW(WindowOf(box), CB_SHOWDROPDOWN, TRUE, 0);
+        GetClientRect(parts.hwndList, &place);
+        SendMessageW(WindowOf(box), CB_SHOWDROPDOWN, FALSE, 0);
+        EXPECT_EQ(place.bottom / SendMessageW(WindowOf(box), CB_GETITEMHEIGHT, 0, 0), 12);
+    }
+}
+
+TEST_F(PeerTest, FrameIsANativeGroupThatHandsOnWhatItsControlsTell) {
+    CommandButton before(&form);
+    Frame frame(&form);
+    frame.Move(0, 0, 5000, 3000);
+    frame.Caption = "Profiles";
+    ComboBox box(&frame);
+    box.Move(150, 300, 3000, 330);
+    Label label(&frame);
+    label.Move(150, 900, 900, 300);
+    label.ForeColor = 0x0000FF;
+    CommandButton button(&frame);
+    button.Move(150, 1500, 900, 330);
+    form.Load();
+    form.Show();
+    Pump();
+    wchar_t name[20];
+    GetClassNameW(WindowOf(frame), name, 20);
+    EXPECT_STREQ(name, L"Button");
+    EXPECT_EQ(GetWindowLongW(WindowOf(frame), GWL_STYLE) & BS_TYPEMASK, BS_GROUPBOX);
+    EXPECT_EQ(TextOf(frame), "Profiles");
+    EXPECT_EQ(PixelOf(frame, 250, 150), GetSysColor(COLOR_BTNFACE));
+
+    int clicks = 0;
+    button.Click.Connect([&] { ++clicks; });
+    SetFocus(WindowOf(before));
+    Press(VK_TAB);
+    EXPECT_EQ(GetFocus(), WindowOf(box));
+    Press(VK_TAB);
+    EXPECT_EQ(GetFocus(), WindowOf(button));
+    Press(VK_RETURN);
+    ClickAt(WindowOf(button), 5, 5);
+    EXPECT_EQ(clicks, 2);
+
+    const HDC dc = GetDC(WindowOf(label));
+    SendMessageW(WindowOf(frame), WM_CTLCOLORSTATIC, reinterpret_cast<WPARAM>(dc),
+                 reinterpret_cast<LPARAM>(WindowOf(label)));
+    EXPECT_EQ(GetTextColor(dc), 0x0000FFu);
+    ReleaseDC(WindowOf(label), dc);
 }
 
 TEST_F(PeerTest, StatusBarSharesTheWidthAndShowsItsTexts) {

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "toolkit/Container.h"
+
+// A container with a border around what belongs together, and a caption that names it.
+class Frame : public Container {
+  public:
+    using Container::Container;
+
+    Property<std::string, Control> Caption{*this, {}};
+
+    void Accept(ControlVisitor& visitor) override;
+};

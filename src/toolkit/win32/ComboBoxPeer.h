@@ -1,0 +1,28 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "toolkit/ComboBox.h"
+#include "toolkit/win32/WindowPeer.h"
+
+class FontCache;
+
+class ComboBoxPeer : public WindowPeer {
+  public:
+    ComboBoxPeer(ComboBox& box, FontCache& fonts);
+
+    void OnCommand(UINT code) override;
+
+  protected:
+    void PutAt(const RECT& place) override;
+    void FollowMore() override;
+
+  private:
+    int32_t Selected() const;
+    void FollowItems();
+
+    ComboBox& box_;
+    std::vector<std::string> shown_;
+    bool cancelled_ = false;
+};

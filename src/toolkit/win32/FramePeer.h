@@ -1,0 +1,24 @@
+#pragma once
+
+#include "toolkit/Frame.h"
+#include "toolkit/win32/ContainerPeer.h"
+
+class FontCache;
+
+// A native group box that is also the parent of what it frames: so screen readers name the group.
+class FramePeer : public ContainerPeer {
+  public:
+    FramePeer(Frame& frame, FontCache& fonts);
+    ~FramePeer() override;
+
+  protected:
+    LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+    LRESULT OnOther(UINT message, WPARAM wParam, LPARAM lParam) override;
+    void FollowMore() override;
+
+  private:
+    static LRESULT CALLBACK Subclass(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
+                                     UINT_PTR id, DWORD_PTR peer);
+
+    Frame& frame_;
+};
