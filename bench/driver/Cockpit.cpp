@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <system_error>
 #include <utility>
 
@@ -39,8 +40,14 @@ Cockpit::Cockpit(const std::string& orvo, std::string folder)
     ready_ = true;
 }
 
-void Cockpit::WriteIni(const std::string& text) const {
-    std::ofstream(folder_ + "\\Orvo.ini", std::ios::binary) << text;
+void Cockpit::WriteFile(const std::string& name, const std::string& text) const {
+    std::ofstream(folder_ + '\\' + name, std::ios::binary) << text;
+}
+
+std::optional<std::string> Cockpit::ReadFile(const std::string& name) const {
+    std::ifstream file(folder_ + '\\' + name, std::ios::binary);
+    if (!file) return std::nullopt;
+    return std::string(std::istreambuf_iterator<char>(file), {});
 }
 
 void Cockpit::StartSimulator() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -17,8 +18,11 @@ class Cockpit {
 
     bool IsReady() const { return ready_; }
     const std::string& Folder() const { return folder_; }
-    // As Orvo.ini in the folder, for before StartOrvo.
-    void WriteIni(const std::string& text) const;
+    // Orvo.ini, for before StartOrvo.
+    void WriteIni(const std::string& text) const { WriteFile("Orvo.ini", text); }
+    // A file in the folder, byte by byte, such as a profile. Nothing when there is none.
+    void WriteFile(const std::string& name, const std::string& text) const;
+    std::optional<std::string> ReadFile(const std::string& name) const;
 
     void StartSimulator();
     // At once, as a crash does.

@@ -10,6 +10,7 @@ namespace {
 
 constexpr UINT kPatienceMs = 3000;
 constexpr int kTrayIconWidth = 20;
+constexpr UINT kTextPage = 1252;
 
 LRESULT Send(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
     DWORD_PTR result = 0;
@@ -35,6 +36,20 @@ BOOL CALLBACK Look(HWND window, LPARAM parameter) {
     if (search.text && TextOf(window) != *search.text) return TRUE;
     search.found = window;
     return FALSE;
+}
+
+// As wide text: not every system converts the answer when it comes from another process.
+std::string ComboText(HWND combo, LRESULT index) {
+    const LRESULT length = Send(combo, CB_GETLBTEXTLEN, static_cast<WPARAM>(index));
+    if (length <= 0) return "";
+    std::wstring wide(static_cast<size_t>(length) + 1, L'\0');
+    DWORD_PTR got = 0;
+    SendMessageTimeoutW(combo, CB_GETLBTEXT, static_cast<WPARAM>(index),
+                        reinterpret_cast<LPARAM>(wide.data()), SMTO_ABORTIFHUNG, kPatienceMs, &got);
+    std::string text(wide.size(), '\0');
+    WideCharToMultiByte(kTextPage, 0, wide.c_str(), -1, text.data(), static_cast<int>(text.size()),
+                        nullptr, nullptr);
+    return text.c_str();
 }
 
 RECT TrayIconPlace() {
@@ -126,6 +141,25 @@ bool ClickTab(HWND tabs, int index) {
     PostMessageA(tabs, WM_LBUTTONDOWN, MK_LBUTTON, point);
     PostMessageA(tabs, WM_LBUTTONUP, 0, point);
     return true;
+}
+
+std::vector<std::string> ComboTexts(HWND combo) {
+    std::vector<std::string> texts;
+    const LRESULT count = Send(combo, CB_GETCOUNT);
+    for (LRESULT i = 0; i < count; ++i) texts.push_back(ComboText(combo, i));
+    return texts;
+}
+
+std::string ComboSelection(HWND combo) {
+    const LRESULT index = Send(combo, CB_GETCURSEL);
+    return index == CB_ERR ? "" : ComboText(combo, index);
+}
+
+bool ChooseInCombo(HWND combo, int index) {
+    if (index < 0 || index >= Send(combo, CB_GETCOUNT)) return false;
+    if (Send(combo, CB_SETCURSEL, static_cast<WPARAM>(index)) != index) return false;
+    const WPARAM change = MAKEWPARAM(GetDlgCtrlID(combo), CBN_SELCHANGE);
+    return PostMessageA(GetParent(combo), WM_COMMAND, change, reinterpret_cast<LPARAM>(combo)) != 0;
 }
 
 bool DoubleClickTrayIcon() {

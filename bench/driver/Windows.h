@@ -31,6 +31,13 @@ std::string BoxText(HWND box);
 // Clicks a tab, from 0.
 bool ClickTab(HWND tabs, int index);
 
+// Entries of a combo box, and the one that is chosen, empty when none is.
+std::vector<std::string> ComboTexts(HWND combo);
+std::string ComboSelection(HWND combo);
+// Chooses an entry, from 0, as the user does. False when there is no such entry. Returns before
+// what it starts is over.
+bool ChooseInCombo(HWND combo, int index);
+
 // Double click on the icon at the right end of the task bar.
 bool DoubleClickTrayIcon();
 

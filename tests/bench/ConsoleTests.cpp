@@ -10,9 +10,9 @@
 namespace {
 
 TEST(Command, IsSplitAtBlanksOutsideQuotes) {
-    const Command command = ParseCommand("  title \"A  B\" \"\" c\r");
+    const Command command = ParseCommand("  title \"A=1; [B]  100%\" \"\" c\r");
     EXPECT_EQ(command.name, "title");
-    EXPECT_EQ(command.arguments, (std::vector<std::string>{"A  B", "", "c"}));
+    EXPECT_EQ(command.arguments, (std::vector<std::string>{"A=1; [B]  100%", "", "c"}));
     EXPECT_EQ(command.Argument(3), "");
     EXPECT_EQ(ParseCommand(" \t").name, "");
 }

@@ -1,3 +1,5 @@
+#include <vector>
+
 #include "contract/ContractPlatform.h"
 
 namespace {
@@ -40,12 +42,29 @@ TEST_F(FilePortContract, ReplaceMovesOverTheOldFile) {
     EXPECT_EQ(machine.Look(a), "new");
 }
 
+TEST_F(FilePortContract, RenameMovesWhatTheIniServiceWroteAndReads) {
+    EXPECT_TRUE(ports.ini.WritePrivateProfileStringA("A", "x", "1", a));
+    EXPECT_TRUE(files.Rename(machine.Path("A.INI"), b)) << "names compare without case";
+    EXPECT_FALSE(files.Exists(a));
+    std::vector<char> text(8);
+    EXPECT_EQ(ports.ini.GetPrivateProfileStringA("A", "x", "", text, a), 0u);
+    EXPECT_EQ(ports.ini.GetPrivateProfileStringA("A", "x", "", text, b), 1u);
+    EXPECT_STREQ(text.data(), "1");
+}
+
 TEST_F(FilePortContract, WhatFailsChangesNothing) {
+    machine.Put(a, "new");
     machine.Put(b, "old");
     EXPECT_FALSE(files.Copy(none, b));
     EXPECT_FALSE(files.Replace(none, b));
+    EXPECT_FALSE(files.Rename(none, machine.Path("c.ini")));
+    EXPECT_FALSE(files.Exists(machine.Path("c.ini")));
+    EXPECT_FALSE(files.Rename(a, b)) << "there is one already";
+    EXPECT_FALSE(files.Rename(a, machine.Path("B.INI")));
     EXPECT_FALSE(files.Copy(b, machine.UnwritablePath()));
     EXPECT_FALSE(files.Replace(b, machine.UnwritablePath()));
+    EXPECT_FALSE(files.Rename(b, machine.UnwritablePath()));
+    EXPECT_EQ(machine.Look(a), "new");
     EXPECT_EQ(machine.Look(b), "old");
 }
 
