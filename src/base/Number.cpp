@@ -2,6 +2,7 @@
 
 #include <charconv>
 #include <cmath>
+#include <cstdlib>
 
 #include "base/Text.h"
 
@@ -45,6 +46,16 @@ std::string FormatInteger(int64_t value, int digits) {
     std::string out;
     AppendInteger(out, value, digits);
     return out;
+}
+
+void AppendFixed(std::string& out, double value, int decimals) {
+    int64_t scale = 1;
+    for (int i = 0; i < decimals; ++i) scale *= 10;
+    const int64_t scaled = RoundHalfEven(value * static_cast<double>(scale));
+    if (scaled < 0) out += '-';
+    AppendInteger(out, std::abs(scaled / scale));
+    out += '.';
+    AppendInteger(out, std::abs(scaled % scale), decimals);
 }
 
 std::string FormatPlain(double value, int decimals) {

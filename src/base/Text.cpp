@@ -13,6 +13,16 @@ char ToLower(char character) {
     return character;
 }
 
+char ToUpper(char character) {
+    const auto code = static_cast<unsigned char>(character);
+    // What has an upper case is the lower case of it.
+    for (const int distance : {0x20, 0x10, 0x60}) {
+        const auto upper = static_cast<char>(code - distance);
+        if (code >= distance && upper != character && ToLower(upper) == character) return upper;
+    }
+    return character;
+}
+
 std::string ToLower(std::string_view text) {
     std::string out(text);
     std::transform(out.begin(), out.end(), out.begin(), [](char c) { return ToLower(c); });

@@ -6,6 +6,7 @@
 // Text is 8-bit Windows-1252, one byte a character.
 
 char ToLower(char character);
+char ToUpper(char character);
 std::string ToLower(std::string_view text);
 bool EqualNoCase(std::string_view a, std::string_view b);
 

@@ -1,5 +1,9 @@
 #include "config/IniSave.h"
 
+#include <algorithm>
+
+#include "base/Text.h"
+
 bool SaveIni(IniService& service, FilePort& files, const std::string& path,
              const std::function<bool(cInifile&)>& write) {
     const std::string copy = path + ".new";
@@ -9,7 +13,22 @@ bool SaveIni(IniService& service, FilePort& files, const std::string& path,
 
     cInifile ini(service);
     ini.Path = copy;
-    if (write(ini) && files.Replace(copy, path)) return true;
+    if (write(ini) && (!files.Exists(copy) || files.Replace(copy, path))) return true;
     files.Delete(copy);
     return false;
+}
+
+bool SetKey(cInifile& ini, const std::vector<std::string>& keys, const std::string& text) {
+    const bool there = std::ranges::find(keys, ini.Key) != keys.end();
+    if (!there && !DeleteIfThere(ini, keys)) return false;
+    ini.SetValue(text);
+    return ini.Success();
+}
+
+bool DeleteIfThere(cInifile& ini, const std::vector<std::string>& keys) {
+    const bool there = std::ranges::any_of(
+        keys, [&ini](const std::string& key) { return EqualNoCase(key, ini.Key); });
+    if (!there) return true;
+    ini.DeleteKey();
+    return ini.Success();
 }

@@ -5,7 +5,6 @@
 #include <variant>
 
 #include "base/Number.h"
-#include "base/Text.h"
 #include "config/IniSave.h"
 #include "config/cInifile.h"
 #include "config/cRegistry.h"
@@ -91,14 +90,9 @@ bool Write(const cSetupHolder& holder, const Field& field, const std::vector<std
     ini.Key = field.key;
     const int32_t value = Get(holder, field);
     if (field.keeping == Keeping::IfNotDefault && value == field.standard) {
-        const bool there = std::ranges::any_of(
-            keys, [&field](const std::string& key) { return EqualNoCase(key, field.key); });
-        if (!there) return true;
-        ini.DeleteKey();
-    } else {
-        ini.SetValue(FormatInteger(value));
+        return DeleteIfThere(ini, keys);
     }
-    return ini.Success();
+    return SetKey(ini, keys, FormatInteger(value));
 }
 
 }  // namespace

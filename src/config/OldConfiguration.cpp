@@ -1,0 +1,63 @@
+#include "config/OldConfiguration.h"
+
+#include <algorithm>
+#include <vector>
+
+#include "base/Number.h"
+#include "base/Text.h"
+#include "config/cInifile.h"
+
+namespace {
+
+const MsgBoxRequest kQuestion = {
+    "Your Orvo.ini file belongs to an old version.\n"
+    "Do you want to convert it to the new file format ?\n"
+    "Converting to the new format will put actual settings into Default Profile.",
+    "  ORVO  - Configuration file conversion request", MsgBoxIcon::Question,
+    MsgBoxButtons::OkCancel};
+
+constexpr int kLastKeptName = 999;
+
+bool IsOld(IniService& service, const std::string& path) {
+    cInifile ini(service);
+    ini.Path = path;
+    std::vector<std::string> sections;
+    int32_t count = 0;
+    ini.EnumerateAllSections(sections, count);
+    return std::ranges::any_of(sections, [](const std::string& section) {
+        return EqualNoCase(section, "multipanel1") || EqualNoCase(section, "radiopanel1") ||
+               EqualNoCase(section, "switchpanel1");
+    });
+}
+
+// The first of Default.1.ini, Default.2.ini, ... that isn't there; empty if all are.
+std::string NameToKeep(FilePort& files, const std::string& folder) {
+    for (int number = 1; number <= kLastKeptName; ++number) {
+        std::string path = folder + "\\Default." + FormatInteger(number) + ".ini";
+        if (!files.Exists(path)) return path;
+    }
+    return {};
+}
+
+void Convert(FilePort& files, const std::string& folder) {
+    const std::string old = folder + "\\Orvo.ini";
+    const std::string profile = folder + "\\Default.ini";
+    if (!files.Exists(profile)) {
+        files.Rename(old, profile);
+        return;
+    }
+    const std::string kept = NameToKeep(files, folder);
+    if (kept.empty() || !files.Rename(profile, kept)) return;
+    if (!files.Rename(old, profile)) files.Rename(kept, profile);
+}
+
+}  // namespace
+
+bool ConvertOldConfiguration(IniService& ini, FilePort& files, UiBackend& ui,
+                             const std::string& programFolder) {
+    const std::string path = programFolder + "\\Orvo.ini";
+    if (!files.Exists(path) || !IsOld(ini, path)) return true;
+    if (ui.MsgBox(kQuestion) == MsgBoxResult::Cancel) return false;
+    Convert(files, programFolder);
+    return true;
+}
