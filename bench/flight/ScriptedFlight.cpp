@@ -1,49 +1,27 @@
 #include "bench/flight/ScriptedFlight.h"
 
-#include <sstream>
-
-#include "base/Number.h"
-#include "bench/console/Command.h"
 #include "bench/driver/Until.h"
+#include "bench/flight/StandardLeg.h"
 
 namespace {
 
 // Inside the frame of the upper display, in pixels of the panel's picture.
 constexpr RECT kUpperDisplay = {204, 20, 376, 64};
 constexpr uint32_t kPatienceMs = 10000;
-// A hand takes as long to turn back. Sooner, the panel's reports still count for the old direction.
-constexpr DWORD kHandPauseMs = 300;
 constexpr char kDark[] = "upper dark lower dark lights none";
-constexpr char kAltitudeShown[] = "upper \"05000\" lower \"    0\" lights none";
-
-std::string HeadingShown(const std::string& digits) {
-    return "upper \"  " + digits + "\" lower \"     \" lights none";
-}
-
-int HeadingNumber(int degrees) { return RoundTo<uint16_t>(degrees * 65536.0 / 360); }
-
-// The little-endian numbers among the log's writes to 0x07CC.
-std::vector<int> HeadingWrites(const std::string& writes) {
-    std::vector<int> numbers;
-    std::istringstream words(writes);
-    for (std::string word; words >> word;) {
-        if (!word.starts_with("07CC:") || word.size() != 9) continue;
-        const auto low = ParseNumber("0x" + word.substr(5, 2), 0, 255);
-        const auto high = ParseNumber("0x" + word.substr(7, 2), 0, 255);
-        if (low && high) numbers.push_back(static_cast<int>(*high << 8 | *low));
-    }
-    return numbers;
-}
+constexpr int kGeneralTab = 0;
+constexpr int kPanelTab = 1;
 
 }  // namespace
 
 bool ScriptedFlight::Fly() {
-    return Start() && FindSimulator() && OpenWindow() && TurnHeading() && LoseSimulator() &&
-           FindSimulatorAgain() && Quit();
+    return Start() && FindSimulator() && OpenWindow() && FlyStandard() && FlyAddOns() &&
+           LoseSimulator() && FindSimulatorAgain() && Quit();
 }
 
 bool ScriptedFlight::Start() {
     log_.Say("-- the simulator, one Multi Panel and Orvo are started");
+    AddOnLegs(cockpit_, log_).WriteProfiles();
     cockpit_.StartSimulator();
     cockpit_.StartPanels();
     const std::string added = cockpit_.Panels("add multi");
@@ -62,7 +40,8 @@ bool ScriptedFlight::FindSimulator() {
     return ExpectStatus(0, "FSUIPC Status: Connected") &&
            ExpectStatus(1, "FSUIPC Version: 3.9990") &&
            ExpectStatus(2, "Flight Simulator Version: FSX") &&
-           ExpectStatus(3, "Aircraft in use: Bench Trainer") && ExpectPanel(kAltitudeShown);
+           ExpectStatus(3, "Aircraft in use: Bench Trainer") &&
+           ExpectPanel(PanelShows("05000", "0"));
 }
 
 bool ScriptedFlight::OpenWindow() {
@@ -74,32 +53,36 @@ bool ScriptedFlight::OpenWindow() {
                     Until(kPatienceMs, [&] { return IsWindowVisible(window) != 0; }))) {
         return false;
     }
+    if (!ExpectProfile("Default")) return false;
     log_.Shot("1-general");
-    const HWND tabs = FindChild(window, "SysTabControl32", std::nullopt);
-    return log_.Check("the second tab is clicked", tabs && ClickTab(tabs, 1));
+    SelectTab(kPanelTab);
+    return true;
 }
 
-bool ScriptedFlight::TurnHeading() {
-    log_.Say("-- the heading is turned");
-    cockpit_.Panels("selector multi1 HDG");
-    if (!ExpectPanel(HeadingShown("080"))) return false;
+void ScriptedFlight::SelectTab(int tab) const {
+    const HWND tabs = FindChild(cockpit_.MainWindow(), "SysTabControl32", std::nullopt);
+    log_.Check("tab " + std::to_string(tab + 1) + " is clicked", tabs && ClickTab(tabs, tab));
+}
+
+bool ScriptedFlight::FlyStandard() {
+    Do("selector HDG");
+    if (!ExpectPanel(PanelShows("080", ""))) return false;
     log_.Shot("2-heading-080");
     display080_ = UpperDisplay();
-
-    cockpit_.Simulator("writes");
-    cockpit_.Panels("knob multi1 +3 60");
-    if (!ExpectPanel(HeadingShown("083")) || !ExpectHeadings({81, 82, 83})) return false;
-    log_.Shot("3-heading-083");
+    if (!StandardLeg(cockpit_, log_).Fly()) return false;
+    log_.Shot("3-standard");
     const bool redrawn =
         display080_ != 0 && Until(kPatienceMs, [&] { return UpperDisplay() != display080_; });
-    if (!log_.Check("the display on the screen shows another number", redrawn)) return false;
-
-    ::Sleep(kHandPauseMs);
-    cockpit_.Panels("knob multi1 -1 60");
-    return ExpectPanel(HeadingShown("082")) && ExpectHeadings({82});
+    return log_.Check("the display on the screen shows another number", redrawn);
 }
 
-uint64_t ScriptedFlight::UpperDisplay() {
+bool ScriptedFlight::FlyAddOns() {
+    if (!AddOnLegs(cockpit_, log_).Fly()) return false;
+    log_.Shot("4-back-to-default");
+    return true;
+}
+
+uint64_t ScriptedFlight::UpperDisplay() const {
     // The page's picture stands at the main window's page area, the display in it.
     const HWND setup = FindChild(cockpit_.MainWindow(), "Button", "Setup");
     const HWND picture = GetParent(setup);
@@ -121,7 +104,7 @@ bool ScriptedFlight::LoseSimulator() {
         !ExpectPanel(kDark)) {
         return false;
     }
-    log_.Shot("4-disconnected");
+    log_.Shot("5-disconnected");
     return log_.Check("the icon has changed",
                       Until(kPatienceMs, [this] { return PictureOfTrayIcon() != connectedIcon_; }));
 }
@@ -130,10 +113,10 @@ bool ScriptedFlight::FindSimulatorAgain() {
     log_.Say("-- the simulator is started again");
     cockpit_.StartSimulator();
     if (!ExpectStatus(0, "FSUIPC Status: Connected") ||
-        !ExpectStatus(3, "Aircraft in use: Bench Trainer") || !ExpectPanel(HeadingShown("080"))) {
+        !ExpectStatus(3, "Aircraft in use: Bench Trainer") || !ExpectPanel(PanelShows("080", ""))) {
         return false;
     }
-    log_.Shot("5-connected-again");
+    log_.Shot("6-connected-again");
     if (!log_.Check("the display on the screen shows the first number again",
                     Until(kPatienceMs, [this] { return UpperDisplay() == display080_; }))) {
         return false;
@@ -144,37 +127,11 @@ bool ScriptedFlight::FindSimulatorAgain() {
 
 bool ScriptedFlight::Quit() {
     log_.Say("-- the user quits");
+    SelectTab(kGeneralTab);
+    log_.Shot("7-general");
     if (!log_.Check("Quit and OK end the program", cockpit_.QuitByUser())) return false;
     const auto code = cockpit_.Orvo().WaitForEnd(0);
     return log_.Check("it has ended in order", code == 0u,
                       code ? "exit code " + std::to_string(*code) : "it runs on") &&
            ExpectPanel(kDark);
-}
-
-bool ScriptedFlight::ExpectStatus(size_t panel, const std::string& text) {
-    const bool well = cockpit_.StatusBecomes(panel, text, kPatienceMs);
-    std::string found = "there is no status bar";
-    if (const auto texts = cockpit_.Status(); texts.size() > panel) found = texts[panel];
-    return log_.Check("status bar: " + text, well, found);
-}
-
-bool ScriptedFlight::ExpectPanel(const std::string& shown) {
-    const bool well = cockpit_.PanelBecomes("multi1", shown, kPatienceMs);
-    return log_.Check("panel: " + shown, well, well ? "" : cockpit_.Panels("show multi1"));
-}
-
-// What reached the simulator since it was asked last, to the write.
-bool ScriptedFlight::ExpectHeadings(const std::vector<int>& degrees) {
-    std::vector<int> expected;
-    std::string step = "simulator: heading";
-    for (const int each : degrees) {
-        expected.push_back(HeadingNumber(each));
-        step += ' ' + std::to_string(each);
-    }
-    const std::string writes = cockpit_.Simulator("writes");
-    const std::string heading = cockpit_.Simulator("get 0x07CC 2");
-    return log_.Check(
-        step + " (" + writes + ")",
-        HeadingWrites(writes) == expected && heading == std::to_string(expected.back()),
-        "0x07CC holds " + heading);
 }

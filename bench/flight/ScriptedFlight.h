@@ -3,13 +3,14 @@
 #include <string>
 #include <vector>
 
-#include "bench/driver/Cockpit.h"
-#include "bench/flight/FlightLog.h"
+#include "bench/flight/AddOnLegs.h"
+#include "bench/flight/FlightChecks.h"
 
-// The flight that proves the road from a knob to the simulator and back to the panel.
-class ScriptedFlight {
+// The flight that proves the road from the panel to the simulator and back, in each mode of the
+// panel, and what comes before and after.
+class ScriptedFlight : private FlightChecks {
   public:
-    ScriptedFlight(Cockpit& cockpit, const FlightLog& log) : cockpit_(cockpit), log_(log) {}
+    using FlightChecks::FlightChecks;
 
     // True when every step went as it should; else the log tells the first that didn't.
     bool Fly();
@@ -18,19 +19,16 @@ class ScriptedFlight {
     bool Start();
     bool FindSimulator();
     bool OpenWindow();
-    bool TurnHeading();
+    bool FlyStandard();
+    bool FlyAddOns();
     bool LoseSimulator();
     bool FindSimulatorAgain();
     bool Quit();
 
-    bool ExpectStatus(size_t panel, const std::string& text);
-    bool ExpectPanel(const std::string& shown);
+    void SelectTab(int tab) const;
     // Picture of the upper display in the window, once it has come to rest.
-    uint64_t UpperDisplay();
-    bool ExpectHeadings(const std::vector<int>& degrees);
+    uint64_t UpperDisplay() const;
 
-    Cockpit& cockpit_;
-    const FlightLog& log_;
     uint64_t connectedIcon_ = 0;
     uint64_t display080_ = 0;  // picture of the upper display
 };

@@ -58,6 +58,7 @@ AircraftModel::AircraftModel(OffsetServer& space)
     space_.Set<uint16_t>(0x07CC, RoundTo<uint16_t>(80 * 65536.0 / 360));
     space_.Set<int32_t>(0x07D4, RoundTo<int32_t>(5000 / 3.28084 * 65536));
     space_.Set<int16_t>(0x07E2, 120);
+    space_.Set<int16_t>(0x3BFA, 4095);  // one notch of flaps
     space_.Set<uint16_t>(0x0C4E, 90);
     space_.Set<uint16_t>(0x0C5E, 270);
     space_.Set<int32_t>(kGearHandle, kGearDown);

@@ -6,7 +6,7 @@
 // A virtual machine with the simulator's window on it, and a client of its channel.
 struct SimulatorLink {
     VirtualPlatform machine;
-    cSession session{machine.ipc, machine.clock};
+    cSession session{machine.ipc, machine.clock, machine.keyboard, machine.loop};
     modFSUIPC& fsuipc = session.Fsuipc;
     int32_t result = -1;
 

@@ -1,22 +1,54 @@
 #pragma once
 
+#include <functional>
 #include <string>
 
+#include "config/ProfileStore.h"
+#include "config/cSetupHolder.h"
+#include "core/PanelUnit.h"
 #include "simlink/cSession.h"
+#include "toolkit/ComboBox.h"
+#include "ui/WindowState.h"
 
-// What the program knows of the aircraft that the simulator flies. It outlives a session: coming
-// back to the same aircraft changes nothing.
+// Binds each aircraft that the simulator reports to a profile, and carries a change of profile
+// through the program. The selection of cmbProfiles, be it the user's or made here, is the one way
+// in which a profile comes into force.
 class AircraftBinding {
   public:
-    explicit AircraftBinding(cSession& session) : session_(session) {}
+    struct Parts {
+        cSession& session;
+        ProfileStore& profiles;
+        const cSetupHolder& generalSetup;
+        WindowState& windows;
+        ComboBox& cmbProfiles;
+        PanelLists& panels;
+    };
 
-    // Takes the title as the aircraft in use, and learns of the simulator what kind of gear it has.
+    explicit AircraftBinding(const Parts& parts);
+
+    // Asks the user for the profile of a new aircraft, in a modal window. May add a profile. Empty
+    // when the user gives none.
+    std::function<std::string(const std::string& title)> AskForProfile;
+
+    // Takes the title as the aircraft in use, and puts its profile into force. A new one is bound
+    // to "Default", or with ManualProfile to what AskForProfile gives. May let messages run; while
+    // it does, it does nothing for other titles.
     void BindAircraft(std::string title);
 
-    // Empty until the first session brings a title.
+    // Empty until the first session brings a title. It outlives a session: coming back to the same
+    // aircraft changes nothing.
     const std::string& CurrentAircraft() const { return currentAircraft_; }
 
+    void FillProfileCombo();
+
   private:
-    cSession& session_;
+    void ReadGear();
+    std::string ProfileForNew(const std::string& title);
+    void SelectCurrentProfile();
+    void ApplyProfile();
+    void ReadSpecialMode();
+
+    const Parts parts_;
     std::string currentAircraft_;
+    bool binding_ = false;
 };

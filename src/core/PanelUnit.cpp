@@ -29,10 +29,10 @@ std::unique_ptr<PanelUnit> MakePanelUnit(PanelKind kind, int16_t number, Contain
     return unit;
 }
 
-void StartLogic(PanelUnit& unit, cSession& session) {
+void StartLogic(PanelUnit& unit, const LogicServices& services) {
     if (unit.kind == PanelKind::Multi) {
         unit.logic = std::make_unique<cMultiPanelLogic>(
-            session, static_cast<ctlMultiPanel&>(*unit.control), unit.number);
+            services, static_cast<ctlMultiPanel&>(*unit.control), unit.number);
     }
     if (unit.logic) unit.logic->StartUp();
 }

@@ -24,7 +24,7 @@ std::unique_ptr<PanelUnit> MakePanelUnit(PanelKind kind, int16_t number, Contain
                                          const DeviceServices& services, cSession& session);
 
 // Makes the unit's logic, if its kind has one, and starts it.
-void StartLogic(PanelUnit& unit, cSession& session);
+void StartLogic(PanelUnit& unit, const LogicServices& services);
 
 // All panels, by kind and number.
 class PanelLists {

@@ -21,6 +21,9 @@ frmMain::frmMain(const MainServices& services)
       tabMain(this),
       picOrder(this),
       picMain(&picOrder),
+      Frame1(&picMain),
+      cmbProfiles(&Frame1),
+      labProfileInUse(&Frame1),
       btnQuit(&picMain),
       barMain(this),
       Status(barMain.AddPanel("Status", "Connection status between Orvo and Flight Simulator", 23)),
@@ -31,8 +34,9 @@ frmMain::frmMain(const MainServices& services)
                                 "Name of the aircraft currently in use in Flight Simulator", 30)),
       trayMain(services.platform.tray),
       timerFSUIPC(services.platform.loop, kWaitingIntervalMs),
+      Binding({services.session, services.profiles, services.generalSetup, services.windows,
+               cmbProfiles, Panels}),
       services_(services),
-      aircraft_(services.session),
       aircraftTitle_(services.session.OffsetTable, "AIRCRAFT") {
     Caption = "  ORVO    v0.5.1";
     PlaceControls();
@@ -62,6 +66,11 @@ void frmMain::PlaceControls() {
     tabMain.Move(30, 30, 11160, 3360);
     picOrder.Move(120, 420, 10995, 2895);
     picMain.Move(0, 0, 10995, 2895);
+    Frame1.Caption = "Profiles Management";
+    Frame1.Move(180, 150, 5100, 1980);
+    labProfileInUse.Caption = "Profile in use";
+    labProfileInUse.Move(240, 390, 4620, 240);
+    cmbProfiles.Move(240, 660, 4620, 345);
     btnQuit.Caption = "Quit";
     btnQuit.Move(9480, 2280, 1260, 420);
 }
@@ -74,6 +83,8 @@ void frmMain::LoadForm() {
     trayMain.SetIcon(TrayIcon::Yellow);
     trayMain.SetToolTip("Waiting FS connection...");
     trayMain.SetVisible(true);
+    Binding.FillProfileCombo();
+    cmbProfiles.SetListIndex(cmbProfiles.ListCount() - 1);
     Width = 11325;
     Height = 4208;
     PlaceForm(*this, services_.generalSetup.MainFormLeft, services_.generalSetup.MainFormTop,
@@ -104,6 +115,10 @@ PanelUnit& frmMain::AddPanel(PanelKind kind, int32_t tab) {
     unit.control->SetupRequest.Connect([this, &unit] { ServeSetupRequest(unit); });
     Load();
     return unit;
+}
+
+LogicServices frmMain::ServicesOfLogics() const {
+    return {services_.session, services_.profiles, services_.platform.clock};
 }
 
 void frmMain::ArmTimer() {

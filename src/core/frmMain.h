@@ -8,14 +8,18 @@
 #include <string>
 #include <vector>
 
+#include "config/ProfileStore.h"
 #include "config/cSetupHolder.h"
 #include "core/AircraftBinding.h"
 #include "core/PanelUnit.h"
 #include "platform/Platform.h"
 #include "simlink/cSession.h"
+#include "toolkit/ComboBox.h"
 #include "toolkit/CommandButton.h"
 #include "toolkit/Container.h"
 #include "toolkit/Form.h"
+#include "toolkit/Frame.h"
+#include "toolkit/Picture.h"
 #include "toolkit/StatusBar.h"
 #include "toolkit/TabStrip.h"
 #include "toolkit/Timer.h"
@@ -28,6 +32,7 @@ struct MainServices {
     UiBackend& ui;
     cSession& session;
     cSetupHolder& generalSetup;
+    ProfileStore& profiles;
     WindowState& windows;
     const std::vector<ScreenRect>& monitorRects;
 };
@@ -48,6 +53,9 @@ class frmMain : public Form {
     // Puts the first page in place and starts the search for the simulator.
     void ArmTimer();
 
+    // What the logics of its panels work with.
+    LogicServices ServicesOfLogics() const;
+
     PanelLists Panels;
 
     // The configuration window of each kind of panel: opens it and returns when it is closed.
@@ -56,6 +64,9 @@ class frmMain : public Form {
     TabStrip tabMain;
     Container picOrder;
     Container picMain;
+    Frame Frame1;
+    ComboBox cmbProfiles;
+    Label labProfileInUse;  // after the list: screen readers take its name from the next label
     CommandButton btnQuit;
     StatusBar barMain;
     StatusBar::Panel& Status;
@@ -64,6 +75,7 @@ class frmMain : public Form {
     StatusBar::Panel& Aircraft;
     ctlTrayArea trayMain;
     Timer timerFSUIPC;
+    AircraftBinding Binding;
 
   private:
     void PlaceControls();
@@ -84,7 +96,6 @@ class frmMain : public Form {
     void LoseSession();
 
     const MainServices services_;
-    AircraftBinding aircraft_;
     ScopedConnection trayDblClick_;
     int32_t previousTab_ = 1;
     std::string detectedAircraft_;

@@ -70,8 +70,8 @@ void frmMain::Poll() {
 
 void frmMain::TakeAircraft() {
     detectedAircraft_ = aircraftTitle_.Text();
-    if (!detectedAircraft_.empty() && detectedAircraft_ != aircraft_.CurrentAircraft()) {
-        aircraft_.BindAircraft(detectedAircraft_);
+    if (!detectedAircraft_.empty() && detectedAircraft_ != Binding.CurrentAircraft()) {
+        Binding.BindAircraft(detectedAircraft_);
     }
     if (detectedAircraft_ == shownAircraft_) return;
     shownAircraft_ = detectedAircraft_;

@@ -1,5 +1,6 @@
 #include "core/modMain.h"
 
+#include "config/OldConfiguration.h"
 #include "core/PanelDiscovery.h"
 #include "core/ProcessSettings.h"
 #include "toolkit/UiBackend.h"
@@ -7,7 +8,8 @@
 modMain::modMain(const Platform& platform, UiBackend& ui)
     : GeneralSetup(platform.ini, platform.files, platform.registry,
                    platform.process.ProgramFolder()),
-      Session(platform.ipc, platform.clock),
+      Profiles(platform.ini, platform.files, platform.process.ProgramFolder()),
+      Session(platform.ipc, platform.clock, platform.keyboard, platform.loop),
       platform_(platform),
       ui_(ui) {}
 
@@ -17,8 +19,15 @@ bool modMain::Main() {
     GeneralSetup.LoadSetup();
     SetProcessPriority(platform_.process, 0, 0, static_cast<uint32_t>(GeneralSetup.OrvoPriority));
     SetProcessAffinity(platform_.process, GeneralSetup.OrvoAffinity);
+    if (!ConvertOldConfiguration(platform_.ini, platform_.files, ui_,
+                                 platform_.process.ProgramFolder())) {
+        return false;
+    }
+    Profiles.LoadProfileList();
+    Profiles.LoadAircraftList();
 
-    const MainServices services = {platform_, ui_, Session, GeneralSetup, Windows, monitorRects_};
+    const MainServices services = {platform_, ui_,     Session,      GeneralSetup,
+                                   Profiles,  Windows, monitorRects_};
     window_ = std::make_unique<frmMain>(services);
     window_->LoadForm();
     platform_.loop.RunPending();
@@ -34,7 +43,7 @@ bool modMain::Main() {
         case Discovery::NoneGoOn:
             window_->ArmTimer();
             if (window_->IsUnloaded()) return false;
-            if (discovery == Discovery::NoneGoOn) SetUpUnconnectedPanels(*window_, services);
+            if (discovery == Discovery::NoneGoOn) SetUpUnconnectedPanels(*window_);
             return true;
     }
     return false;

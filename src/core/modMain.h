@@ -3,6 +3,7 @@
 #include <memory>
 #include <vector>
 
+#include "config/ProfileStore.h"
 #include "config/cSetupHolder.h"
 #include "core/frmMain.h"
 #include "platform/Platform.h"
@@ -20,6 +21,7 @@ class modMain {
     bool Main();
 
     cSetupHolder GeneralSetup;
+    ProfileStore Profiles;
     cSession Session;
     WindowState Windows;
 

@@ -17,4 +17,6 @@ struct ActionRecord {
     uint8_t VJoystickOrKeyCode = 0;      // VButton: joystick 64 to 72; VKey: virtual key code
     uint8_t VButtonOrKeyQualifiers = 0;  // VButton: button 1 to 32; VKey: 1 SHIFT, 2 CTRL, 4 TAB
     int16_t KeyAscii = 0;                // VKey: character of the key, to show its name
+
+    bool operator==(const ActionRecord&) const = default;
 };

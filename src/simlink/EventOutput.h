@@ -2,8 +2,37 @@
 
 #include <cstdint>
 
+#include "platform/KeyboardPort.h"
+#include "platform/MessageLoop.h"
+#include "simlink/ActionRecord.h"
 #include "simlink/modFSUIPC.h"
 
-// Asks the simulator to run a control. It goes out with the next exchange; several go out in the
-// order of their calls.
-void SendControl(modFSUIPC& fsuipc, int32_t Control, int32_t Parameter);
+// The ways in which what the user does reaches the simulator, apart from writes of offsets.
+class EventOutput {
+  public:
+    EventOutput(modFSUIPC& fsuipc, KeyboardPort& keyboard, MessageLoop& loop)
+        : fsuipc_(fsuipc), keyboard_(keyboard), loop_(loop) {}
+
+    // Presses (State) or releases one virtual button. The change goes out with the next exchange,
+    // or with Process at once; what waited before it has been sent by then, so that a press and a
+    // release in a row arrive as two. VJoystick 64 to 72, VButton 1 to 32; nothing is sent for
+    // other numbers.
+    void SetVirtualButton(uint8_t VJoystick, uint8_t VButton, bool State, bool Process);
+
+    // Presses and releases a key with its qualifiers (1 SHIFT, 2 CTRL, 4 TAB) in one go, in the
+    // window that has the focus. Lets pending messages run.
+    void SendKeyStroke(uint8_t KeyCode, uint8_t KeyQualifiers);
+
+    // Asks the simulator to run a control. It goes out with the next exchange; several go out in
+    // the order of their calls.
+    void SendControl(int32_t Control, int32_t Parameter);
+
+    // Does `times` times what a VButton record (press and release) or a VKey record says. Nothing
+    // for other records. The record is a copy: its holder may be loaded anew on the way.
+    void SendAction(ActionRecord record, int times = 1);
+
+  private:
+    modFSUIPC& fsuipc_;
+    KeyboardPort& keyboard_;
+    MessageLoop& loop_;
+};

@@ -1,5 +1,16 @@
 #pragma once
 
+#include "config/ProfileStore.h"
+#include "platform/Clock.h"
+#include "simlink/cSession.h"
+
+// What the logics work with.
+struct LogicServices {
+    cSession& session;
+    ProfileStore& profiles;
+    Clock& clock;
+};
+
 // What the logics of all panels have in common: how the program drives them.
 class cPanelLogic {
   public:

@@ -2,19 +2,27 @@
 
 #include <cstdint>
 
+#include "simlink/EventOutput.h"
 #include "simlink/cOffsetTable.h"
 #include "simlink/modFSUIPC.h"
 
-// What is known of the simulator. It outlives the single connection, as the panels' logics go on
-// with the same offsets when the simulator comes back.
+// Values of SpecialMode: which aircraft's own autopilot the panels work against.
+inline constexpr uint8_t kStandardMode = 0;
+inline constexpr uint8_t kMaddogMode = 1;
+inline constexpr uint8_t kNGXMode = 2;
+
+// What is known of the simulator, and the ways to it. It outlives the single connection, as the
+// panels' logics go on with the same offsets when the simulator comes back.
 struct cSession {
-    cSession(IpcChannel& channel, Clock& clock) : Fsuipc(channel, clock), OffsetTable(Fsuipc) {}
+    cSession(IpcChannel& channel, Clock& clock, KeyboardPort& keyboard, MessageLoop& loop)
+        : Fsuipc(channel, clock), OffsetTable(Fsuipc), Output(Fsuipc, keyboard, loop) {}
 
     modFSUIPC Fsuipc;
     cOffsetTable OffsetTable;
+    EventOutput Output;
     bool FSConnected = false;
-    uint8_t FSVersion = 0;    // the simulator's number
-    uint8_t SpecialMode = 0;  // 0 none, 1 Maddog, 2 NGX
+    uint8_t FSVersion = 0;  // the simulator's number
+    uint8_t SpecialMode = kStandardMode;
     uint8_t EngineSelected = 1;
     bool GearIsRetractable = false;
 };

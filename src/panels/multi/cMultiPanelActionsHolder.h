@@ -3,40 +3,70 @@
 #include <array>
 #include <cstdint>
 
+#include "config/ProfileStore.h"
 #include "simlink/ActionRecord.h"
+#include "simlink/BindingTable.h"
 
-// What one Multi Panel's controls do. Positions are those of the selector, 1 ALT to 5 CRS, buttons
-// 1 AP to 8 REV; index 0 and indices beyond the panel give a record that does nothing.
+// What one Multi Panel's controls do in the current profile. Positions are those of the selector, 1
+// ALT to 5 CRS, buttons 1 AP to 8 REV. Index 0 and indices beyond the panel read as nothing, and
+// setting them does nothing.
 class cMultiPanelActionsHolder {
   public:
-    cMultiPanelActionsHolder() { LoadDefaults(); }
+    explicit cMultiPanelActionsHolder(ProfileStore& profiles);
 
-    int16_t Index = 0;  // number of the panel, from 1
-    int16_t TrimAcceleration = 1;
-    int16_t TrimSensitivity = 4;  // step factor of the trim wheel
-    uint8_t ReverseTrim = 0;
-    uint8_t ReverseFlaps = 0;
-    uint8_t CourseSel =
-        1;  // course of the CRS position: 1 NAV1, 2 NAV2, 0 what Radio Panel 1 shows
+    int16_t Index = 0;  // number of the panel, from 1; names the section
+    int16_t TrimAcceleration = 0;
+    int16_t TrimSensitivity = 0;  // step factor of the trim wheel
+    uint8_t ReverseTrim = 0;      // 1: the wheel works reversed
+    uint8_t ReverseFlaps = 0;     // 1: the lever works reversed
+    uint8_t CourseSel = 0;        // course at CRS: 1 NAV1, 2 NAV2, 0 the one that Radio Panel 1 has
 
     int16_t GetRotAcceleration(int32_t Position) const;
+    void SetRotAcceleration(int32_t Position, int16_t Value);
+
+    const ActionRecord& GetSelectorActions(int32_t Position) const;
+    void SetSelectorActions(int32_t Position, const ActionRecord& Record);
     const ActionRecord& GetButtonsActions(int32_t Button) const;
+    void SetButtonsActions(int32_t Button, const ActionRecord& Record);
     const ActionRecord& GetLongButtonsActions(int32_t Button) const;
+    void SetLongButtonsActions(int32_t Button, const ActionRecord& Record);
     const ActionRecord& GetRotUpActions(int32_t Position) const;
+    void SetRotUpActions(int32_t Position, const ActionRecord& Record);
     const ActionRecord& GetRotDownActions(int32_t Position) const;
+    void SetRotDownActions(int32_t Position, const ActionRecord& Record);
     const ActionRecord& GetAutoThrottleActions(int32_t Side) const;  // 0 OFF, 1 ARM
-    const ActionRecord& GetFlapsActions(int32_t Direction) const;    // 0 DOWN, 1 UP
-    const ActionRecord& GetTrimActions(int32_t Direction) const;     // 0 DOWN, 1 UP
+    void SetAutoThrottleActions(int32_t Side, const ActionRecord& Record);
+    const ActionRecord& GetFlapsActions(int32_t Direction) const;  // 0 DOWN, 1 UP
+    void SetFlapsActions(int32_t Direction, const ActionRecord& Record);
+    const ActionRecord& GetTrimActions(int32_t Direction) const;  // 0 DOWN, 1 UP
+    void SetTrimActions(int32_t Direction, const ActionRecord& Record);
+
+    // Rows of NGXEventTable, 0 to 22; setting others does nothing.
+    uint8_t NGXGetShortButtonsActions(int32_t Button) const;
+    void NGXSetShortButtonsActions(int32_t Button, uint8_t Row);
+    uint8_t NGXGetLongButtonsActions(int32_t Button) const;
+    void NGXSetLongButtonsActions(int32_t Button, uint8_t Row);
 
     void LoadDefaults();
+    void LoadSetup();
+    void SaveSetup();
 
   private:
-    std::array<ActionRecord, 9> buttons_;
-    std::array<ActionRecord, 9> longButtons_;
-    std::array<ActionRecord, 6> rotUp_;
-    std::array<ActionRecord, 6> rotDown_;
+    template <class Value, size_t Count>
+    using Numbered = std::array<Value, Count + 1>;  // from 1; index 0 stays empty
+
+    BindingTable Keys();
+
+    ProfileStore& profiles_;
+    Numbered<ActionRecord, 5> selector_;
+    Numbered<ActionRecord, 8> buttons_;
+    Numbered<ActionRecord, 8> longButtons_;
+    Numbered<ActionRecord, 5> rotUp_;
+    Numbered<ActionRecord, 5> rotDown_;
     std::array<ActionRecord, 2> autoThrottle_;
     std::array<ActionRecord, 2> flaps_;
     std::array<ActionRecord, 2> trim_;
-    std::array<int16_t, 6> rotAcceleration_{};
+    Numbered<int16_t, 5> rotAcceleration_{};
+    Numbered<uint8_t, 8> ngxShort_{};
+    Numbered<uint8_t, 8> ngxLong_{};
 };

@@ -1,8 +1,7 @@
-// What the panel's events do to the simulator.
+// What the panel's events do: the road of every event from its record, and the built-in behaviour
+// in the standard mode.
 #include <algorithm>
 
-#include "base/Number.h"
-#include "panels/multi/MultiPanelOffsets.h"
 #include "panels/multi/cMultiPanelLogic.h"
 
 namespace {
@@ -15,50 +14,87 @@ constexpr int32_t kFlapsControl = 0x0BDC;
 constexpr int32_t kAutoThrottleArm = 0x0810;
 constexpr double kFullDeflection = 16383;
 
-bool IsBuiltIn(const ActionRecord& record) { return record.FSEvent == ActionKind::Offset; }
-
 // A compass value that leaves its circle goes to the other end, however far the knob was turned.
 int16_t OnCompass(int value) {
     if (value < 0) return 359;
     return static_cast<int16_t>(value > 359 ? 0 : value);
 }
 
+constexpr int32_t OffsetOf(size_t row) {
+    const auto* found = std::ranges::find(kStandardOffsets, row, &MultiPanelOffset::row);
+    return found->offset;
+}
+
 }  // namespace
 
-void cMultiPanelLogic::SelectorChange(int32_t NewPosition, int32_t /*OldPosition*/) {
+void cMultiPanelLogic::SelectorChange(int32_t NewPosition, int32_t OldPosition) {
     selectorPosition_ = NewPosition;
-    control_.RotAcceleration(static_cast<uint8_t>(MPActions->GetRotAcceleration(NewPosition)));
-    control_.TrimAcceleration(static_cast<uint8_t>(MPActions->TrimAcceleration));
+    SetRotAcceleration();
+    SetTrimAcceleration();
     forceWrite_ = true;
+    if (session_.SpecialMode == kMaddogMode) {
+        ShowMaddogPosition();
+    } else {
+        SendSelectorAction(NewPosition, OldPosition);
+    }
+}
+
+// Where all positions are bound alike, the button of a position stays down while the selector
+// stands there.
+void cMultiPanelLogic::SendSelectorAction(int32_t newPosition, int32_t oldPosition) {
+    const ActionRecord& reached = MPActions->GetSelectorActions(newPosition);
+    if (reached.FSEvent != ActionKind::VButton) {
+        session_.Output.SendAction(reached);
+        return;
+    }
+    session_.Output.SetVirtualButton(reached.VJoystickOrKeyCode, reached.VButtonOrKeyQualifiers,
+                                     true, false);
+    const ActionRecord& left = MPActions->GetSelectorActions(oldPosition);
+    if (left.FSEvent == ActionKind::VButton) {
+        session_.Output.SetVirtualButton(left.VJoystickOrKeyCode, left.VButtonOrKeyQualifiers,
+                                         false, false);
+    }
 }
 
 void cMultiPanelLogic::Rotary(int16_t Direction, int16_t Speed) {
-    const ActionRecord& record = Direction == 1 ? MPActions->GetRotUpActions(selectorPosition_)
-                                                : MPActions->GetRotDownActions(selectorPosition_);
-    if (!IsBuiltIn(record)) return;
-    const int step = Direction == 1 ? Speed : -Speed;
-    const auto offsetOf = [](size_t row) { return kMultiPanelOffsets[row].offset; };
+    if (session_.SpecialMode == kMaddogMode) {
+        SM_MADDOG_Rotary(Direction, Speed);
+        return;
+    }
+    const bool up = Direction == 1;
+    const ActionRecord& record = up ? MPActions->GetRotUpActions(selectorPosition_)
+                                    : MPActions->GetRotDownActions(selectorPosition_);
+    if (record.FSEvent != ActionKind::Offset) {
+        session_.Output.SendAction(record, Speed);
+    } else if (session_.SpecialMode == kNGXMode) {
+        TurnNGX(up);
+    } else {
+        TurnStandard(up ? Speed : -Speed);
+    }
+}
+
+void cMultiPanelLogic::TurnStandard(int step) {
     switch (selectorPosition_) {
         case 1:
             altitudeValue_ = std::clamp(altitudeValue_ + step * 100, 0, 99000);
-            WriteOffset(offsetOf(kAltitudeRow), 4, altitudeValue_ / kFeetPerMetre * 65536);
+            WriteOffset(OffsetOf(kAltitudeRow), 4, altitudeValue_ / kFeetPerMetre * 65536);
             break;
         case 2:
             verticalSpeed_ =
                 static_cast<int16_t>(std::clamp(verticalSpeed_ + step * 100, -9900, 9900));
-            WriteOffset(offsetOf(kVerticalSpeedRow), 2, verticalSpeed_);
+            WriteOffset(OffsetOf(kVerticalSpeedRow), 2, verticalSpeed_);
             break;
         case 3:
             speedValue_ = std::max(speedValue_ + step, 0.0);
-            WriteOffset(offsetOf(kSpeedRow), 2, speedValue_);
+            WriteOffset(OffsetOf(kSpeedRow), 2, speedValue_);
             break;
         case 4:
             headingBug_ = OnCompass(headingBug_ + step);
-            WriteOffset(offsetOf(kHeadingRow), 3, headingBug_ / 360.0 * 65536);
+            WriteOffset(OffsetOf(kHeadingRow), 3, headingBug_ / 360.0 * 65536);
             break;
         case 5:
             courseValue_ = OnCompass(courseValue_ + step);
-            WriteOffset(offsetOf(SecondCourse() ? kCourse2Row : kCourse1Row), 2, courseValue_);
+            WriteOffset(OffsetOf(SecondCourse() ? kCourse2Row : kCourse1Row), 2, courseValue_);
             break;
         default:
             break;
@@ -66,15 +102,35 @@ void cMultiPanelLogic::Rotary(int16_t Direction, int16_t Speed) {
 }
 
 void cMultiPanelLogic::ButtonClick(int32_t Button) {
-    if (IsBuiltIn(MPActions->GetButtonsActions(Button))) ToggleHold(Button);
+    if (session_.SpecialMode == kMaddogMode) {
+        SM_MADDOG_ButtonClick(Button);
+    } else {
+        PressButton(Button, MPActions->GetButtonsActions(Button),
+                    MPActions->NGXGetShortButtonsActions(Button));
+    }
 }
 
 void cMultiPanelLogic::ButtonLongClick(int32_t Button) {
-    if (IsBuiltIn(MPActions->GetLongButtonsActions(Button))) ToggleHold(Button);
+    if (session_.SpecialMode == kMaddogMode) {
+        SM_MADDOG_ButtonLongClick(Button);
+    } else {
+        PressButton(Button, MPActions->GetLongButtonsActions(Button),
+                    MPActions->NGXGetLongButtonsActions(Button));
+    }
+}
+
+void cMultiPanelLogic::PressButton(int32_t button, const ActionRecord& record, uint8_t ngxRow) {
+    if (record.FSEvent != ActionKind::Offset) {
+        session_.Output.SendAction(record);
+    } else if (session_.SpecialMode == kNGXMode) {
+        RunNGXFunction(ngxRow);
+    } else {
+        ToggleHold(button);
+    }
 }
 
 void cMultiPanelLogic::ToggleHold(int32_t button) {
-    cOFFSET hold(session_.Fsuipc, kMultiPanelOffsets[static_cast<size_t>(button - 1)].offset, 4);
+    cOFFSET hold(session_.Fsuipc, OffsetOf(static_cast<size_t>(button - 1)), 4);
     hold.DirectRead(true);
     const double value = hold.Data() == 0 ? 1 : 0;
     WriteOffset(hold.Offset, 4, value);
@@ -82,9 +138,20 @@ void cMultiPanelLogic::ToggleHold(int32_t button) {
 }
 
 void cMultiPanelLogic::Trim(int16_t Direction, int16_t Speed) {
-    if (!IsBuiltIn(MPActions->GetTrimActions(Direction))) return;
-    const double step = Speed * MPActions->TrimSensitivity * 8.0;
-    const bool up = (Direction == 1) != (MPActions->ReverseTrim == 1);
+    const bool up = Direction == 1;
+    const ActionRecord& record = MPActions->GetTrimActions(Direction);
+    if (record.FSEvent != ActionKind::Offset) {
+        session_.Output.SendAction(record, Speed);
+    } else if (session_.SpecialMode == kNGXMode) {
+        TrimNGX(up, Speed);
+    } else {
+        TrimStandard(up, Speed);
+    }
+}
+
+void cMultiPanelLogic::TrimStandard(bool up, int16_t speed) {
+    const double step = speed * MPActions->TrimSensitivity * 8.0;
+    if (MPActions->ReverseTrim == 1) up = !up;
     cOFFSET trim(session_.Fsuipc, kElevatorTrim, 2);
     trim.DirectRead(true);
     trim.SetData(std::clamp(trim.Data() + (up ? step : -step), -kFullDeflection, kFullDeflection));
@@ -92,11 +159,22 @@ void cMultiPanelLogic::Trim(int16_t Direction, int16_t Speed) {
 }
 
 void cMultiPanelLogic::Flaps(int16_t Direction) {
-    if (!IsBuiltIn(MPActions->GetFlapsActions(Direction))) return;
+    const bool up = Direction == 1;
+    const ActionRecord& record = MPActions->GetFlapsActions(Direction);
+    if (record.FSEvent != ActionKind::Offset) {
+        session_.Output.SendAction(record);
+    } else if (session_.SpecialMode == kNGXMode) {
+        MoveFlapsNGX(up);
+    } else {
+        MoveFlapsStandard(up);
+    }
+}
+
+void cMultiPanelLogic::MoveFlapsStandard(bool up) {
     cOFFSET increment(session_.Fsuipc, kFlapsIncrement, 2);
     increment.DirectRead(true);
     const double step = increment.Data();
-    const bool up = (Direction == 1) != (MPActions->ReverseFlaps == 1);
+    if (MPActions->ReverseFlaps == 1) up = !up;
     cOFFSET flaps(session_.Fsuipc, kFlapsControl, 2);
     flaps.DirectRead(true);
     flaps.SetData(std::clamp(flaps.Data() + (up ? -step : step), 0.0, kFullDeflection));
@@ -104,8 +182,23 @@ void cMultiPanelLogic::Flaps(int16_t Direction) {
 }
 
 void cMultiPanelLogic::AutoThrottleChange(int16_t State) {
-    const int16_t side = State != 0 ? 1 : 0;
-    if (IsBuiltIn(MPActions->GetAutoThrottleActions(side))) WriteOffset(kAutoThrottleArm, 4, side);
+    if (session_.SpecialMode == kMaddogMode) {
+        SM_MADDOG_AutoThrottle(State);
+        return;
+    }
+    const bool armed = State != 0;
+    const ActionRecord& record = MPActions->GetAutoThrottleActions(armed ? 1 : 0);
+    if (record.FSEvent == ActionKind::VButton) {
+        // The button holds the switch's position.
+        session_.Output.SetVirtualButton(record.VJoystickOrKeyCode, record.VButtonOrKeyQualifiers,
+                                         armed, false);
+    } else if (record.FSEvent != ActionKind::Offset) {
+        session_.Output.SendAction(record);
+    } else if (session_.SpecialMode == kNGXMode) {
+        SetThrottleNGX(armed);
+    } else {
+        WriteOffset(kAutoThrottleArm, 4, armed ? 1 : 0);
+    }
 }
 
 // Goes out with the next exchange.

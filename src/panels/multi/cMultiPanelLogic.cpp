@@ -1,63 +1,112 @@
+// What the panel reads and shows.
 #include "panels/multi/cMultiPanelLogic.h"
 
+#include <algorithm>
+
 #include "base/Number.h"
-#include "panels/multi/MultiPanelOffsets.h"
+#include "simlink/NGXEventTable.h"
 
 namespace {
 
-constexpr MultiPanelOffset kMasterBattery = {"MASTERBATTERY", 0x281C, 4};
-constexpr MultiPanelOffset kMasterAvionics = {"MASTERAVIONICS", 0x2E80, 4};
+struct PowerOffset {
+    const char* name;
+    int32_t offset;
+};
+constexpr PowerOffset kMasterBattery = {"MASTERBATTERY", 0x281C};
+constexpr PowerOffset kMasterAvionics = {"MASTERAVIONICS", 0x2E80};
+constexpr int32_t kPowerType = 4;
+
+// Below it a speed is a Mach number.
+constexpr double kFirstKnots = 10;
 
 void SetNumber(std::string& text, int64_t value, int digits) {
     text.clear();
     AppendInteger(text, value, digits);
 }
 
+uint8_t AsAcceleration(int16_t value) {
+    return static_cast<uint8_t>(std::clamp<int16_t>(value, 0, 255));
+}
+
 }  // namespace
 
-cMultiPanelLogic::cMultiPanelLogic(cSession& session, ctlMultiPanel& control, int16_t index)
+cMultiPanelLogic::cMultiPanelLogic(const LogicServices& services, ctlMultiPanel& control,
+                                   int16_t index)
     : Index(index),
-      session_(session),
+      session_(services.session),
+      profiles_(services.profiles),
+      clock_(services.clock),
       control_(control),
-      masterBattery_(session.OffsetTable, kMasterBattery.name),
-      masterAvionics_(session.OffsetTable, kMasterAvionics.name) {
-    for (const MultiPanelOffset& row : kMultiPanelOffsets) {
-        offsets_.emplace_back(session.OffsetTable, row.name);
-    }
+      masterBattery_(session_.OffsetTable, kMasterBattery.name),
+      masterAvionics_(session_.OffsetTable, kMasterAvionics.name) {
+    for (const char* name : kMultiPanelNames) offsets_.emplace_back(session_.OffsetTable, name);
 }
 
 void cMultiPanelLogic::StartUp() {
-    MPActions = std::make_unique<cMultiPanelActionsHolder>();
+    MPActions = std::make_unique<cMultiPanelActionsHolder>(profiles_);
     MPActions->Index = Index;
-    LoadSetup();
+    MPActions->LoadSetup();
     panelLights_ = 0;
     forceWrite_ = false;
-    for (const MultiPanelOffset& row : {kMasterBattery, kMasterAvionics}) {
-        session_.OffsetTable.RegisterOffset(row.offset, row.dataType, row.name);
+    for (const PowerOffset& power : {kMasterBattery, kMasterAvionics}) {
+        session_.OffsetTable.RegisterOffset(power.offset, kPowerType, power.name);
     }
     SetupChanged();
 }
 
 void cMultiPanelLogic::SetupChanged() {
-    if (selectorPosition_ != 0) {
-        control_.RotAcceleration(
-            static_cast<uint8_t>(MPActions->GetRotAcceleration(selectorPosition_)));
-    }
-    control_.TrimAcceleration(static_cast<uint8_t>(MPActions->TrimAcceleration));
+    if (selectorPosition_ != 0) SetRotAcceleration();
+    SetTrimAcceleration();
     RegisterOffsets();
 }
 
+void cMultiPanelLogic::SetRotAcceleration() {
+    control_.RotAcceleration(AsAcceleration(MPActions->GetRotAcceleration(selectorPosition_)));
+}
+
+void cMultiPanelLogic::SetTrimAcceleration() {
+    control_.TrimAcceleration(AsAcceleration(MPActions->TrimAcceleration));
+}
+
 void cMultiPanelLogic::RegisterOffsets() {
-    for (const MultiPanelOffset& row : kMultiPanelOffsets) {
-        session_.OffsetTable.UnregisterOffset(row.name);
+    for (const char* name : kMultiPanelNames) session_.OffsetTable.UnregisterOffset(name);
+    switch (session_.SpecialMode) {
+        case kNGXMode:
+            RegisterNGXLights();
+            Register(kNGXOffsets);
+            break;
+        case kMaddogMode:
+            Register(kMaddogOffsets);
+            maddog_ = {};
+            panelLights_ = 0;  // the lights of another mode mean nothing here
+            break;
+        default:
+            Register(kStandardOffsets);
+            break;
     }
-    for (const MultiPanelOffset& row : kMultiPanelOffsets) {
-        session_.OffsetTable.RegisterOffset(row.offset, row.dataType, row.name);
+}
+
+void cMultiPanelLogic::Register(std::span<const MultiPanelOffset> offsets) {
+    for (const MultiPanelOffset& each : offsets) {
+        session_.OffsetTable.RegisterOffset(each.offset, each.dataType, kMultiPanelNames[each.row]);
+    }
+}
+
+// A button's light is that of its short function.
+void cMultiPanelLogic::RegisterNGXLights() {
+    for (size_t row = 0; row < kMultiPanelLightRows; ++row) {
+        const auto button = static_cast<int32_t>(row + 1);
+        const size_t function = MPActions->NGXGetShortButtonsActions(button);
+        session_.OffsetTable.RegisterOffset(NGXEventTable[kNGXRows + function], kNGXLightType,
+                                            kMultiPanelNames[row]);
     }
 }
 
 void cMultiPanelLogic::RefreshData() {
-    panelLights_ = 0;
+    if (session_.SpecialMode == kMaddogMode) {
+        RefreshMaddog();
+        return;
+    }
     for (size_t row = 0; row < kMultiPanelLightRows; ++row) {
         UpdateLight(row, static_cast<uint8_t>(1 << row));
     }
@@ -72,7 +121,8 @@ void cMultiPanelLogic::RefreshData() {
 }
 
 void cMultiPanelLogic::UpdateLight(size_t row, uint8_t bit) {
-    if (Value(row) == 1) panelLights_ = static_cast<uint8_t>(panelLights_ | bit);
+    const int lights = Value(row) == 1 ? panelLights_ | bit : panelLights_ & ~bit;
+    panelLights_ = static_cast<uint8_t>(lights);
 }
 
 bool cMultiPanelLogic::SecondCourse() const {
@@ -81,31 +131,61 @@ bool cMultiPanelLogic::SecondCourse() const {
 }
 
 void cMultiPanelLogic::RefreshValues() {
+    const bool ngx = session_.SpecialMode == kNGXMode;
+    const double degrees = ngx ? 1 : 360.0 / 65536;
     speedValue_ = Value(kSpeedRow);
     verticalSpeed_ = RoundTo<int16_t>(Value(kVerticalSpeedRow));
     courseValue_ = RoundTo<int16_t>(Value(SecondCourse() ? kCourse2Row : kCourse1Row));
-    headingBug_ = RoundTo<int16_t>(Value(kHeadingRow) * 360 / 65536);
-    altitudeValue_ = RoundTo<int32_t>(Value(kAltitudeRow) * kFeetPerMetre / 65536);
+    headingBug_ = RoundTo<int16_t>(Value(kHeadingRow) * degrees);
+    altitudeValue_ =
+        RoundTo<int32_t>(ngx ? Value(kAltitudeRow) : Value(kAltitudeRow) * kFeetPerMetre / 65536);
 }
 
 void cMultiPanelLogic::RefreshTexts() {
     switch (selectorPosition_) {
         case 1:
         case 2:
-            SetNumber(upperText_, altitudeValue_, 5);
-            SetNumber(lowerText_, verticalSpeed_, 1);
-            return;
         case 3:
-            SetNumber(upperText_, RoundHalfEven(speedValue_), 1);
+            session_.SpecialMode == kNGXMode ? ShowNGX() : ShowStandard();
             break;
         case 4:
             SetNumber(upperText_, headingBug_, 3);
+            lowerText_.clear();
             break;
         case 5:
             SetNumber(upperText_, courseValue_, 3);
+            lowerText_.clear();
             break;
         default:
-            return;
+            break;
     }
+}
+
+// Positions ALT, VS and IAS.
+void cMultiPanelLogic::ShowStandard() {
+    if (selectorPosition_ == 3) {
+        SetNumber(upperText_, RoundHalfEven(speedValue_), 1);
+        lowerText_.clear();
+        return;
+    }
+    SetNumber(upperText_, altitudeValue_, 5);
+    SetNumber(lowerText_, verticalSpeed_, 1);
+}
+
+// The same positions of the add-on, whose windows can be blank.
+void cMultiPanelLogic::ShowNGX() {
+    if (selectorPosition_ == 3) {
+        upperText_.clear();
+        lowerText_.clear();
+        if (Value(kSpeedBlankRow) != 0) return;
+        if (speedValue_ < kFirstKnots) {
+            AppendFixed(upperText_, speedValue_, 3);
+        } else {
+            AppendInteger(upperText_, RoundHalfEven(speedValue_));
+        }
+        return;
+    }
+    SetNumber(upperText_, altitudeValue_, 1);
     lowerText_.clear();
+    if (Value(kVerticalSpeedBlankRow) == 0) AppendInteger(lowerText_, verticalSpeed_, 4);
 }

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "bench/driver/Cockpit.h"
+#include "bench/flight/FlightLog.h"
+
+// Steps of a flight with the Multi Panel multi1, each written to the log: what is done, and what is
+// to be seen of it within some seconds. They give false when it isn't.
+class FlightChecks {
+  public:
+    FlightChecks(Cockpit& cockpit, const FlightLog& log) : cockpit_(cockpit), log_(log) {}
+
+    // A command to the panel, without its name: "knob +3 60" turns multi1's knob.
+    void Do(const std::string& act) const;
+    // What the panel shows, as it tells it itself.
+    bool ExpectPanel(const std::string& shown) const;
+    bool ExpectStatus(size_t panel, const std::string& text) const;
+    // The profile that the window says is in use.
+    bool ExpectProfile(const std::string& name) const;
+    // What has reached the simulator since it was asked last: writes ("07CC:E438 ...") of these
+    // offsets alone, or controls ("70022:16384 ...").
+    bool ExpectWrites(const std::vector<std::string>& offsets, const std::string& writes) const;
+    bool ExpectControls(const std::string& controls) const;
+    // Another aircraft is loaded, and its profile comes into force.
+    bool ChangeAircraft(const std::string& title, const std::string& profile) const;
+
+  protected:
+    Cockpit& cockpit_;
+    const FlightLog& log_;
+
+  private:
+    std::string WritesOf(const std::vector<std::string>& offsets) const;
+};
+
+// How a row of the panel is told: right-aligned in its five places.
+std::string PanelShows(const std::string& upper, const std::string& lower,
+                       const std::string& lights = "none");
