@@ -32,6 +32,10 @@ struct VirtualCockpit {
         machine.files.Put("C:\\Orvo\\Orvo.ini", "[GeneralSetup]\r\n" + keys);
     }
 
+    void PutProfile(const std::string& name, const std::string& text) {
+        machine.files.Put("C:\\Orvo\\" + name + ".ini", text);
+    }
+
     // Splash is off, for the tests that don't look at it.
     bool Start(const std::string& options = "Splash=0\r\n") {
         PutOptions(options);
@@ -51,6 +55,12 @@ struct VirtualCockpit {
         machine.loop.Advance(1000);
         Tick();
     }
+    void LoseSimulator() {
+        machine.ipc.RemoveWindows();
+        machine.ipc.AnswerWith(0);
+        Tick();
+        machine.ipc.AnswerWith(0, 0);
+    }
     void Tick() { machine.loop.Advance(10); }
 
     frmMain& Window() { return *program->Window(); }
@@ -59,5 +69,13 @@ struct VirtualCockpit {
     }
     PanelUnit& Unit(int number) {
         return *Window().Panels[PanelKind::Multi][static_cast<size_t>(number - 1)];
+    }
+    cMultiPanelLogic& Logic(int number = 1) {
+        return static_cast<cMultiPanelLogic&>(*Unit(number).logic);
+    }
+    // The rows of the picture: "upper|lower".
+    std::string Shown(int number = 1) {
+        const MultiPanelPicture& picture = Multi(number).OnScreen;
+        return picture.labUpperValue.Caption.Get() + "|" + picture.labLowerValue.Caption.Get();
     }
 };

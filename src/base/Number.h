@@ -36,7 +36,7 @@ void AppendInteger(std::string& out, int64_t value, int digits = 1);
 
 std::string FormatInteger(int64_t value, int digits = 1);
 
-// Appends a number with a point and exactly `decimals` digits behind it, 0 to 9, rounded half to
+// Appends a number with a point and exactly `decimals` digits behind it, 1 to 9, rounded half to
 // even: (0.78, 3) gives "0.780". Beyond what 64 bits hold it stays at their ends.
 void AppendFixed(std::string& out, double value, int decimals);
 

@@ -26,9 +26,10 @@ bool SetKey(cInifile& ini, const std::vector<std::string>& keys, const std::stri
 }
 
 bool DeleteIfThere(cInifile& ini, const std::vector<std::string>& keys) {
-    const bool there = std::ranges::any_of(
-        keys, [&ini](const std::string& key) { return EqualNoCase(key, ini.Key); });
-    if (!there) return true;
-    ini.DeleteKey();
-    return ini.Success();
+    // A key that a hand wrote twice would come to light when only its first one went.
+    return std::ranges::all_of(keys, [&ini](const std::string& key) {
+        if (!EqualNoCase(key, ini.Key)) return true;
+        ini.DeleteKey();
+        return ini.Success();
+    });
 }

@@ -15,6 +15,8 @@ constexpr const char* kAircrafts = "Aircrafts";
 // From this length on, a listing of keys may have been cut.
 constexpr size_t kFullListing = 8190;
 
+constexpr int kMostSections = 100;
+
 // Appends what `ini` lists of its section; true if there may be more than it could list.
 bool ReadListing(cInifile& ini, std::vector<std::pair<std::string, std::string>>& entries) {
     std::vector<std::string> keys;
@@ -44,21 +46,35 @@ ProfileStore::ProfileStore(IniService& ini, FilePort& files, std::string program
       path_(programFolder_ + "\\Orvo.ini") {}
 
 void ProfileStore::LoadProfileList() {
-    profileNames_.clear();
-    for (const auto& [name, value] : ReadSection(kProfiles)) {
-        if (!EqualNoCase(name, kDefault) && ProfileNameFree(name)) profileNames_.push_back(name);
-    }
-    profileNames_.emplace_back(kDefault);
+    profileNames_.assign(1, kDefault);
+    profilesWhole_ = ReadProfileList();
 }
 
 void ProfileStore::LoadAircraftList() {
     aircrafts_.clear();
-    for (const auto& [key, profile] : ReadSection(kAircrafts)) {
-        AddAircraft(FromIniKey(key), profile);
+    aircraftsWhole_ = ReadAircraftList();
+}
+
+// Adds what isn't known yet, before "Default".
+bool ProfileStore::ReadProfileList() {
+    Entries entries;
+    const bool whole = ReadSection(kProfiles, entries);
+    for (const auto& [name, value] : entries) {
+        if (ProfileNameFree(name)) profileNames_.insert(profileNames_.end() - 1, name);
     }
+    return whole;
+}
+
+bool ProfileStore::ReadAircraftList() {
+    Entries entries;
+    const bool whole = ReadSection(kAircrafts, entries);
+    for (const auto& [key, profile] : entries) AddAircraft(FromIniKey(key), profile);
+    return whole;
 }
 
 void ProfileStore::SaveProfileList() {
+    if (!profilesWhole_) profilesWhole_ = ReadProfileList();
+    if (!profilesWhole_) return;
     Entries entries;
     for (const std::string& name : profileNames_) {
         if (name != kDefault) entries.emplace_back(name, " ");
@@ -67,6 +83,8 @@ void ProfileStore::SaveProfileList() {
 }
 
 void ProfileStore::SaveAircraftList() {
+    if (!aircraftsWhole_) aircraftsWhole_ = ReadAircraftList();
+    if (!aircraftsWhole_) return;
     Entries entries;
     for (const Aircraft& each : aircrafts_) {
         entries.emplace_back(ToIniKey(each.title), each.profile);
@@ -88,7 +106,7 @@ std::string ProfileStore::ProfileOfAircraft(std::string_view title) const {
 }
 
 void ProfileStore::AddAircraft(std::string_view title, std::string_view profile) {
-    if (AircraftKnown(title)) return;
+    if (title.empty() || AircraftKnown(title)) return;
     aircrafts_.push_back({std::string(title), std::string(profile)});
 }
 
@@ -118,19 +136,19 @@ void ProfileStore::SaveProfile(const std::function<bool(cInifile&)>& write) {
 
 // One listing holds only so many keys. Where there are more, those seen are taken out of a copy, so
 // that the next listing shows others.
-ProfileStore::Entries ProfileStore::ReadSection(const char* section) const {
+bool ProfileStore::ReadSection(const char* section, Entries& entries) const {
     const std::string copy = path_ + ".new";
     cInifile ini(ini_);
     ini.Path = path_;
     ini.Section = section;
-    Entries entries;
-    for (size_t seen = 0; ReadListing(ini, entries); seen = entries.size()) {
-        if (ini.Path != copy && !files_.Copy(path_, copy)) return entries;
+    bool whole = true;
+    for (size_t seen = 0; whole && ReadListing(ini, entries); seen = entries.size()) {
+        whole = ini.Path == copy || files_.Copy(path_, copy);
         ini.Path = copy;
-        if (!DeleteKeys(ini, std::span(entries).subspan(seen))) break;
+        whole = whole && DeleteKeys(ini, std::span(entries).subspan(seen));
     }
     if (ini.Path == copy) files_.Delete(copy);
-    return entries;
+    return whole;
 }
 
 // Leaves a file alone that says all this already.
@@ -138,14 +156,19 @@ void ProfileStore::RewriteSection(const char* section, const Entries& entries) {
     const auto same = [](const Entries::value_type& a, const Entries::value_type& b) {
         return a.first == b.first && Trim(a.second) == Trim(b.second);
     };
-    if (std::ranges::equal(ReadSection(section), entries, same)) return;
+    Entries there;
+    if (ReadSection(section, there) && std::ranges::equal(there, entries, same)) return;
     SaveIni(ini_, files_, path_, [&](cInifile& ini) {
         ini.Section = section;
-        ini.DeleteSection();
-        return ini.Success() && std::ranges::all_of(entries, [&ini](const auto& entry) {
-                   ini.Key = entry.first;
-                   ini.SetValue(entry.second);
-                   return ini.Success();
-               });
+        // Where a hand wrote the section twice, the second one comes to light when the first goes.
+        for (int left = kMostSections; left > 0 && !ini.INISection().empty(); --left) {
+            ini.DeleteSection();
+            if (!ini.Success()) return false;
+        }
+        return std::ranges::all_of(entries, [&ini](const auto& entry) {
+            ini.Key = entry.first;
+            ini.SetValue(entry.second);
+            return ini.Success();
+        });
     });
 }

@@ -25,14 +25,14 @@ class ProfileStore {
 
     void LoadProfileList();
     void LoadAircraftList();
-    // The whole list or, when the file can't be written, nothing of it.
+    // The whole list or, when the file can't be written or couldn't be read as a whole, nothing.
     void SaveProfileList();
     void SaveAircraftList();
 
     bool AircraftKnown(std::string_view title) const;
     // Empty when the aircraft is unknown.
     std::string ProfileOfAircraft(std::string_view title) const;
-    // For a title that isn't known yet; else it does nothing.
+    // For a title that isn't known yet and not empty; else it does nothing.
     void AddAircraft(std::string_view title, std::string_view profile);
 
     // Place of the name from 1, or -1.
@@ -60,7 +60,10 @@ class ProfileStore {
 
     const Aircraft* Find(std::string_view title) const;
     std::string ProfilePath() const { return programFolder_ + '\\' + CurrentProfile + ".ini"; }
-    Entries ReadSection(const char* section) const;
+    bool ReadProfileList();
+    bool ReadAircraftList();
+    // False when some entries may be missing.
+    bool ReadSection(const char* section, Entries& entries) const;
     void RewriteSection(const char* section, const Entries& entries);
 
     IniService& ini_;
@@ -69,4 +72,6 @@ class ProfileStore {
     const std::string path_;
     std::vector<std::string> profileNames_{kDefault};
     std::vector<Aircraft> aircrafts_;
+    bool profilesWhole_ = true;  // nothing of the file's list is missing in memory
+    bool aircraftsWhole_ = true;
 };

@@ -22,8 +22,8 @@ AircraftBinding::AircraftBinding(const Parts& parts) : parts_(parts) {
     });
 }
 
-void AircraftBinding::BindAircraft(std::string title) {
-    if (binding_) return;
+bool AircraftBinding::BindAircraft(std::string title) {
+    if (binding_) return false;
     binding_ = true;
     ReadGear();
     currentAircraft_ = std::move(title);
@@ -40,6 +40,7 @@ void AircraftBinding::BindAircraft(std::string title) {
     profiles.SaveAircraftList();
     profiles.SaveProfileList();
     binding_ = false;
+    return true;
 }
 
 void AircraftBinding::ReadGear() {
@@ -50,9 +51,10 @@ void AircraftBinding::ReadGear() {
 
 std::string AircraftBinding::ProfileForNew(const std::string& title) {
     if (!parts_.generalSetup.ManualProfile || !AskForProfile) return ProfileStore::kDefault;
-    parts_.windows.ModalWindowOpen = true;
+    // A configuration window may be open already.
+    const bool open = std::exchange(parts_.windows.ModalWindowOpen, true);
     std::string chosen = AskForProfile(title);
-    parts_.windows.ModalWindowOpen = false;
+    parts_.windows.ModalWindowOpen = open;
     return chosen;
 }
 

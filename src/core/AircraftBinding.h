@@ -31,9 +31,9 @@ class AircraftBinding {
     std::function<std::string(const std::string& title)> AskForProfile;
 
     // Takes the title as the aircraft in use, and puts its profile into force. A new one is bound
-    // to "Default", or with ManualProfile to what AskForProfile gives. May let messages run; while
-    // it does, it does nothing for other titles.
-    void BindAircraft(std::string title);
+    // to "Default", or with ManualProfile to what AskForProfile gives. May let messages run; called
+    // again meanwhile it does nothing, and gives false.
+    bool BindAircraft(std::string title);
 
     // Empty until the first session brings a title. It outlives a session: coming back to the same
     // aircraft changes nothing.

@@ -92,7 +92,7 @@ class frmMain : public Form {
     void TryToConnect();
     void ShowVersions();
     void Poll();
-    void TakeAircraft();
+    bool TakeAircraft();
     void LoseSession();
 
     const MainServices services_;

@@ -63,19 +63,22 @@ void frmMain::Poll() {
         LoseSession();
         return;
     }
-    TakeAircraft();
-    if (!session.FSConnected) return;  // binding an aircraft may let messages run
+    // What the logics of another profile have registered is read by the next tick; and binding may
+    // have let messages run.
+    if (TakeAircraft()) return;
     Panels.ForEachLogic([](cPanelLogic& logic) { logic.RefreshData(); });
 }
 
-void frmMain::TakeAircraft() {
+// True when an aircraft has been bound.
+bool frmMain::TakeAircraft() {
     detectedAircraft_ = aircraftTitle_.Text();
-    if (!detectedAircraft_.empty() && detectedAircraft_ != Binding.CurrentAircraft()) {
-        Binding.BindAircraft(detectedAircraft_);
-    }
-    if (detectedAircraft_ == shownAircraft_) return;
+    const bool other = !detectedAircraft_.empty() && detectedAircraft_ != Binding.CurrentAircraft();
+    const bool bound = other && Binding.BindAircraft(detectedAircraft_);
+    if (bound && !services_.session.FSConnected) return true;
+    if (detectedAircraft_ == shownAircraft_) return bound;
     shownAircraft_ = detectedAircraft_;
     Aircraft.Text = "Aircraft in use: " + detectedAircraft_;
+    return bound;
 }
 
 void frmMain::LoseSession() {

@@ -31,6 +31,18 @@ TEST(NumberTest, Formats) {
     EXPECT_EQ(FormatInteger(INT64_MIN), "-9223372036854775808");
     EXPECT_EQ(FormatPlain(3.999, 3), "3.999");
     EXPECT_EQ(FormatPlain(4, 3), "4");
+    const std::pair<double, const char*> fixed[] = {{0.7805F, "0.780"},
+                                                    {-0.0004, "0.000"},
+                                                    {-0.0006, "-0.001"},
+                                                    {9.9996, "10.000"},
+                                                    {-1.5, "-1.500"},
+                                                    {1e30, "9223372036854775.807"},
+                                                    {-1e30, "-9223372036854775.808"}};
+    for (const auto& [value, text] : fixed) {
+        std::string out = "x";
+        AppendFixed(out, value, 3);
+        EXPECT_EQ(out, std::string("x") + text);
+    }
 }
 
 TEST(TextTest, ComparesWithoutCaseInWindows1252) {
@@ -38,6 +50,10 @@ TEST(TextTest, ComparesWithoutCaseInWindows1252) {
     EXPECT_FALSE(EqualNoCase("\xD7", "\xF7"));
     EXPECT_FALSE(EqualNoCase("a", "ab"));
     EXPECT_EQ(Trim(" \t a b \t"), "a b");
+    // Neither sharp s nor the division sign have an upper case here.
+    const std::string lower = "az{\xE4\xFE\x9A\x9C\x9E\xFF\xDF\xF7";
+    const std::string upper = "AZ{\xC4\xDE\x8A\x8C\x8E\x9F\xDF\xF7";
+    for (size_t i = 0; i < lower.size(); ++i) EXPECT_EQ(ToUpper(lower[i]), upper[i]) << i;
 }
 
 TEST(EventTest, ListenersMayComeAndGoWhileItIsRaised) {

@@ -11,6 +11,7 @@
 
 #include "bench/console/Command.h"
 #include "bench/driver/Cockpit.h"
+#include "bench/driver/TypingField.h"
 #include "bench/driver/Until.h"
 #include "bench/flight/ScriptedFlight.h"
 
@@ -75,6 +76,76 @@ std::string AnswerBox(const Cockpit& cockpit, const std::string& title) {
 
 TEST_F(EndToEnd, FliesTheScriptedFlight) {
     EXPECT_TRUE(ScriptedFlight(*cockpit_, FlightLog(false)).Fly());
+}
+
+TEST_F(EndToEnd, ProfilesFollowTheTitleAndTheUsersChoice) {
+    const std::string lists = "[Profiles]\r\nSecond=\r\n[Aircrafts]\r\nB 737=Second\r\n";
+    cockpit_->WriteIni(lists);
+    cockpit_->WriteFile("Second.ini", "[MultiPanel1]\r\nButtonActionHDG=VButton,72,32\r\n");
+    StartConnected();
+    const FlightChecks flight(*cockpit_, FlightLog(false));
+    const auto press = [&](const char* writes) {
+        flight.Do("press HDG");
+        return flight.ExpectWrites({"07C8", "3360"}, writes);
+    };
+    EXPECT_TRUE(flight.ChangeAircraft("[A]=1; 100%", "Default"));
+    EXPECT_TRUE(press("07C8:01000000"));
+    EXPECT_TRUE(flight.ChangeAircraft("B 737", "Second"));
+    EXPECT_TRUE(press("3360:00000080 3360:00000000"));
+    EXPECT_TRUE(flight.ChangeAircraft("[A]=1; 100%", "Default"));
+    EXPECT_TRUE(press("07C8:00000000"));
+    const HWND combo = FindChild(cockpit_->MainWindow(), "ComboBox", std::nullopt);
+    EXPECT_EQ(ComboTexts(combo), (std::vector<std::string>{"Second", "Default"}));
+    EXPECT_TRUE(ChooseInCombo(combo, 0) && flight.ExpectProfile("Second"));
+    EXPECT_TRUE(press("3360:00000080 3360:00000000"));
+    EXPECT_EQ(cockpit_->ReadFile("Orvo.ini"),
+              lists + "Bench Trainer=Default\r\n%5BA]%3D1; 100%25=Default\r\n");
+    ExpectQuits();
+}
+
+TEST_F(EndToEnd, KeystrokesGoToTheWindowInFocus) {
+    cockpit_->WriteFile("Default.ini",
+                        "[MultiPanel1]\r\nButtonActionNAV=VKey,65,0,97\r\n"
+                        "ButtonActionAPR=VKey,65,1,65\r\nLongButtonActionAP=VKey,66,7,66\r\n"
+                        "RotUpActionHDG=VKey,67,0,99\r\n");
+    StartConnected();
+    const TypingField field;
+    ASSERT_TRUE(field.TakeFocus());
+    const FlightChecks flight(*cockpit_, FlightLog(false));
+    for (const char* act : {"selector HDG", "press NAV", "press APR", "knob +2 60"}) flight.Do(act);
+    EXPECT_TRUE(Until(kSoonMs, [&] { return field.Text() == "aAcc"; })) << field.Text();
+    field.Clear();
+    flight.Do("press AP 800");
+    EXPECT_TRUE(Until(kSoonMs, [&] { return field.Keys() == "+16 +17 +9 +66 -66 -9 -17 -16"; }))
+        << field.Keys();
+    ExpectQuits();
+}
+
+TEST_F(EndToEnd, OldFileBecomesTheDefaultProfile) {
+    constexpr char kBox[] = "  ORVO  - Configuration file conversion request";
+    const std::string old = "[MultiPanel1]\r\nButtonActionHDG=VButton,64,1\r\n";
+    cockpit_->WriteIni(old);
+    cockpit_->StartOrvo();
+    HWND box = nullptr;
+    ASSERT_TRUE(Until(kSoonMs, [&] { return (box = cockpit_->Box(kBox)) != nullptr; }));
+    PressBoxButton(box, IDCANCEL);
+    EXPECT_EQ(cockpit_->Orvo().WaitForEnd(kSoonMs), 0u);
+    EXPECT_EQ(cockpit_->ReadFile("Orvo.ini"), old);
+
+    cockpit_->StartSimulator();
+    cockpit_->StartPanels();
+    PlugIn("multi1");
+    cockpit_->StartOrvo();
+    EXPECT_EQ(AnswerBox(*cockpit_, kBox),
+              "Your Orvo.ini file belongs to an old version.\n"
+              "Do you want to convert it to the new file format ?\n"
+              "Converting to the new format will put actual settings into Default Profile.");
+    ASSERT_TRUE(cockpit_->StatusBecomes(3, "Aircraft in use: Bench Trainer", kSoonMs));
+    EXPECT_EQ(cockpit_->ReadFile("Default.ini"), old);
+    const FlightChecks flight(*cockpit_, FlightLog(false));
+    flight.Do("press HDG");
+    EXPECT_TRUE(flight.ExpectWrites({"07C8", "3340"}, "3340:01000000 3340:00000000"));
+    ExpectQuits();
 }
 
 TEST_F(EndToEnd, WithoutPanelsSaysSoAndEnds) {

@@ -10,9 +10,12 @@
 #include <utility>
 #include <vector>
 
+#include "bench/driver/TypingField.h"
+#include "bench/driver/Until.h"
 #include "platform/win32/Win32Handle.h"
 #include "platform/win32/Win32HidLibrary.h"
 #include "platform/win32/Win32HiddenWindow.h"
+#include "platform/win32/Win32Keyboard.h"
 #include "platform/win32/Win32Loop.h"
 #include "platform/win32/Win32PanelLink.h"
 #include "platform/win32/Win32Tray.h"
@@ -133,6 +136,34 @@ TEST(Win32TrayTest, IconComesBack) {
 
     EXPECT_TRUE(tray.NotifyIcon(NIM_DELETE, record));
     EXPECT_FALSE(tray.NotifyIcon(NIM_MODIFY, record)) << "no longer wanted";
+}
+
+TEST(Win32KeyboardTest, RecordsReachTheWindowWithTheFocusInOrder) {
+    const TypingField field;
+    ASSERT_TRUE(field.TakeFocus());
+    struct Case {
+        std::vector<uint16_t> down;  // They go up in reverse.
+        std::string keys, text;
+    };
+    const std::vector<Case> cases = {
+        {{'A'}, "+65 -65", "a"},
+        {{VK_SHIFT, 'A'}, "+16 +65 -65 -16", "A"},
+        {{VK_SHIFT, VK_CONTROL, VK_TAB, 'B'}, "+16 +17 +9 +66 -66 -9 -17 -16", ""},
+        {{VK_TAB, VK_RETURN}, "+9 +13 -13 -9", "\t\r\n"},
+        {{VK_F10}, "+121 -121", ""},
+        {{VK_F16}, "+127 -127", ""},
+        {{VK_LEFT}, "+37 -37", ""},
+    };
+    Win32Keyboard keyboard;
+    for (const Case& each : cases) {
+        std::vector<KeyRecord> records;
+        for (const uint16_t key : each.down) records.push_back({key, false});
+        for (size_t i = each.down.size(); i-- > 0;) records.push_back({each.down[i], true});
+        field.Clear();
+        keyboard.SendInput(records);
+        EXPECT_TRUE(Until(2000, [&] { return field.Keys() == each.keys; })) << field.Keys();
+        EXPECT_EQ(field.Text(), each.text) << each.keys;
+    }
 }
 
 TEST(Win32LoopTest, TicksKeepTheirPaceInAMessageBox) {

@@ -1,0 +1,83 @@
+// Hand-made lists and bindings: whatever is in them, they load, and a save and a load give the
+// same.
+#include <cstdlib>
+#include <string>
+
+#include "config/IniKey.h"
+#include "panels/multi/cMultiPanelActionsHolder.h"
+#include "platform/virtual/VirtualPlatform.h"
+
+namespace {
+
+// Beyond this the keys of a panel may not fit into one listing.
+constexpr size_t kLongestBindings = 6000;
+constexpr size_t kLongestTitle = 255;
+constexpr size_t kLongestLists = 20000;  // two listings and more
+
+void Require(bool holds) {
+    if (!holds) std::abort();
+}
+
+ProfileStore Started(VirtualPlatform& machine) {
+    ProfileStore profiles(machine.ini, machine.files, "C:\\Orvo");
+    profiles.LoadProfileList();
+    profiles.LoadAircraftList();
+    return profiles;
+}
+
+void CheckLists(const std::string& text) {
+    VirtualPlatform machine;
+    machine.files.Put("C:\\Orvo\\Orvo.ini", "[Aircrafts]\n" + text);
+    std::vector<std::string> keys;
+    int32_t count = 0;
+    cInifile ini(machine.ini);
+    ini.Path = "C:\\Orvo\\Orvo.ini";
+    ini.Section = "Aircrafts";
+    ini.EnumerateCurrentSection(keys, count);
+
+    ProfileStore profiles = Started(machine);
+    const std::string added = '\1' + text.substr(0, kLongestTitle);
+    profiles.AddAircraft(added, "Default");
+    profiles.SaveProfileList();
+    profiles.SaveAircraftList();
+    const ProfileStore again = Started(machine);
+    Require(again.ProfileNames() == profiles.ProfileNames());
+    Require(again.ProfileOfAircraft(added) == "Default");
+    for (const std::string& key : keys) {
+        const std::string title = FromIniKey(key);
+        const std::string profile = profiles.ProfileOfAircraft(title);
+        Require(again.AircraftKnown(title));
+        // What is no name of a profile may have quotes, which the service takes off.
+        if (ProfileStore::ProfileNameValid(profile)) {
+            Require(again.ProfileOfAircraft(title) == profile);
+        }
+    }
+}
+
+// Two holders say the same when they make the same file.
+void CheckBindings(const std::string& text) {
+    VirtualPlatform machine;
+    machine.files.Put("C:\\Orvo\\Default.ini", "[MultiPanel1]\n" + text);
+    ProfileStore profiles(machine.ini, machine.files, "C:\\Orvo");
+    cMultiPanelActionsHolder holder(profiles), again(profiles);
+    holder.Index = again.Index = 1;
+    holder.LoadSetup();
+    holder.SaveSetup();
+    again.LoadSetup();
+    profiles.CurrentProfile = "Loaded";
+    holder.SaveSetup();
+    profiles.CurrentProfile = "Again";
+    again.SaveSetup();
+    Require(machine.files.Look("C:\\Orvo\\Loaded.ini") ==
+            machine.files.Look("C:\\Orvo\\Again.ini"));
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
+    const std::string text(data, data + size);
+    Require(FromIniKey(ToIniKey(text)) == text);
+    if (size <= kLongestLists) CheckLists(text);
+    if (size <= kLongestBindings) CheckBindings(text);
+    return 0;
+}

@@ -1,0 +1,158 @@
+#include <gtest/gtest.h>
+
+#include "config/OldConfiguration.h"
+#include "config/ProfileStore.h"
+#include "platform/virtual/VirtualPlatform.h"
+#include "toolkit/HeadlessUi.h"
+
+namespace {
+
+using Names = std::vector<std::string>;
+const std::string kPath = "C:\\Orvo\\Orvo.ini";
+
+struct ProfileStoreTest : testing::Test {
+    VirtualPlatform machine;
+
+    // As a program that starts with what is there, or with `content`.
+    ProfileStore Started(const std::string& content = "") {
+        if (!content.empty()) machine.files.Put(kPath, content);
+        ProfileStore store(machine.ini, machine.files, "C:\\Orvo");
+        store.LoadProfileList();
+        store.LoadAircraftList();
+        return store;
+    }
+    std::string Saved(ProfileStore& store) {
+        store.SaveProfileList();
+        store.SaveAircraftList();
+        return machine.files.Look(kPath).value_or("no file");
+    }
+};
+
+TEST_F(ProfileStoreTest, ListsKeepTheirOrderAndTheRestOfTheFile) {
+    ProfileStore empty = Started();
+    EXPECT_EQ(empty.ProfileNames(), Names{"Default"});
+    EXPECT_EQ(Saved(empty), "no file");
+    ProfileStore store = Started(
+        "[Profiles]\r\nB= \r\ndefault= \r\nA=x\r\nb= \r\n[Aircrafts]\r\nBaron=A\r\nBARON=B\r\n"
+        "Cessna= b \r\n[Other]\r\nx=1\r\n");
+    EXPECT_EQ(store.ProfileNames(), (Names{"B", "A", "Default"}));
+    EXPECT_EQ(store.ProfileIndex("a"), 2);
+    EXPECT_TRUE(store.ProfileNameFree("C") && store.ProfileNameValid("aZ09"));
+    for (const char* bad : {"a b", "..\\a", "\xE4"}) EXPECT_FALSE(store.ProfileNameValid(bad));
+    EXPECT_EQ(store.ProfileOfAircraft("baron"), "A") << "the first of two that differ in case";
+    EXPECT_EQ(store.ProfileOfAircraft("none"), "");
+    store.AddAircraft("CESSNA", "A");
+    store.AddAircraft("Piper [2]; new", "Default");
+    EXPECT_EQ(Saved(store),
+              "[Other]\r\nx=1\r\n[Profiles]\r\nB= \r\nA= \r\n"
+              "[Aircrafts]\r\nBaron=A\r\nCessna=b\r\nPiper [2]; new=Default\r\n");
+    const int changes = machine.files.ChangeCount();
+    Saved(store);
+    EXPECT_EQ(machine.files.ChangeCount(), changes) << "the file says it already";
+}
+
+TEST_F(ProfileStoreTest, AnyTitleAndAnyNumberOfThemComeBack) {
+    Names titles = {"a=b",
+                    "[Baron] 58",
+                    "[",
+                    ";x",
+                    "  two  ",
+                    " ",
+                    "%",
+                    "\xA0x\xA0",
+                    "%41",
+                    "%G1",
+                    "a\tb\x1A\r\nc\x7F",
+                    "'q'",
+                    "a]b",
+                    "100%",
+                    "A",
+                    std::string("nul\0x", 5)};
+    for (int i = 0; i < 300; ++i) titles.push_back(std::string(60, 't') + std::to_string(i));
+    Started("[Aircrafts]\r\n100% by %48and=Hand\r\n");
+    for (int saves = 0; saves < 2; ++saves) {
+        ProfileStore store = Started();
+        EXPECT_EQ(store.ProfileOfAircraft("100% by Hand"), "Hand");
+        titles.push_back("more" + std::to_string(saves));
+        for (size_t i = 0; i < titles.size(); ++i) store.AddAircraft(titles[i], std::to_string(i));
+        Saved(store);
+        const ProfileStore again = Started();
+        for (size_t i = 0; i < titles.size(); ++i) {
+            ASSERT_EQ(again.ProfileOfAircraft(titles[i]), std::to_string(i)) << titles[i];
+        }
+    }
+    EXPECT_EQ(machine.files.Paths().size(), 1U) << "no copy is left";
+}
+
+// The power goes at every single change of a file; the list is longer than one listing.
+TEST_F(ProfileStoreTest, SavesArriveWholeOrNotAtAll) {
+    std::string before = "[Aircrafts]\r\n";
+    for (const char* last : {"1", "2", "3"}) before += std::string(4000, 'l') + last + "=A\r\n";
+    const std::string after = before + "New=B\r\n";
+    for (const LastChange last : {LastChange::Undone, LastChange::Half}) {
+        bool whole = false;
+        for (int changes = 0; !whole; ++changes) {
+            ProfileStore store = Started(before);
+            store.AddAircraft("New", "B");
+            machine.files.CutPowerAfter(changes, last);
+            try {
+                whole = Saved(store) == after && changes > 8;
+                ASSERT_TRUE(whole);
+            } catch (const PowerCut&) {
+            }
+            machine.files.RestorePower();
+            const auto found = machine.files.Look(kPath);
+            ASSERT_TRUE(whole || found == before || found == after) << "at change " << changes;
+        }
+    }
+    for (const FileCall call : {FileCall::Copy, FileCall::Write}) {
+        machine.files.Refuse(call, 1);
+        ProfileStore store = Started(before);
+        store.AddAircraft("New", "B");
+        EXPECT_EQ(Saved(store).size(), after.size()) << "what couldn't be read at start is there";
+    }
+}
+
+struct ShakyFiles : VirtualFiles {
+    int untilRefused = 0;
+    bool Rename(const std::string& from, const std::string& to) override {
+        return --untilRefused != 0 && VirtualFiles::Rename(from, to);
+    }
+};
+
+TEST(OldConfigurationTest, BecomesTheDefaultProfileAndNothingIsLost) {
+    const Names names = {"Orvo", "Default", "Default.1", "Default.2"};
+    const std::string old = "[x]\r\n[RADIOpanel1]", now = "[MultiPanel10]";
+    const struct {
+        Names before, after;  // empty: no file
+        size_t boxes = 1;
+        int refusedRename = 0;
+        bool cancel = false;
+    } cases[] = {{{"", "b"}, {"", "b"}, 0},
+                 {{now, "b"}, {now, "b"}, 0},
+                 {{old}, {"", old}},
+                 {{"[multipanel1]"}, {"", "[multipanel1]"}},
+                 {{"[SwitchPanel1]"}, {"", "[SwitchPanel1]"}},
+                 {{old}, {old}, 1, 0, true},
+                 {{old, "b", "c"}, {"", old, "c", "b"}},
+                 {{old, "b", "c"}, {old, "b", "c"}, 1, 1},
+                 {{old, "b", "c"}, {old, "b", "c"}, 1, 2}};
+    for (const auto& [before, after, boxes, refusedRename, cancel] : cases) {
+        ShakyFiles files;
+        files.untilRefused = refusedRename;
+        VirtualIni ini(files);
+        HeadlessUi ui;
+        if (cancel) ui.Answer = [](auto&) { return MsgBoxResult::Cancel; };
+        const auto path = [&](size_t i) { return "C:\\Orvo\\" + names[i] + ".ini"; };
+        for (size_t i = 0; i < before.size(); ++i) {
+            if (!before[i].empty()) files.Put(path(i), before[i]);
+        }
+        EXPECT_NE(ConvertOldConfiguration(ini, files, ui, "C:\\Orvo"), cancel);
+        EXPECT_EQ(ui.Boxes.size(), boxes);
+        Names found;
+        for (size_t i = 0; i < after.size(); ++i) found.push_back(files.Look(path(i)).value_or(""));
+        EXPECT_EQ(found, after);
+    }
+}
+
+}  // namespace
