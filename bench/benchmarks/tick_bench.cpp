@@ -11,7 +11,7 @@ namespace {
 std::atomic<size_t> allocations = 0;
 
 constexpr int kPanels = 4;
-// Multi Panel values, the power switches and the title.
+// Multi Panel values in the standard mode, the power switches and the title.
 constexpr size_t kBytesRead = 8 * 4 + 3 * 4 + 5 * 2 + 60;
 
 void CopyOnce(benchmark::State& state) {
@@ -24,8 +24,10 @@ void CopyOnce(benchmark::State& state) {
 }
 BENCHMARK(CopyOnce);
 
-void SteadyTick(benchmark::State& state) {
+// In the mode that the profile "Default" names.
+void SteadyTick(benchmark::State& state, const std::string& mode) {
     VirtualCockpit cockpit;
+    cockpit.machine.files.Put("C:\\Orvo\\Default.ini", "[Common]\r\nSpecialMode=" + mode);
     for (int n = 1; n <= kPanels; ++n) {
         cockpit.Plug(PanelKind::Multi, n).positions = {0, 0x08, 0, 0};
     }
@@ -45,7 +47,9 @@ void SteadyTick(benchmark::State& state) {
     state.counters["allocations/tick"] =
         static_cast<double>(counted) / static_cast<double>(state.iterations());
 }
-BENCHMARK(SteadyTick)->Iterations(10000);
+BENCHMARK_CAPTURE(SteadyTick, standard, std::string("none"))->Iterations(10000);
+BENCHMARK_CAPTURE(SteadyTick, ngx, std::string("ngx"))->Iterations(10000);
+BENCHMARK_CAPTURE(SteadyTick, maddog, std::string("maddog"))->Iterations(10000);
 
 }  // namespace
 
