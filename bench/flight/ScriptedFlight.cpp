@@ -55,13 +55,13 @@ bool ScriptedFlight::OpenWindow() {
     }
     if (!ExpectProfile("Default")) return false;
     log_.Shot("1-general");
-    SelectTab(kPanelTab);
-    return true;
+    return SelectTab(kPanelTab);
 }
 
-void ScriptedFlight::SelectTab(int tab) const {
+bool ScriptedFlight::SelectTab(int tab) const {
     const HWND tabs = FindChild(cockpit_.MainWindow(), "SysTabControl32", std::nullopt);
-    log_.Check("tab " + std::to_string(tab + 1) + " is clicked", tabs && ClickTab(tabs, tab));
+    return log_.Check("tab " + std::to_string(tab + 1) + " is clicked",
+                      tabs && ClickTab(tabs, tab));
 }
 
 bool ScriptedFlight::FlyStandard() {
@@ -127,7 +127,7 @@ bool ScriptedFlight::FindSimulatorAgain() {
 
 bool ScriptedFlight::Quit() {
     log_.Say("-- the user quits");
-    SelectTab(kGeneralTab);
+    if (!SelectTab(kGeneralTab)) return false;
     log_.Shot("7-general");
     if (!log_.Check("Quit and OK end the program", cockpit_.QuitByUser())) return false;
     const auto code = cockpit_.Orvo().WaitForEnd(0);

@@ -25,7 +25,7 @@ class ScriptedFlight : private FlightChecks {
     bool FindSimulatorAgain();
     bool Quit();
 
-    void SelectTab(int tab) const;
+    bool SelectTab(int tab) const;
     // Picture of the upper display in the window, once it has come to rest.
     uint64_t UpperDisplay() const;
 

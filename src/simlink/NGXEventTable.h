@@ -1,11 +1,12 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 
 // Functions of the NGX add-on: entries 0 to 22 are the controls that run them, entries 23 to 45 the
 // offsets of their lamps in the same order, 0 for a function without a lamp.
-inline constexpr int kNGXRows = 23;
+inline constexpr size_t kNGXRows = 23;
 
 inline constexpr std::array<int32_t, 2 * kNGXRows> NGXEventTable = {
     70010,  70039,  70013,  70014,  70029,  70018,  70023,  70024,  70028,  70025,  70026,  70027,
