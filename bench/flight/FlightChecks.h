@@ -10,7 +10,7 @@
 // to be seen of it within some seconds. They give false when it isn't.
 class FlightChecks {
   public:
-    FlightChecks(Cockpit& cockpit, const FlightLog& log) : cockpit_(cockpit), log_(log) {}
+    FlightChecks(Cockpit& cockpit, FlightLog log) : cockpit_(cockpit), log_(log) {}
 
     // A command to the panel, without its name: "knob +3 60" turns multi1's knob.
     void Do(const std::string& act) const;
@@ -28,7 +28,7 @@ class FlightChecks {
 
   protected:
     Cockpit& cockpit_;
-    const FlightLog& log_;
+    const FlightLog log_;
 
   private:
     std::string WritesOf(const std::vector<std::string>& offsets) const;

@@ -30,11 +30,12 @@ bool IsOld(IniService& service, const std::string& path) {
     });
 }
 
-// The first of Default.1.ini, Default.2.ini, ... that isn't there; empty if all are.
-std::string NameToKeep(FilePort& files, const std::string& folder) {
+// Renames the file to the first of Default.1.ini, Default.2.ini, ... that is free. The new name;
+// empty if none can be had.
+std::string KeepUnderFreeName(FilePort& files, const std::string& folder, const std::string& file) {
     for (int number = 1; number <= kLastKeptName; ++number) {
         std::string path = folder + "\\Default." + FormatInteger(number) + ".ini";
-        if (!files.Exists(path)) return path;
+        if (!files.Exists(path) && files.Rename(file, path)) return path;
     }
     return {};
 }
@@ -46,9 +47,8 @@ void Convert(FilePort& files, const std::string& folder) {
         files.Rename(old, profile);
         return;
     }
-    const std::string kept = NameToKeep(files, folder);
-    if (kept.empty() || !files.Rename(profile, kept)) return;
-    if (!files.Rename(old, profile)) files.Rename(kept, profile);
+    const std::string kept = KeepUnderFreeName(files, folder, profile);
+    if (!kept.empty() && !files.Rename(old, profile)) files.Rename(kept, profile);
 }
 
 }  // namespace

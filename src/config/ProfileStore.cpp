@@ -10,15 +10,26 @@
 namespace {
 
 constexpr const char* kProfiles = "Profiles";
+constexpr const char* kNoValue = " ";  // a profile's key says all
 constexpr const char* kAircrafts = "Aircrafts";
 
-// From this length on, a listing of keys may have been cut.
-constexpr size_t kFullListing = 8190;
+constexpr const char* kGlobalFile = "Orvo";  // the file with the lists
 
 constexpr int kMostSections = 100;
 
-// Appends what `ini` lists of its section; true if there may be more than it could list.
-bool ReadListing(cInifile& ini, std::vector<std::pair<std::string, std::string>>& entries) {
+// Names whose files are no profiles: that of the lists, and those that the system keeps for
+// devices.
+bool IsReserved(std::string_view name) {
+    for (const char* reserved : {kGlobalFile, "CON", "PRN", "AUX", "NUL"}) {
+        if (EqualNoCase(name, reserved)) return true;
+    }
+    const std::string_view kind = name.substr(0, 3);
+    return name.size() == 4 && name[3] >= '1' && name[3] <= '9' &&
+           (EqualNoCase(kind, "COM") || EqualNoCase(kind, "LPT"));
+}
+
+// Appends what one listing of the section shows.
+void ReadListing(cInifile& ini, IniEntries& entries) {
     std::vector<std::string> keys;
     int32_t count = 0;
     ini.EnumerateCurrentSection(keys, count);
@@ -26,10 +37,9 @@ bool ReadListing(cInifile& ini, std::vector<std::pair<std::string, std::string>>
         ini.Key = key;
         entries.emplace_back(key, ini.Value());
     }
-    return count > 0 && ini.INISection().size() >= kFullListing;
 }
 
-bool DeleteKeys(cInifile& ini, std::span<const std::pair<std::string, std::string>> entries) {
+bool DeleteKeys(cInifile& ini, std::span<const IniEntries::value_type> entries) {
     return std::ranges::all_of(entries, [&ini](const auto& entry) {
         ini.Key = entry.first;
         ini.DeleteKey();
@@ -43,7 +53,7 @@ ProfileStore::ProfileStore(IniService& ini, FilePort& files, std::string program
     : ini_(ini),
       files_(files),
       programFolder_(std::move(programFolder)),
-      path_(programFolder_ + "\\Orvo.ini") {}
+      path_(programFolder_ + '\\' + kGlobalFile + ".ini") {}
 
 void ProfileStore::LoadProfileList() {
     profileNames_.assign(1, kDefault);
@@ -57,39 +67,41 @@ void ProfileStore::LoadAircraftList() {
 
 // Adds what isn't known yet, before "Default".
 bool ProfileStore::ReadProfileList() {
-    Entries entries;
+    IniEntries entries;
     const bool whole = ReadSection(kProfiles, entries);
+    profilesInFile_.clear();
     for (const auto& [name, value] : entries) {
         if (ProfileNameFree(name)) profileNames_.insert(profileNames_.end() - 1, name);
+        profilesInFile_.emplace_back(name, kNoValue);
     }
     return whole;
 }
 
 bool ProfileStore::ReadAircraftList() {
-    Entries entries;
-    const bool whole = ReadSection(kAircrafts, entries);
-    for (const auto& [key, profile] : entries) AddAircraft(FromIniKey(key), profile);
+    aircraftsInFile_.clear();
+    const bool whole = ReadSection(kAircrafts, aircraftsInFile_);
+    for (const auto& [key, profile] : aircraftsInFile_) AddAircraft(FromIniKey(key), profile);
     return whole;
 }
 
 void ProfileStore::SaveProfileList() {
     if (!profilesWhole_) profilesWhole_ = ReadProfileList();
     if (!profilesWhole_) return;
-    Entries entries;
+    IniEntries entries;
     for (const std::string& name : profileNames_) {
-        if (name != kDefault) entries.emplace_back(name, " ");
+        if (name != kDefault) entries.emplace_back(name, kNoValue);
     }
-    RewriteSection(kProfiles, entries);
+    RewriteSection(kProfiles, std::move(entries), profilesInFile_);
 }
 
 void ProfileStore::SaveAircraftList() {
     if (!aircraftsWhole_) aircraftsWhole_ = ReadAircraftList();
     if (!aircraftsWhole_) return;
-    Entries entries;
+    IniEntries entries;
     for (const Aircraft& each : aircrafts_) {
         entries.emplace_back(ToIniKey(each.title), each.profile);
     }
-    RewriteSection(kAircrafts, entries);
+    RewriteSection(kAircrafts, std::move(entries), aircraftsInFile_);
 }
 
 const ProfileStore::Aircraft* ProfileStore::Find(std::string_view title) const {
@@ -108,6 +120,10 @@ std::string ProfileStore::ProfileOfAircraft(std::string_view title) const {
 void ProfileStore::AddAircraft(std::string_view title, std::string_view profile) {
     if (title.empty() || AircraftKnown(title)) return;
     aircrafts_.push_back({std::string(title), std::string(profile)});
+}
+
+bool ProfileStore::ProfileNameFree(std::string_view name) const {
+    return ProfileIndex(name) == -1 && !IsReserved(name);
 }
 
 int32_t ProfileStore::ProfileIndex(std::string_view name) const {
@@ -134,31 +150,33 @@ void ProfileStore::SaveProfile(const std::function<bool(cInifile&)>& write) {
     SaveIni(ini_, files_, ProfilePath(), write);
 }
 
-// One listing holds only so many keys. Where there are more, those seen are taken out of a copy, so
-// that the next listing shows others.
-bool ProfileStore::ReadSection(const char* section, Entries& entries) const {
+// Reads from a copy: one that could be made is whole, while the file itself may be held by another
+// program at this moment. One listing holds only so many keys; where there are more, those seen are
+// taken out of the copy, so that the next listing shows others.
+bool ProfileStore::ReadSection(const char* section, IniEntries& entries) const {
+    if (!files_.Exists(path_)) return true;
     const std::string copy = path_ + ".new";
+    const bool copied = files_.Copy(path_, copy);
     cInifile ini(ini_);
-    ini.Path = path_;
+    ini.Path = copied ? copy : path_;
     ini.Section = section;
-    bool whole = true;
-    for (size_t seen = 0; whole && ReadListing(ini, entries); seen = entries.size()) {
-        whole = ini.Path == copy || files_.Copy(path_, copy);
-        ini.Path = copy;
-        whole = whole && DeleteKeys(ini, std::span(entries).subspan(seen));
+    bool whole = copied;
+    for (bool more = true; more;) {
+        const size_t seen = entries.size();
+        ReadListing(ini, entries);
+        more = !ini.ListsAllKeys();
+        const auto shown = std::span(entries).subspan(seen);
+        if (!more || (!shown.empty() && copied && DeleteKeys(ini, shown))) continue;
+        whole = more = false;
     }
-    if (ini.Path == copy) files_.Delete(copy);
+    if (copied) files_.Delete(copy);
     return whole;
 }
 
-// Leaves a file alone that says all this already.
-void ProfileStore::RewriteSection(const char* section, const Entries& entries) {
-    const auto same = [](const Entries::value_type& a, const Entries::value_type& b) {
-        return a.first == b.first && Trim(a.second) == Trim(b.second);
-    };
-    Entries there;
-    if (ReadSection(section, there) && std::ranges::equal(there, entries, same)) return;
-    SaveIni(ini_, files_, path_, [&](cInifile& ini) {
+// `inFile` is what the file says as far as we know; it is left alone when that is all.
+void ProfileStore::RewriteSection(const char* section, IniEntries entries, IniEntries& inFile) {
+    if (entries == inFile) return;
+    const bool saved = SaveIni(ini_, files_, path_, [&](cInifile& ini) {
         ini.Section = section;
         // Where a hand wrote the section twice, the second one comes to light when the first goes.
         for (int left = kMostSections; left > 0 && !ini.INISection().empty(); --left) {
@@ -171,4 +189,5 @@ void ProfileStore::RewriteSection(const char* section, const Entries& entries) {
             return ini.Success();
         });
     });
+    if (saved) inFile = std::move(entries);
 }

@@ -40,7 +40,9 @@ class ProfileStore {
     // Whether a text has only what may stand in a profile's name, letters A to Z and digits. An
     // empty one has.
     static bool ProfileNameValid(std::string_view text);
-    bool ProfileNameFree(std::string_view name) const { return ProfileIndex(name) == -1; }
+    // Whether a new profile may have this name. "Orvo", whose file has the lists, and the names of
+    // the system's devices are never free.
+    bool ProfileNameFree(std::string_view name) const;
 
     // A section of the current profile's file, for reading.
     cInifile OpenProfile(std::string section) const;
@@ -51,8 +53,6 @@ class ProfileStore {
     static constexpr const char* kDefault = "Default";
 
   private:
-    using Entries = std::vector<std::pair<std::string, std::string>>;  // keys and values
-
     struct Aircraft {
         std::string title;
         std::string profile;
@@ -63,8 +63,8 @@ class ProfileStore {
     bool ReadProfileList();
     bool ReadAircraftList();
     // False when some entries may be missing.
-    bool ReadSection(const char* section, Entries& entries) const;
-    void RewriteSection(const char* section, const Entries& entries);
+    bool ReadSection(const char* section, IniEntries& entries) const;
+    void RewriteSection(const char* section, IniEntries entries, IniEntries& inFile);
 
     IniService& ini_;
     FilePort& files_;
@@ -72,6 +72,9 @@ class ProfileStore {
     const std::string path_;
     std::vector<std::string> profileNames_{kDefault};
     std::vector<Aircraft> aircrafts_;
-    bool profilesWhole_ = true;  // nothing of the file's list is missing in memory
+    // The lists as the file has them, and whether all of them is in memory.
+    IniEntries profilesInFile_;
+    IniEntries aircraftsInFile_;
+    bool profilesWhole_ = true;
     bool aircraftsWhole_ = true;
 };

@@ -4,6 +4,8 @@
 
 namespace {
 
+constexpr size_t kListing = 8192;  // characters, two of them behind the last name
+
 void CutAtNuls(std::string_view names, std::vector<std::string>& list) {
     for (size_t end; (end = names.find('\0')) != std::string_view::npos;) {
         if (end > 0) list.emplace_back(names.substr(0, end));
@@ -40,11 +42,13 @@ std::string cInifile::INISection() const { return Names(Section); }
 std::string cInifile::Sections() const { return Names(std::nullopt); }
 
 std::string cInifile::Names(const std::optional<std::string>& section) const {
-    std::array<char, 8192> buffer;
+    std::array<char, kListing> buffer;
     const uint32_t length =
         service_.GetPrivateProfileStringA(section, std::nullopt, {}, buffer, Path);
     return {buffer.data(), length};
 }
+
+bool cInifile::ListsAllKeys() const { return INISection().size() < kListing - 2; }
 
 void cInifile::EnumerateCurrentSection(std::vector<std::string>& sKey, int32_t& iCount) const {
     sKey.clear();

@@ -1,5 +1,6 @@
 #include "core/AircraftBinding.h"
 
+#include <algorithm>
 #include <utility>
 #include <vector>
 
@@ -27,19 +28,30 @@ bool AircraftBinding::BindAircraft(std::string title) {
     binding_ = true;
     ReadGear();
     currentAircraft_ = std::move(title);
-    const std::string aircraft = currentAircraft_;
-    ProfileStore& profiles = parts_.profiles;
-    if (profiles.AircraftKnown(aircraft)) {
-        profiles.CurrentProfile = profiles.ProfileOfAircraft(aircraft);
-    } else {
-        profiles.CurrentProfile = ProfileForNew(aircraft);
-        profiles.AddAircraft(aircraft, profiles.CurrentProfile);
-        FillProfileCombo();
+    if (SettleProfile()) {
+        SelectCurrentProfile();
+        parts_.profiles.SaveAircraftList();
+        parts_.profiles.SaveProfileList();
     }
-    SelectCurrentProfile();
-    profiles.SaveAircraftList();
-    profiles.SaveProfileList();
     binding_ = false;
+    return true;
+}
+
+bool AircraftBinding::SettleProfile() {
+    ProfileStore& profiles = parts_.profiles;
+    if (profiles.AircraftKnown(currentAircraft_)) {
+        profiles.CurrentProfile = profiles.ProfileOfAircraft(currentAircraft_);
+        return true;
+    }
+    const std::string profile = ProfileForNew(currentAircraft_);
+    if (profile.empty() && !parts_.session.FSConnected) {
+        // Nobody has chosen: the question ended with the session. The next one asks again.
+        currentAircraft_.clear();
+        return false;
+    }
+    profiles.CurrentProfile = profile;
+    profiles.AddAircraft(currentAircraft_, profile);
+    FillProfileCombo();
     return true;
 }
 
@@ -51,11 +63,8 @@ void AircraftBinding::ReadGear() {
 
 std::string AircraftBinding::ProfileForNew(const std::string& title) {
     if (!parts_.generalSetup.ManualProfile || !AskForProfile) return ProfileStore::kDefault;
-    // A configuration window may be open already.
-    const bool open = std::exchange(parts_.windows.ModalWindowOpen, true);
-    std::string chosen = AskForProfile(title);
-    parts_.windows.ModalWindowOpen = open;
-    return chosen;
+    const ModalWindow open(parts_.windows);
+    return AskForProfile(title);
 }
 
 void AircraftBinding::FillProfileCombo() {
@@ -64,8 +73,12 @@ void AircraftBinding::FillProfileCombo() {
 }
 
 void AircraftBinding::SelectCurrentProfile() {
-    const int32_t place = parts_.profiles.ProfileIndex(parts_.profiles.CurrentProfile);
-    if (place > 0) parts_.cmbProfiles.SetListIndex(place - 1);
+    const auto& names = parts_.cmbProfiles.Items();
+    const auto found = std::ranges::find_if(names, [this](const std::string& name) {
+        return EqualNoCase(name, parts_.profiles.CurrentProfile);
+    });
+    if (found == names.end()) return;
+    parts_.cmbProfiles.SetListIndex(static_cast<int32_t>(found - names.begin()));
 }
 
 void AircraftBinding::ApplyProfile() {
@@ -76,6 +89,7 @@ void AircraftBinding::ApplyProfile() {
     });
 }
 
+// The key's name counts with its case.
 void AircraftBinding::ReadSpecialMode() {
     parts_.session.SpecialMode = kStandardMode;
     cInifile ini = parts_.profiles.OpenProfile("Common");

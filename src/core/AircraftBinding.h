@@ -43,6 +43,8 @@ class AircraftBinding {
 
   private:
     void ReadGear();
+    // False when the aircraft is to be left without one.
+    bool SettleProfile();
     std::string ProfileForNew(const std::string& title);
     void SelectCurrentProfile();
     void ApplyProfile();

@@ -23,8 +23,8 @@ bool ConnectPanel(frmMain& window, const MainServices& services, const PanelIden
     return true;
 }
 
-void StartLogics(frmMain& window, PanelKind kind) {
-    for (const auto& unit : window.Panels[kind]) StartLogic(*unit, window.ServicesOfLogics());
+void StartLogics(frmMain& window, const MainServices& services, PanelKind kind) {
+    for (const auto& unit : window.Panels[kind]) StartLogic(*unit, services.ForLogics());
 }
 
 }  // namespace
@@ -51,7 +51,7 @@ Discovery DiscoverPanels(frmMain& window, const MainServices& services) {
             // A panel's show lets messages run.
             if (window.IsUnloaded()) return Discovery::EndProcess;
         }
-        StartLogics(window, identity.kind);
+        StartLogics(window, services, identity.kind);
     }
     if (window.IsUnloaded()) return Discovery::EndProcess;
     if (found) return Discovery::Found;
@@ -60,10 +60,10 @@ Discovery DiscoverPanels(frmMain& window, const MainServices& services) {
     return Discovery::Stop;
 }
 
-void SetUpUnconnectedPanels(frmMain& window) {
+void SetUpUnconnectedPanels(frmMain& window, const MainServices& services) {
     int32_t tab = 1;
     for (const PanelIdentity& identity : kPanelIdentities) {
         window.AddPanel(identity.kind, ++tab);
-        StartLogics(window, identity.kind);
+        StartLogics(window, services, identity.kind);
     }
 }

@@ -13,4 +13,4 @@ enum class Discovery {
 Discovery DiscoverPanels(frmMain& window, const MainServices& services);
 
 // One panel of each kind without a device.
-void SetUpUnconnectedPanels(frmMain& window);
+void SetUpUnconnectedPanels(frmMain& window, const MainServices& services);

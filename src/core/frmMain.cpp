@@ -8,8 +8,6 @@
 
 namespace {
 
-constexpr uint32_t kWaitingIntervalMs = 1000;
-
 const MsgBoxRequest kQuitRequest = {"           Are you sure ?\nQuitting will stop the panels.",
                                     " ORVO - Quit request", MsgBoxIcon::Question,
                                     MsgBoxButtons::OkCancel};
@@ -117,10 +115,6 @@ PanelUnit& frmMain::AddPanel(PanelKind kind, int32_t tab) {
     return unit;
 }
 
-LogicServices frmMain::ServicesOfLogics() const {
-    return {services_.session, services_.profiles, services_.platform.clock};
-}
-
 void frmMain::ArmTimer() {
     picMain.Left = 0;
     picMain.Top = 0;
@@ -183,9 +177,8 @@ void frmMain::ServeSetupRequest(PanelUnit& unit) {
     if (IsUnloaded()) return;
     services_.windows.SetupPanelIndex = unit.number;
     if (const auto& open = SetupWindows[static_cast<size_t>(unit.kind)]) {
-        services_.windows.ModalWindowOpen = true;
+        const ModalWindow modal(services_.windows);
         open();
-        services_.windows.ModalWindowOpen = false;
     }
     if (!unit.logic) return;
     unit.logic->LoadSetup();

@@ -35,6 +35,8 @@ struct MainServices {
     ProfileStore& profiles;
     WindowState& windows;
     const std::vector<ScreenRect>& monitorRects;
+
+    LogicServices ForLogics() const { return {session, profiles, platform.clock}; }
 };
 
 // The program's one permanent window, hidden until the user double-clicks its icon in the
@@ -52,9 +54,6 @@ class frmMain : public Form {
 
     // Puts the first page in place and starts the search for the simulator.
     void ArmTimer();
-
-    // What the logics of its panels work with.
-    LogicServices ServicesOfLogics() const;
 
     PanelLists Panels;
 
@@ -78,6 +77,8 @@ class frmMain : public Form {
     AircraftBinding Binding;
 
   private:
+    static constexpr uint32_t kWaitingIntervalMs = 1000;  // of the search for the simulator
+
     void PlaceControls();
     void ShowDisconnected();
     void SelectPage();
@@ -92,7 +93,8 @@ class frmMain : public Form {
     void TryToConnect();
     void ShowVersions();
     void Poll();
-    bool TakeAircraft();
+    bool BindDetectedAircraft();
+    void ShowAircraft();
     void LoseSession();
 
     const MainServices services_;

@@ -4,7 +4,6 @@
 
 namespace {
 
-constexpr uint32_t kWaitingIntervalMs = 1000;
 constexpr uint32_t kConnectedIntervalMs = 10;
 constexpr int32_t kTitleLength = 60;
 
@@ -63,22 +62,25 @@ void frmMain::Poll() {
         LoseSession();
         return;
     }
-    // What the logics of another profile have registered is read by the next tick; and binding may
-    // have let messages run.
-    if (TakeAircraft()) return;
+    detectedAircraft_ = aircraftTitle_.Text();
+    const bool bound = BindDetectedAircraft();
+    if (!session.FSConnected) return;  // binding may let messages run
+    ShowAircraft();
+    // What the logics of another profile have registered is read by the next tick.
+    if (bound) return;
     Panels.ForEachLogic([](cPanelLogic& logic) { logic.RefreshData(); });
 }
 
-// True when an aircraft has been bound.
-bool frmMain::TakeAircraft() {
-    detectedAircraft_ = aircraftTitle_.Text();
-    const bool other = !detectedAircraft_.empty() && detectedAircraft_ != Binding.CurrentAircraft();
-    const bool bound = other && Binding.BindAircraft(detectedAircraft_);
-    if (bound && !services_.session.FSConnected) return true;
-    if (detectedAircraft_ == shownAircraft_) return bound;
+// An empty title, as while a flight loads, is no aircraft.
+bool frmMain::BindDetectedAircraft() {
+    if (detectedAircraft_.empty() || detectedAircraft_ == Binding.CurrentAircraft()) return false;
+    return Binding.BindAircraft(detectedAircraft_);
+}
+
+void frmMain::ShowAircraft() {
+    if (detectedAircraft_ == shownAircraft_) return;
     shownAircraft_ = detectedAircraft_;
     Aircraft.Text = "Aircraft in use: " + detectedAircraft_;
-    return bound;
 }
 
 void frmMain::LoseSession() {

@@ -43,7 +43,7 @@ bool modMain::Main() {
         case Discovery::NoneGoOn:
             window_->ArmTimer();
             if (window_->IsUnloaded()) return false;
-            if (discovery == Discovery::NoneGoOn) SetUpUnconnectedPanels(*window_);
+            if (discovery == Discovery::NoneGoOn) SetUpUnconnectedPanels(*window_, services);
             return true;
     }
     return false;

@@ -18,22 +18,32 @@ struct Qualifier {
 };
 constexpr Qualifier kQualifiers[] = {{1, 16}, {2, 17}, {4, 9}};  // SHIFT, CTRL, TAB
 
+bool IsVirtualButton(uint8_t joystick, uint8_t button) {
+    return joystick >= kFirstJoystick && joystick <= kLastJoystick && button >= 1 &&
+           button <= kButtonsOfJoystick;
+}
+
 }  // namespace
 
 void EventOutput::SetVirtualButton(uint8_t VJoystick, uint8_t VButton, bool State, bool Process) {
-    if (VJoystick < kFirstJoystick || VJoystick > kLastJoystick) return;
-    if (VButton < 1 || VButton > kButtonsOfJoystick) return;
-    const int32_t offset = kVirtualButtons + (VJoystick - kFirstJoystick) * 4;
+    if (!IsVirtualButton(VJoystick, VButton)) return;
+    ChangeButton(VJoystick, VButton, State);
+    int32_t result = 0;
+    if (Process) fsuipc_.FSUIPC_Process(result);
+}
+
+bool EventOutput::ChangeButton(uint8_t joystick, uint8_t button, bool state) {
+    const int32_t offset = kVirtualButtons + (joystick - kFirstJoystick) * 4;
     std::array<uint8_t, 4> buttons{};
     const auto count = static_cast<int32_t>(buttons.size());
     int32_t result = 0;
     fsuipc_.FSUIPC_Read(offset, count, buttons.data(), result);
-    fsuipc_.FSUIPC_Process(result);
-    const uint32_t bit = 1U << (VButton - 1);
+    const bool answered = fsuipc_.FSUIPC_Process(result);
+    const uint32_t bit = 1U << (button - 1);
     const uint32_t before = LoadLE32(buttons.data());
-    StoreLE32(buttons.data(), State ? before | bit : before & ~bit);
+    StoreLE32(buttons.data(), state ? before | bit : before & ~bit);
     fsuipc_.FSUIPC_Write(offset, count, buttons.data(), result);
-    if (Process) fsuipc_.FSUIPC_Process(result);
+    return answered;
 }
 
 void EventOutput::SendKeyStroke(uint8_t KeyCode, uint8_t KeyQualifiers) {
@@ -60,13 +70,19 @@ void EventOutput::SendControl(int32_t Control, int32_t Parameter) {
 
 void EventOutput::SendAction(ActionRecord record, int times) {
     for (int i = 0; i < times; ++i) {
-        if (record.FSEvent == ActionKind::VButton) {
-            for (const bool down : {true, false}) {
-                SetVirtualButton(record.VJoystickOrKeyCode, record.VButtonOrKeyQualifiers, down,
-                                 false);
-            }
-        } else if (record.FSEvent == ActionKind::VKey) {
-            SendKeyStroke(record.VJoystickOrKeyCode, record.VButtonOrKeyQualifiers);
-        }
+        const bool lost = i > 0 && !connected_;
+        if (lost || !SendOnce(record)) return;
     }
+}
+
+bool EventOutput::SendOnce(const ActionRecord& record) {
+    const uint8_t first = record.VJoystickOrKeyCode;
+    const uint8_t second = record.VButtonOrKeyQualifiers;
+    if (record.FSEvent == ActionKind::VButton) {
+        return IsVirtualButton(first, second) && ChangeButton(first, second, true) &&
+               ChangeButton(first, second, false);
+    }
+    if (record.FSEvent != ActionKind::VKey) return false;
+    SendKeyStroke(first, second);
+    return true;
 }

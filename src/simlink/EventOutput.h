@@ -10,8 +10,9 @@
 // The ways in which what the user does reaches the simulator, apart from writes of offsets.
 class EventOutput {
   public:
-    EventOutput(modFSUIPC& fsuipc, KeyboardPort& keyboard, MessageLoop& loop)
-        : fsuipc_(fsuipc), keyboard_(keyboard), loop_(loop) {}
+    // `connected` says at any time whether a session is up.
+    EventOutput(modFSUIPC& fsuipc, KeyboardPort& keyboard, MessageLoop& loop, const bool& connected)
+        : fsuipc_(fsuipc), keyboard_(keyboard), loop_(loop), connected_(connected) {}
 
     // Presses (State) or releases one virtual button. The change goes out with the next exchange,
     // or with Process at once; what waited before it has been sent by then, so that a press and a
@@ -27,12 +28,18 @@ class EventOutput {
     // the order of their calls.
     void SendControl(int32_t Control, int32_t Parameter);
 
-    // Does `times` times what a VButton record (press and release) or a VKey record says. Nothing
-    // for other records. The record is a copy: its holder may be loaded anew on the way.
+    // Does `times` times what a VButton record (press and release) or a VKey record says, as long
+    // as the simulator answers and the session lasts. Nothing for other records. The record is a
+    // copy: its holder may be loaded anew on the way.
     void SendAction(ActionRecord record, int times = 1);
 
   private:
+    // False when the simulator hasn't answered. Only for numbers that a virtual button has.
+    bool ChangeButton(uint8_t joystick, uint8_t button, bool state);
+    bool SendOnce(const ActionRecord& record);
+
     modFSUIPC& fsuipc_;
     KeyboardPort& keyboard_;
     MessageLoop& loop_;
+    const bool& connected_;
 };

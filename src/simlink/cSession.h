@@ -15,12 +15,14 @@ inline constexpr uint8_t kNGXMode = 2;
 // panels' logics go on with the same offsets when the simulator comes back.
 struct cSession {
     cSession(IpcChannel& channel, Clock& clock, KeyboardPort& keyboard, MessageLoop& loop)
-        : Fsuipc(channel, clock), OffsetTable(Fsuipc), Output(Fsuipc, keyboard, loop) {}
+        : Fsuipc(channel, clock),
+          OffsetTable(Fsuipc),
+          Output(Fsuipc, keyboard, loop, FSConnected) {}
 
     modFSUIPC Fsuipc;
     cOffsetTable OffsetTable;
-    EventOutput Output;
     bool FSConnected = false;
+    EventOutput Output;
     uint8_t FSVersion = 0;  // the simulator's number
     uint8_t SpecialMode = kStandardMode;
     uint8_t EngineSelected = 1;

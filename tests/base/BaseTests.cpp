@@ -59,6 +59,7 @@ TEST(TextTest, ComparesWithoutCaseInWindows1252) {
 TEST(EventTest, ListenersMayComeAndGoWhileItIsRaised) {
     Event<int> event;
     std::vector<int> calls;
+    ScopedConnection{event.Connect([&](int) { calls.push_back(99); })};
     Connection second;
     const Connection first = event.Connect([&](int n) {
         calls.push_back(n);
@@ -81,17 +82,6 @@ TEST(EventTest, OwnerMayEndWhileItIsRaised) {
     });
     event->Connect([&] { ++calls; });
     event->Raise();
-    EXPECT_EQ(calls, 1);
-}
-
-TEST(EventTest, ScopedConnectionEndsWithItsOwner) {
-    Event<> event;
-    int calls = 0;
-    {
-        const ScopedConnection scoped = event.Connect([&] { ++calls; });
-        event.Raise();
-    }
-    event.Raise();
     EXPECT_EQ(calls, 1);
 }
 

@@ -52,22 +52,10 @@ TEST_F(ProfileStoreTest, ListsKeepTheirOrderAndTheRestOfTheFile) {
 }
 
 TEST_F(ProfileStoreTest, AnyTitleAndAnyNumberOfThemComeBack) {
-    Names titles = {"a=b",
-                    "[Baron] 58",
-                    "[",
-                    ";x",
-                    "  two  ",
-                    " ",
-                    "%",
-                    "\xA0x\xA0",
-                    "%41",
-                    "%G1",
-                    "a\tb\x1A\r\nc\x7F",
-                    "'q'",
-                    "a]b",
-                    "100%",
-                    "A",
-                    std::string("nul\0x", 5)};
+    Names titles = {"a=b", "[Baron] 58", "[",   ";x",  "  two  ",           " ",
+                    "%",   "\xA0x\xA0",  "%41", "%G1", "a\tb\x1A\r\nc\x7F", "'q'",
+                    "a]b", "100%",       "A"};
+    titles.push_back(std::string("nul\0x", 5));
     for (int i = 0; i < 300; ++i) titles.push_back(std::string(60, 't') + std::to_string(i));
     Started("[Aircrafts]\r\n100% by %48and=Hand\r\n");
     for (int saves = 0; saves < 2; ++saves) {
@@ -96,7 +84,7 @@ TEST_F(ProfileStoreTest, SavesArriveWholeOrNotAtAll) {
             store.AddAircraft("New", "B");
             machine.files.CutPowerAfter(changes, last);
             try {
-                whole = Saved(store) == after && changes > 8;
+                whole = Saved(store) == after && changes > 4;
                 ASSERT_TRUE(whole);
             } catch (const PowerCut&) {
             }
@@ -121,7 +109,7 @@ struct ShakyFiles : VirtualFiles {
 };
 
 TEST(OldConfigurationTest, BecomesTheDefaultProfileAndNothingIsLost) {
-    const Names names = {"Orvo", "Default", "Default.1", "Default.2"};
+    const Names names = {"Orvo", "Default", "Default.1", "Default.2", "Default.3"};
     const std::string old = "[x]\r\n[RADIOpanel1]", now = "[MultiPanel10]";
     const struct {
         Names before, after;  // empty: no file
@@ -135,7 +123,7 @@ TEST(OldConfigurationTest, BecomesTheDefaultProfileAndNothingIsLost) {
                  {{"[SwitchPanel1]"}, {"", "[SwitchPanel1]"}},
                  {{old}, {old}, 1, 0, true},
                  {{old, "b", "c"}, {"", old, "c", "b"}},
-                 {{old, "b", "c"}, {old, "b", "c"}, 1, 1},
+                 {{old, "b", "c"}, {"", old, "c", "", "b"}, 1, 1},
                  {{old, "b", "c"}, {old, "b", "c"}, 1, 2}};
     for (const auto& [before, after, boxes, refusedRename, cancel] : cases) {
         ShakyFiles files;

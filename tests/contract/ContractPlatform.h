@@ -18,7 +18,7 @@ class ContractPlatform {
     // Path of a file in a folder of this object's own, which is empty at first.
     std::string Path(const std::string& name) const;
     // Path of a file that the system lets nobody write.
-    std::string UnwritablePath() const;
+    std::string UnwritablePath() const { return Path("missing\\file.ini"); }
 
     // Files past the ports.
     void Put(const std::string& path, const std::string& content);

@@ -13,8 +13,6 @@ Platform ContractPlatform::Ports() { return machine_->Ports(); }
 
 std::string ContractPlatform::Path(const std::string& name) const { return "C:\\Orvo\\" + name; }
 
-std::string ContractPlatform::UnwritablePath() const { return Path("missing\\file.ini"); }
-
 void ContractPlatform::Put(const std::string& path, const std::string& content) {
     machine_->files.Put(path, content);
 }

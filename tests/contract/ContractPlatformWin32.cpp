@@ -30,8 +30,6 @@ std::string ContractPlatform::Path(const std::string& name) const {
     return (machine_->folder / name).string();
 }
 
-std::string ContractPlatform::UnwritablePath() const { return Path("missing\\file.ini"); }
-
 void ContractPlatform::Put(const std::string& path, const std::string& content) {
     std::ofstream(path, std::ios::binary) << content;
 }

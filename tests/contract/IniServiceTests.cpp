@@ -108,11 +108,14 @@ TEST_F(IniServiceContract, ListsNamesInTheOrderOfTheFile) {
     EXPECT_EQ(List("none"), Names{});
 }
 
-TEST_F(IniServiceContract, MissingFileCountsAsEmpty) {
-    EXPECT_EQ(Read("A", "x", "fallback"), "fallback");
+TEST_F(IniServiceContract, MissingFileCountsAsEmptyAndARefusedOneStaysMissing) {
     EXPECT_EQ(Read("A", "x", "fallback  "), "fallback") << "blanks at its end are taken off";
     EXPECT_EQ(List(std::nullopt), Names{});
     EXPECT_EQ(List("A"), Names{});
+    path = machine.UnwritablePath();
+    EXPECT_FALSE(Write("A", "x", "1"));
+    EXPECT_EQ(machine.Look(path), std::nullopt);
+    EXPECT_EQ(Read("A", "x", "fallback"), "fallback");
 }
 
 TEST_F(IniServiceContract, CutsValuesToTheBuffer) {
@@ -198,13 +201,6 @@ TEST_F(IniServiceContract, RoundTripsWhatAValueCanHold) {
     }
     EXPECT_TRUE(Write("A", "x", "\"quoted\""));
     EXPECT_EQ(Read("A", "x"), "quoted");
-}
-
-TEST_F(IniServiceContract, WriteToARefusedFileFails) {
-    path = machine.UnwritablePath();
-    EXPECT_FALSE(Write("A", "x", "1"));
-    EXPECT_EQ(machine.Look(path), std::nullopt);
-    EXPECT_EQ(Read("A", "x", "fallback"), "fallback");
 }
 
 TEST_F(IniServiceContract, SurvivesHostileContent) {

@@ -55,8 +55,7 @@ TEST_F(MessageLoopContract, PassWithinAPassTakesTheRest) {
 
 TEST_F(MessageLoopContract, AnotherThreadMayPost) {
     std::thread([this] {
-        loop.Post(Note(1));
-        loop.Post(Note(2));
+        for (const int what : {1, 2}) loop.Post(Note(what));
     }).join();
     loop.RunUntil([this] { return seen.size() == 2; });
     EXPECT_EQ(seen, (std::vector{1, 2}));
@@ -74,23 +73,16 @@ TEST_F(MessageLoopContract, TimerKeepsItsInterval) {
     loop.StopTimer(timer);
 }
 
-TEST_F(MessageLoopContract, LateTicksDontPileUp) {
-    const auto timer = loop.StartTimer(10, Note(1));
-    clock.Sleep(100);
-    loop.RunPending();
+TEST_F(MessageLoopContract, LateTicksDontPileUpAndAStoppedTimersTickIsDropped) {
+    const auto timer = loop.StartTimer(100, Note(1));
+    clock.Sleep(350);
+    for (int pass = 0; pass < 2; ++pass) loop.RunPending();
     EXPECT_EQ(seen.size(), 1u);
     loop.RunUntil([this] { return seen.size() == 2; });
-    loop.StopTimer(timer);
-}
-
-TEST_F(MessageLoopContract, StoppedTimerDoesntTickEvenIfItsTickWaits) {
-    const auto timer = loop.StartTimer(10, Note(1));
-    clock.Sleep(50);
-    loop.StopTimer(timer);
-    loop.StopTimer(timer);
-    loop.StopTimer(0);
+    clock.Sleep(150);
+    for (const auto id : {timer, timer, MessageLoop::TimerId{0}}) loop.StopTimer(id);
     loop.RunPending();
-    EXPECT_TRUE(seen.empty());
+    EXPECT_EQ(seen.size(), 2u);
 }
 
 TEST_F(MessageLoopContract, TicksMayStopAndStartTimers) {

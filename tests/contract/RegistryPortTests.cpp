@@ -24,20 +24,16 @@ TEST_F(RegistryPortContract, WritesReadsAndDeletesValues) {
     EXPECT_EQ(Read("first"), std::nullopt);
     EXPECT_FALSE(registry.DeleteValue(kCurrentUser, key, "first"));
 
-    const std::string longText(1000, 'x');
-    EXPECT_TRUE(Write("first", "\"C:\\Orvo\\Orvo.exe\" /auto"));
-    EXPECT_TRUE(Write("second", longText));
-    EXPECT_TRUE(Write("empty", ""));
-    EXPECT_EQ(Read("FIRST"), "\"C:\\Orvo\\Orvo.exe\" /auto");
-    EXPECT_EQ(Read("second"), longText);
-    EXPECT_EQ(Read("empty"), "");
-    EXPECT_TRUE(Write("first", "\xC4\xE4"));
-    EXPECT_EQ(Read("first"), "\xC4\xE4");
-
+    const std::string texts[] = {std::string(1000, 'x'), "", "\"\xC4\\\xE4.exe\" /auto"};
+    for (const std::string& text : texts) {
+        EXPECT_TRUE(Write("first", text));
+        EXPECT_TRUE(Write("second", "2"));
+        EXPECT_EQ(Read("FIRST"), text);
+        EXPECT_EQ(Read("second"), "2");
+    }
     EXPECT_TRUE(Write("first", "abcd", kBinary));
     EXPECT_EQ(Read("first"), std::nullopt) << "only strings are read";
-
-    for (const char* name : {"first", "second", "empty"}) {
+    for (const char* name : {"first", "second"}) {
         EXPECT_TRUE(registry.DeleteValue(kCurrentUser, key, name));
         EXPECT_EQ(Read(name), std::nullopt);
     }

@@ -19,7 +19,6 @@ TEST_F(StartTest, SecondInstanceShowsOneBoxAndTouchesNothing) {
     EXPECT_FALSE(Start());
     ASSERT_EQ(ui.Boxes.size(), 1U);
     EXPECT_EQ(ui.Boxes[0].text, "Orvo is already running...");
-    EXPECT_EQ(ui.Boxes[0].title, "Orvo");
     EXPECT_TRUE(machine.tray.records.empty());
     EXPECT_TRUE(machine.deckhub.Starts().empty());
     EXPECT_EQ(program->Window(), nullptr);
@@ -29,7 +28,6 @@ TEST_F(StartTest, NoPanelsEndsWithOneBoxAndNoTick) {
     EXPECT_FALSE(Start());
     ASSERT_EQ(ui.Boxes.size(), 1U);
     EXPECT_EQ(ui.Boxes[0].text, "No Panel found, check your connections !");
-    EXPECT_EQ(ui.Boxes[0].title, "  Orvo");
     EXPECT_TRUE(Window().IsUnloaded());
     EXPECT_EQ(machine.loop.TimerCount(), 0U);
     EXPECT_EQ(machine.tray.records.back().first, 2U) << "the icon is gone";
@@ -51,11 +49,15 @@ TEST_F(StartTest, LoadWithoutPanelsSetsUpOneOfEach) {
     EXPECT_EQ(machine.hid.OpenCount(), 0U);
 }
 
-TEST_F(StartTest, PanelsAreNumberedByKindAndPath) {
+TEST_F(StartTest, PanelsAreNumberedHavePagesAndFollowTheOptions) {
     Plug(PanelKind::BIP);
     Plug(PanelKind::Radio, 2);
     Plug(PanelKind::Radio, 1);
-    ASSERT_TRUE(Start("Splash=0\r\nDeckhubPriority=128\r\nDeckhubAffinity=6\r\n"));
+    machine.process.SetAffinity(255);
+    ASSERT_TRUE(
+        Start("Splash=0\r\nDeckhubPriority=128\r\nDeckhubAffinity=6\r\nOrvoPriority=64\r\n"));
+    EXPECT_EQ(machine.process.Priority(VirtualProcess::kProcessId), 64U);
+    EXPECT_EQ(machine.process.Affinity(), 252U);
     EXPECT_EQ(Tabs(), (std::vector<std::string>{"General", "Radio Panel 1", "Radio Panel 2",
                                                 "BIP Panel 1"}));
     EXPECT_EQ(Window().tabMain.Tabs()[2].key, "RadioPanel2");
@@ -64,25 +66,16 @@ TEST_F(StartTest, PanelsAreNumberedByKindAndPath) {
                                                                 {"BIPPanel1", 1500, 128, 6}}))
         << "the readers of Switch and BIP Panels take the options";
     EXPECT_EQ(machine.hid.OpenCount(), 3U);
-}
-
-TEST_F(StartTest, TabsShowThePageOfTheirPanel) {
-    Plug(PanelKind::Radio, 1);
-    Plug(PanelKind::Radio, 2);
-    Plug(PanelKind::Switch);
-    ASSERT_TRUE(Start());
-    const auto visible = [&](PanelKind kind, size_t n) {
+    const auto page = [&](PanelKind kind, size_t n) {
         return Window().Panels[kind][n]->control->Visible.Get();
     };
-    Window().tabMain.Select(3);
-    EXPECT_FALSE(Window().picMain.Visible);
-    EXPECT_TRUE(visible(PanelKind::Radio, 1));
-    Window().tabMain.Select(4);
-    EXPECT_FALSE(visible(PanelKind::Radio, 1));
-    EXPECT_TRUE(visible(PanelKind::Switch, 0));
-    Window().tabMain.Select(1);
-    EXPECT_FALSE(visible(PanelKind::Switch, 0));
-    EXPECT_TRUE(Window().picMain.Visible);
+    for (const int32_t tab : {4, 3, 1, 2}) {
+        Window().tabMain.Select(tab);
+        EXPECT_EQ(Window().picMain.Visible, tab == 1);
+        EXPECT_EQ(page(PanelKind::Radio, 0), tab == 2);
+        EXPECT_EQ(page(PanelKind::Radio, 1), tab == 3);
+        EXPECT_EQ(page(PanelKind::BIP, 0), tab == 4);
+    }
 }
 
 TEST_F(StartTest, SystemWithoutDeviceListsEndsWithThreeLines) {
@@ -117,14 +110,6 @@ TEST_F(StartTest, WindowIsHiddenUntilTheIconIsDoubleClicked) {
     program->Windows.ModalWindowOpen = false;
     machine.tray.MouseActivity.Raise(515);
     EXPECT_TRUE(Window().Visible);
-}
-
-TEST_F(StartTest, PriorityAndAffinityComeFromTheOptions) {
-    Plug(PanelKind::Multi);
-    machine.process.SetAffinity(255);
-    ASSERT_TRUE(Start("Splash=0\r\nOrvoPriority=128\r\n"));
-    EXPECT_EQ(machine.process.Priority(VirtualProcess::kProcessId), 128U);
-    EXPECT_EQ(machine.process.Affinity(), 252U);
 }
 
 TEST_F(StartTest, SplashRunsToItsEndBeforeTheNextPanelConnects) {

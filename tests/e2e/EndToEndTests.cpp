@@ -38,10 +38,10 @@ class EndToEnd : public testing::Test {
 
     void PlugIn(const std::string& panel) { EXPECT_EQ(cockpit_->Panels("add multi"), panel); }
 
-    void StartConnected() {
+    void StartConnected(int panels = 1) {
         cockpit_->StartSimulator();
         cockpit_->StartPanels();
-        PlugIn("multi1");
+        for (int n = 1; n <= panels; ++n) PlugIn("multi" + std::to_string(n));
         cockpit_->StartOrvo();
         ASSERT_TRUE(cockpit_->StatusBecomes(0, kConnected, kSoonMs));
     }
@@ -65,12 +65,12 @@ class EndToEnd : public testing::Test {
         MakeCockpit(testing::UnitTest::GetInstance()->current_test_info()->name());
 };
 
-// Waits for a box of this title, reads it and presses OK.
-std::string AnswerBox(const Cockpit& cockpit, const std::string& title) {
+// Waits for a box of this title, reads it and presses the button.
+std::string AnswerBox(const Cockpit& cockpit, const std::string& title, int button = IDOK) {
     HWND box = nullptr;
     if (!Until(kSoonMs, [&] { return (box = cockpit.Box(title)) != nullptr; })) return "no box";
     const std::string text = BoxText(box);
-    PressBoxButton(box, IDOK);
+    PressBoxButton(box, button);
     return text;
 }
 
@@ -126,9 +126,7 @@ TEST_F(EndToEnd, OldFileBecomesTheDefaultProfile) {
     const std::string old = "[MultiPanel1]\r\nButtonActionHDG=VButton,64,1\r\n";
     cockpit_->WriteIni(old);
     cockpit_->StartOrvo();
-    HWND box = nullptr;
-    ASSERT_TRUE(Until(kSoonMs, [&] { return (box = cockpit_->Box(kBox)) != nullptr; }));
-    PressBoxButton(box, IDCANCEL);
+    ASSERT_NE(AnswerBox(*cockpit_, kBox, IDCANCEL), "no box");
     EXPECT_EQ(cockpit_->Orvo().WaitForEnd(kSoonMs), 0u);
     EXPECT_EQ(cockpit_->ReadFile("Orvo.ini"), old);
 
@@ -173,10 +171,8 @@ TEST_F(EndToEnd, AutoQuitLeavesWithTheSimulator) {
     cockpit_->KillSimulator();
     EXPECT_EQ(cockpit_->Orvo().WaitForEnd(kAfterSilenceMs), 0u);
     EXPECT_EQ(cockpit_->Panels("show multi1"), kDark);
-    char kept[8] = "";
-    GetPrivateProfileStringA("GeneralSetup", "AutoQuit", "", kept, sizeof kept,
-                             (cockpit_->Folder() + "\\Orvo.ini").c_str());
-    EXPECT_STREQ(kept, "1");
+    const std::string saved = cockpit_->ReadFile("Orvo.ini").value_or("");
+    EXPECT_TRUE(saved.starts_with("[GeneralSetup]\r\nAutoQuit=1\r\nOrvoPriority=")) << saved;
 }
 
 TEST_F(EndToEnd, AutoQuitEndsTheQuitBoxToo) {
@@ -190,12 +186,7 @@ TEST_F(EndToEnd, AutoQuitEndsTheQuitBoxToo) {
 }
 
 TEST_F(EndToEnd, APanelThatVanishesHurtsNothingElse) {
-    cockpit_->StartSimulator();
-    cockpit_->StartPanels();
-    PlugIn("multi1");
-    PlugIn("multi2");
-    cockpit_->StartOrvo();
-    ASSERT_TRUE(cockpit_->StatusBecomes(0, kConnected, kSoonMs));
+    StartConnected(2);
     EXPECT_EQ(cockpit_->Panels("unplug multi1"), "ok");
 
     cockpit_->Panels("selector multi2 HDG");

@@ -34,7 +34,7 @@ TEST_F(ActionTest, WholeTextsAreTakenAndOthersLeaveTheRecord) {
 }
 
 TEST_F(ActionTest, VirtualButtonsAreBitsAndEachPressIsSeenBeforeItsRelease) {
-    ASSERT_TRUE(Open());
+    ASSERT_TRUE(session.FSConnected = Open());
     std::vector<uint32_t> seen;
     machine.server.Written.Connect(
         [&](uint32_t, std::span<const uint8_t> bytes) { seen.push_back(LoadLE32(bytes.data())); });
@@ -57,6 +57,13 @@ TEST_F(ActionTest, VirtualButtonsAreBitsAndEachPressIsSeenBeforeItsRelease) {
     for (const auto& [stick, button] : nowhere) output.SendAction({VButton, stick, button, 0});
     fsuipc.FSUIPC_Process(result);
     EXPECT_TRUE(seen.empty() && result == kFsuipcEmptyBatch);
+    machine.ipc.RemoveWindows();
+    const uint32_t before = machine.clock.GetTickCount();
+    output.SendAction({VButton, 64, 1, 0}, 20);
+    EXPECT_LE(machine.clock.GetTickCount() - before, 1000U) << "one exchange without an answer";
+    machine.loop.Post([&] { session.FSConnected = false; });
+    output.SendAction({VKey, 65, 0, 0}, 20);
+    EXPECT_EQ(machine.keyboard.typed.size(), 1U) << "the session has ended under the first";
 }
 
 TEST_F(ActionTest, KeystrokesCarryTheirQualifiersAndLetMessagesRun) {

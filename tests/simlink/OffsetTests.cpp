@@ -113,36 +113,28 @@ TEST_F(OffsetTest, DirectTransfers) {
     EXPECT_EQ(machine.server.Get<int16_t>(0x0BC0), 7);
 }
 
-TEST_F(OffsetTest, TableKeepsTheFirstOfAName) {
-    cOffsetTable& table = session.OffsetTable;
-    table.RegisterOffset(0x10, 4, "Gear");
-    table.RegisterOffset(0x20, 2, "GEAR");
-    ASSERT_TRUE(table.OffsetRegistered("gear"));
-    EXPECT_EQ(table.Item("gear")->Offset, 0x10);
-    table.UnregisterOffset("flaps");
-    table.UnregisterOffset("GEAR");
-    EXPECT_TRUE(table.Empty());
-}
-
-TEST_F(OffsetTest, NamedOffsetFollowsTheTable) {
+TEST_F(OffsetTest, TableKeepsTheFirstOfANameAndNamedOffsetsFollowIt) {
     ASSERT_TRUE(Open());
     machine.server.Set<int32_t>(0x10, 1);
     machine.server.Set<int32_t>(0x20, 2);
     cOffsetTable& table = session.OffsetTable;
     const NamedOffset gear(table, "Gear");
     EXPECT_EQ(gear.Data(), 0);
-    const auto poll = [&] {
+    const auto polled = [&] {
         table.QueueReads();
         fsuipc.FSUIPC_Process(result);
+        return gear.Data();
     };
     table.RegisterOffset(0x10, 4, "GEAR");
-    poll();
-    EXPECT_EQ(gear.Data(), 1);
-    table.UnregisterOffset("GEAR");
+    table.RegisterOffset(0x20, 4, "gear");
+    EXPECT_TRUE(table.OffsetRegistered("gear"));
+    EXPECT_EQ(polled(), 1);
+    table.UnregisterOffset("flaps");
+    table.UnregisterOffset("Gear");
+    EXPECT_TRUE(table.Empty());
     EXPECT_EQ(gear.Data(), 0);
     table.RegisterOffset(0x20, 4, "gear");
-    poll();
-    EXPECT_EQ(gear.Data(), 2);
+    EXPECT_EQ(polled(), 2);
 }
 
 TEST_F(OffsetTest, WhatDoesNotFitIntoTheBatchKeepsItsValue) {

@@ -11,30 +11,38 @@
 
 namespace {
 
-// Counts what it is asked to follow.
-class CountingPeer : public Peer {
-  public:
-    explicit CountingPeer(int& count) : count_(count) {}
-    void Follow() override { ++count_; }
-
-  private:
-    int& count_;
-};
-
-class CountingUi : public HeadlessUi {
-  public:
+// Counts what its peers are asked to follow.
+struct CountingUi : HeadlessUi {
+    struct CountingPeer : Peer {
+        explicit CountingPeer(int& all) : count(all) {}
+        void Follow() override { ++count; }
+        int& count;
+    };
     std::unique_ptr<Peer> MakePeer(Control&) override {
-        ++made;
         return std::make_unique<CountingPeer>(followed);
     }
-
-    int made = 0;
     int followed = 0;
 };
 
 struct ToolkitTest : testing::Test {
     HeadlessUi ui;
     Form form{ui};
+};
+
+struct TimerTest : testing::Test {
+    TimerTest() {
+        timer->Tick.Connect([this] { ++ticks; });
+    }
+    int TicksIn(uint32_t milliseconds) {
+        ticks = 0;
+        loop.Advance(milliseconds);
+        return ticks;
+    }
+
+    VirtualClock clock;
+    VirtualLoop loop{clock};
+    std::unique_ptr<Timer> timer = std::make_unique<Timer>(loop, 50);
+    int ticks = 0;
 };
 
 }  // namespace
@@ -47,10 +55,6 @@ TEST_F(ToolkitTest, OnlyAnotherValueIsFollowed) {
     button.Caption = "Quit";
     button.Caption = "Quit";
     EXPECT_EQ(counting.followed, 1);
-
-    Label late(&shown);
-    shown.Load();
-    EXPECT_EQ(counting.made, 3);
 }
 
 TEST_F(ToolkitTest, DisabledButtonCannotBePressed) {
@@ -63,23 +67,11 @@ TEST_F(ToolkitTest, DisabledButtonCannotBePressed) {
     EXPECT_EQ(clicks, 1);
 }
 
-TEST_F(ToolkitTest, SelectingATabRaisesClickOnceAlsoForTheSelectedOne) {
+TEST_F(ToolkitTest, SelectingATabRaisesClickOnceAndInsertedOnesLeaveItSelected) {
     TabStrip tabs(&form);
     std::vector<int32_t> seen;
     tabs.Click.Connect([&] { seen.push_back(tabs.SelectedItem()); });
     tabs.Select(1);
-    tabs.AddTab(1, "a", "A");
-    tabs.AddTab(2, "b", "B");
-    EXPECT_TRUE(seen.empty());
-
-    for (const int32_t number : {2, 2, 0, 3, -1}) tabs.Select(number);
-    EXPECT_EQ(seen, (std::vector<int32_t>{2, 2}));
-}
-
-TEST_F(ToolkitTest, TabsInsertedAroundTheSelectedOneLeaveItSelected) {
-    TabStrip tabs(&form);
-    int clicks = 0;
-    tabs.Click.Connect([&] { ++clicks; });
     EXPECT_EQ(tabs.SelectedItem(), 0);
     tabs.AddTab(7, "old", "");
     tabs.AddTab(1, "first", "");
@@ -87,7 +79,9 @@ TEST_F(ToolkitTest, TabsInsertedAroundTheSelectedOneLeaveItSelected) {
     EXPECT_EQ(tabs.SelectedItem(), 2);
     EXPECT_EQ(tabs.Tabs()[1].key, "old");
     EXPECT_EQ(tabs.Tabs()[2].key, "last");
-    EXPECT_EQ(clicks, 0);
+    EXPECT_TRUE(seen.empty());
+    for (const int32_t number : {3, 3, 0, 4, -1}) tabs.Select(number);
+    EXPECT_EQ(seen, (std::vector<int32_t>{3, 3})) << "also for the selected one";
 }
 
 TEST_F(ToolkitTest, SelectingAnEntryRaisesClickOnceAndOnlyThen) {
@@ -134,54 +128,30 @@ TEST_F(ToolkitTest, ChildrenKeepTheirOrderUntilOneIsBroughtToTheFrontOrGoes) {
     EXPECT_EQ(form.Children(), (std::vector<Control*>{&second, &first}));
 }
 
-TEST(TimerTest, RestartsWithANewIntervalAndGoesOnWithTheSameOne) {
-    VirtualClock clock;
-    VirtualLoop loop(clock);
-    Timer timer(loop, 50);
-    int ticks = 0;
-    timer.Tick.Connect([&] { ++ticks; });
-    loop.Advance(200);
-    EXPECT_EQ(ticks, 0) << "off from the start";
-
-    timer.SetEnabled(true);
-    loop.Advance(40);
-    timer.SetEnabled(true);
-    timer.SetInterval(50);
-    loop.Advance(10);
-    EXPECT_EQ(ticks, 1) << "the same again changes nothing";
-
-    loop.Advance(40);
-    timer.SetInterval(30);
-    loop.Advance(29);
-    EXPECT_EQ(ticks, 1);
-    loop.Advance(1);
-    EXPECT_EQ(ticks, 2);
-
-    timer.SetInterval(0);
-    loop.Advance(500);
-    EXPECT_EQ(ticks, 2) << "no interval, no tick";
-    timer.SetInterval(10);
-    loop.Advance(10);
-    EXPECT_EQ(ticks, 3);
-    timer.SetEnabled(false);
-    loop.Advance(500);
-    EXPECT_EQ(ticks, 3);
+TEST_F(TimerTest, RestartsWithANewIntervalAndGoesOnWithTheSameOne) {
+    EXPECT_EQ(TicksIn(200), 0) << "off from the start";
+    timer->SetEnabled(true);
+    EXPECT_EQ(TicksIn(40), 0);
+    timer->SetEnabled(true);
+    timer->SetInterval(50);
+    EXPECT_EQ(TicksIn(10), 1) << "the same again changes nothing";
+    EXPECT_EQ(TicksIn(40), 0);
+    timer->SetInterval(30);
+    EXPECT_EQ(TicksIn(29), 0);
+    EXPECT_EQ(TicksIn(1), 1);
+    timer->SetInterval(0);
+    EXPECT_EQ(TicksIn(500), 0) << "no interval, no tick";
+    timer->SetInterval(10);
+    EXPECT_EQ(TicksIn(10), 1);
+    timer->SetEnabled(false);
+    EXPECT_EQ(TicksIn(500), 0);
 }
 
-TEST(TimerTest, MayStopItselfAndEndsWithItsOwner) {
-    VirtualClock clock;
-    VirtualLoop loop(clock);
-    int ticks = 0;
-    {
-        Timer timer(loop, 10);
-        timer.Tick.Connect([&] {
-            ++ticks;
-            timer.SetEnabled(false);
-        });
-        timer.SetEnabled(true);
-        loop.Advance(100);
-        EXPECT_EQ(ticks, 1);
-        timer.SetEnabled(true);
-    }
-    EXPECT_EQ(loop.TimerCount(), 0u);
+TEST_F(TimerTest, MayStopItselfAndEndsWithItsOwner) {
+    timer->Tick.Connect([this] { timer->SetEnabled(false); });
+    timer->SetEnabled(true);
+    EXPECT_EQ(TicksIn(200), 1);
+    timer->SetEnabled(true);
+    timer.reset();
+    EXPECT_EQ(loop.TimerCount(), 0U);
 }

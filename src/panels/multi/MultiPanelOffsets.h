@@ -24,6 +24,7 @@ enum MultiPanelRow : size_t {
     kMultiPanelRows
 };
 
+// In the order of the rows.
 inline constexpr std::array<const char*, kMultiPanelRows> kMultiPanelNames = {
     "AP-MASTER",   "AP-HDG-HOLD",  "AP-NAV-HOLD", "AP-IAS-HOLD", "AP-ALT-HOLD",
     "AP-VS-HOLD",  "AP-APR-HOLD",  "AP-BC-HOLD",  "AP-HDG-VAL",  "AP-IAS-VAL",

@@ -8,48 +8,38 @@
 
 namespace {
 
-constexpr const char* kPositions[] = {"", "ALT", "VS", "IAS", "HDG", "CRS"};
-constexpr const char* kButtons[] = {"", "AP", "HDG", "NAV", "IAS", "ALT", "VS", "APR", "REV"};
+constexpr const char* kPositions[] = {"ALT", "VS", "IAS", "HDG", "CRS"};
+constexpr const char* kButtons[] = {"AP", "HDG", "NAV", "IAS", "ALT", "VS", "APR", "REV"};
 constexpr const char* kSwitchSides[] = {"OFF", "ARM"};
 constexpr const char* kDirections[] = {"DOWN", "UP"};
 
-constexpr uint8_t kNGXShortDefaults[] = {0, 12, 7, 4, 3, 10, 11, 9, 8};
-constexpr uint8_t kNGXLongDefaults[] = {0, 14, 13, 5, 2, 18, 6, 0, 1};
+constexpr uint8_t kNGXShortDefaults[] = {12, 7, 4, 3, 10, 11, 9, 8};
+constexpr uint8_t kNGXLongDefaults[] = {14, 13, 5, 2, 18, 6, 0, 1};
 constexpr BindingTable::Range kNGXRange = {0, kNGXRows - 1};
 constexpr BindingTable::Range kCourseRange = {0, 2};
 
-// A table whose index 0 is no control of the panel has one more place than the panel has controls.
-template <class Value, size_t Size>
-bool Holds(const std::array<Value, Size>&, int32_t index) {
-    constexpr int32_t kFirst = Size > 2 ? 1 : 0;
-    return index >= kFirst && static_cast<size_t>(index) < Size;
-}
-
-template <class Value, size_t Size>
-const Value& Get(const std::array<Value, Size>& table, int32_t index) {
-    static const Value kNothing{};
-    return Holds(table, index) ? table[static_cast<size_t>(index)] : kNothing;
-}
-
-template <class Value, size_t Size>
-void Set(std::array<Value, Size>& table, int32_t index, const Value& value) {
-    if (Holds(table, index)) table[static_cast<size_t>(index)] = value;
-}
-
-template <size_t Size>
-void AddActions(BindingTable& keys, const std::string& prefix, const char* const (&names)[Size],
-                std::array<ActionRecord, Size>& records, ActionKind standard) {
-    for (size_t i = 0; i < Size; ++i) {
-        if (*names[i]) keys.Add(prefix + names[i], records[i], standard);
+// Calls for each control with its number and its place in the tables above.
+template <class Table, class Function>
+void ForEach(const Table&, Function call) {
+    for (int32_t number = Table::kFirst; number <= Table::kLast; ++number) {
+        call(number, static_cast<size_t>(number - Table::kFirst));
     }
 }
 
-template <size_t Size>
-void AddNGXRows(BindingTable& keys, const char* suffix, std::array<uint8_t, Size>& rows,
-                const uint8_t (&standards)[Size]) {
-    for (size_t i = 1; i < Size; ++i) {
-        keys.Add(std::string("NGX") + kButtons[i] + suffix, rows[i], standards[i], kNGXRange);
-    }
+template <class Table>
+void AddActions(BindingTable& keys, const std::string& prefix, const char* const* names,
+                Table& records, ActionKind standard) {
+    ForEach(records, [&](int32_t number, size_t place) {
+        keys.Add(prefix + names[place], records[number], standard);
+    });
+}
+
+template <class Table>
+void AddNGXRows(BindingTable& keys, const char* suffix, Table& rows, const uint8_t* standards) {
+    ForEach(rows, [&](int32_t number, size_t place) {
+        keys.Add(std::string("NGX") + kButtons[place] + suffix, rows[number], standards[place],
+                 kNGXRange);
+    });
 }
 
 }  // namespace
@@ -69,9 +59,10 @@ BindingTable cMultiPanelActionsHolder::Keys() {
     AddActions(keys, "AutoThrottleAction", kSwitchSides, autoThrottle_, ActionKind::Offset);
     AddActions(keys, "FlapsAction", kDirections, flaps_, ActionKind::Offset);
     AddActions(keys, "TrimAction", kDirections, trim_, ActionKind::Offset);
-    for (size_t i = 1; i < rotAcceleration_.size(); ++i) {
-        keys.Add(std::string("RotaryAcceleration") + kPositions[i], rotAcceleration_[i], 1);
-    }
+    ForEach(rotAcceleration_, [&](int32_t number, size_t place) {
+        keys.Add(std::string("RotaryAcceleration") + kPositions[place], rotAcceleration_[number],
+                 1);
+    });
     AddNGXRows(keys, "Short", ngxShort_, kNGXShortDefaults);
     AddNGXRows(keys, "Long", ngxLong_, kNGXLongDefaults);
     keys.Add("CourseSel", CourseSel, 1, kCourseRange);
@@ -93,89 +84,89 @@ void cMultiPanelActionsHolder::SaveSetup() {
 }
 
 int16_t cMultiPanelActionsHolder::GetRotAcceleration(int32_t Position) const {
-    return Get(rotAcceleration_, Position);
+    return rotAcceleration_.Get(Position);
 }
 
 void cMultiPanelActionsHolder::SetRotAcceleration(int32_t Position, int16_t Value) {
-    Set(rotAcceleration_, Position, Value);
+    rotAcceleration_.Set(Position, Value);
 }
 
 const ActionRecord& cMultiPanelActionsHolder::GetSelectorActions(int32_t Position) const {
-    return Get(selector_, Position);
+    return selector_.Get(Position);
 }
 
 void cMultiPanelActionsHolder::SetSelectorActions(int32_t Position, const ActionRecord& Record) {
-    Set(selector_, Position, Record);
+    selector_.Set(Position, Record);
 }
 
 const ActionRecord& cMultiPanelActionsHolder::GetButtonsActions(int32_t Button) const {
-    return Get(buttons_, Button);
+    return buttons_.Get(Button);
 }
 
 void cMultiPanelActionsHolder::SetButtonsActions(int32_t Button, const ActionRecord& Record) {
-    Set(buttons_, Button, Record);
+    buttons_.Set(Button, Record);
 }
 
 const ActionRecord& cMultiPanelActionsHolder::GetLongButtonsActions(int32_t Button) const {
-    return Get(longButtons_, Button);
+    return longButtons_.Get(Button);
 }
 
 void cMultiPanelActionsHolder::SetLongButtonsActions(int32_t Button, const ActionRecord& Record) {
-    Set(longButtons_, Button, Record);
+    longButtons_.Set(Button, Record);
 }
 
 const ActionRecord& cMultiPanelActionsHolder::GetRotUpActions(int32_t Position) const {
-    return Get(rotUp_, Position);
+    return rotUp_.Get(Position);
 }
 
 void cMultiPanelActionsHolder::SetRotUpActions(int32_t Position, const ActionRecord& Record) {
-    Set(rotUp_, Position, Record);
+    rotUp_.Set(Position, Record);
 }
 
 const ActionRecord& cMultiPanelActionsHolder::GetRotDownActions(int32_t Position) const {
-    return Get(rotDown_, Position);
+    return rotDown_.Get(Position);
 }
 
 void cMultiPanelActionsHolder::SetRotDownActions(int32_t Position, const ActionRecord& Record) {
-    Set(rotDown_, Position, Record);
+    rotDown_.Set(Position, Record);
 }
 
 const ActionRecord& cMultiPanelActionsHolder::GetAutoThrottleActions(int32_t Side) const {
-    return Get(autoThrottle_, Side);
+    return autoThrottle_.Get(Side);
 }
 
 void cMultiPanelActionsHolder::SetAutoThrottleActions(int32_t Side, const ActionRecord& Record) {
-    Set(autoThrottle_, Side, Record);
+    autoThrottle_.Set(Side, Record);
 }
 
 const ActionRecord& cMultiPanelActionsHolder::GetFlapsActions(int32_t Direction) const {
-    return Get(flaps_, Direction);
+    return flaps_.Get(Direction);
 }
 
 void cMultiPanelActionsHolder::SetFlapsActions(int32_t Direction, const ActionRecord& Record) {
-    Set(flaps_, Direction, Record);
+    flaps_.Set(Direction, Record);
 }
 
 const ActionRecord& cMultiPanelActionsHolder::GetTrimActions(int32_t Direction) const {
-    return Get(trim_, Direction);
+    return trim_.Get(Direction);
 }
 
 void cMultiPanelActionsHolder::SetTrimActions(int32_t Direction, const ActionRecord& Record) {
-    Set(trim_, Direction, Record);
+    trim_.Set(Direction, Record);
 }
 
 uint8_t cMultiPanelActionsHolder::NGXGetShortButtonsActions(int32_t Button) const {
-    return Get(ngxShort_, Button);
+    return ngxShort_.Get(Button);
 }
 
 void cMultiPanelActionsHolder::NGXSetShortButtonsActions(int32_t Button, uint8_t Row) {
-    if (Row < kNGXRows) Set(ngxShort_, Button, Row);
+    if (Row < kNGXRows) ngxShort_.Set(Button, Row);
 }
 
 uint8_t cMultiPanelActionsHolder::NGXGetLongButtonsActions(int32_t Button) const {
-    return Get(ngxLong_, Button);
+    return ngxLong_.Get(Button);
 }
 
 void cMultiPanelActionsHolder::NGXSetLongButtonsActions(int32_t Button, uint8_t Row) {
-    if (Row < kNGXRows) Set(ngxLong_, Button, Row);
+    if (Row < kNGXRows) ngxLong_.Set(Button, Row);
 }

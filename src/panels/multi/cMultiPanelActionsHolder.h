@@ -1,26 +1,27 @@
 #pragma once
 
-#include <array>
 #include <cstdint>
 
 #include "config/ProfileStore.h"
 #include "simlink/ActionRecord.h"
 #include "simlink/BindingTable.h"
+#include "simlink/Numbered.h"
 
 // What one Multi Panel's controls do in the current profile. Positions are those of the selector, 1
-// ALT to 5 CRS, buttons 1 AP to 8 REV. Index 0 and indices beyond the panel read as nothing, and
+// ALT to 5 CRS, buttons 1 AP to 8 REV. Numbers that the panel doesn't have read as nothing, and
 // setting them does nothing.
 class cMultiPanelActionsHolder {
   public:
     explicit cMultiPanelActionsHolder(ProfileStore& profiles);
 
-    int16_t Index = 0;  // number of the panel, from 1; names the section
-    int16_t TrimAcceleration = 0;
-    int16_t TrimSensitivity = 0;  // step factor of the trim wheel
-    uint8_t ReverseTrim = 0;      // 1: the wheel works reversed
-    uint8_t ReverseFlaps = 0;     // 1: the lever works reversed
-    uint8_t CourseSel = 0;        // course at CRS: 1 NAV1, 2 NAV2, 0 the one that Radio Panel 1 has
+    int16_t Index = 0;             // number of the panel, from 1; names the section
+    int16_t TrimAcceleration = 0;  // 1 to 100; the higher, the sooner a turn counts as a fast one
+    int16_t TrimSensitivity = 0;   // step factor of the trim wheel
+    uint8_t ReverseTrim = 0;       // 1: the wheel works reversed
+    uint8_t ReverseFlaps = 0;      // 1: the lever works reversed
+    uint8_t CourseSel = 0;  // course at CRS: 1 NAV1, 2 NAV2, 0 the one that Radio Panel 1 has
 
+    // As TrimAcceleration, of the knob.
     int16_t GetRotAcceleration(int32_t Position) const;
     void SetRotAcceleration(int32_t Position, int16_t Value);
 
@@ -47,26 +48,27 @@ class cMultiPanelActionsHolder {
     uint8_t NGXGetLongButtonsActions(int32_t Button) const;
     void NGXSetLongButtonsActions(int32_t Button, uint8_t Row);
 
+    // Of the records only FSEvent.
     void LoadDefaults();
+    // Defaults, then what the section of the current profile says; what makes no sense there is
+    // passed over.
     void LoadSetup();
+    // Writes what differs from the defaults: all or, where the file can't be written, nothing.
     void SaveSetup();
 
   private:
-    template <class Value, size_t Count>
-    using Numbered = std::array<Value, Count + 1>;  // from 1; index 0 stays empty
-
     BindingTable Keys();
 
     ProfileStore& profiles_;
-    Numbered<ActionRecord, 5> selector_;
-    Numbered<ActionRecord, 8> buttons_;
-    Numbered<ActionRecord, 8> longButtons_;
-    Numbered<ActionRecord, 5> rotUp_;
-    Numbered<ActionRecord, 5> rotDown_;
-    std::array<ActionRecord, 2> autoThrottle_;
-    std::array<ActionRecord, 2> flaps_;
-    std::array<ActionRecord, 2> trim_;
-    Numbered<int16_t, 5> rotAcceleration_{};
-    Numbered<uint8_t, 8> ngxShort_{};
-    Numbered<uint8_t, 8> ngxLong_{};
+    Numbered<ActionRecord, 1, 5> selector_;
+    Numbered<ActionRecord, 1, 8> buttons_;
+    Numbered<ActionRecord, 1, 8> longButtons_;
+    Numbered<ActionRecord, 1, 5> rotUp_;
+    Numbered<ActionRecord, 1, 5> rotDown_;
+    Numbered<ActionRecord, 0, 1> autoThrottle_;
+    Numbered<ActionRecord, 0, 1> flaps_;
+    Numbered<ActionRecord, 0, 1> trim_;
+    Numbered<int16_t, 1, 5> rotAcceleration_;
+    Numbered<uint8_t, 1, 8> ngxShort_;
+    Numbered<uint8_t, 1, 8> ngxLong_;
 };

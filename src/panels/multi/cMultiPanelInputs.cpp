@@ -27,10 +27,23 @@ constexpr int32_t OffsetOf(size_t row) {
 
 }  // namespace
 
+// Does `times` times what a record says, or once what the control does by itself in the present
+// mode.
+template <class NGX, class Standard>
+void cMultiPanelLogic::Do(const ActionRecord& record, int times, NGX ngx, Standard standard) {
+    if (record.FSEvent != ActionKind::Offset) {
+        session_.Output.SendAction(record, times);
+    } else if (session_.SpecialMode == kNGXMode) {
+        ngx();
+    } else {
+        standard();
+    }
+}
+
 void cMultiPanelLogic::SelectorChange(int32_t NewPosition, int32_t OldPosition) {
     selectorPosition_ = NewPosition;
-    SetRotAcceleration();
-    SetTrimAcceleration();
+    ApplyRotAcceleration();
+    ApplyTrimAcceleration();
     forceWrite_ = true;
     if (session_.SpecialMode == kMaddogMode) {
         ShowMaddogPosition();
@@ -39,8 +52,8 @@ void cMultiPanelLogic::SelectorChange(int32_t NewPosition, int32_t OldPosition) 
     }
 }
 
-// Where all positions are bound alike, the button of a position stays down while the selector
-// stands there.
+// Where every position is bound to a virtual button, that of a position stays down while the
+// selector stands there.
 void cMultiPanelLogic::SendSelectorAction(int32_t newPosition, int32_t oldPosition) {
     const ActionRecord& reached = MPActions->GetSelectorActions(newPosition);
     if (reached.FSEvent != ActionKind::VButton) {
@@ -64,13 +77,8 @@ void cMultiPanelLogic::Rotary(int16_t Direction, int16_t Speed) {
     const bool up = Direction == 1;
     const ActionRecord& record = up ? MPActions->GetRotUpActions(selectorPosition_)
                                     : MPActions->GetRotDownActions(selectorPosition_);
-    if (record.FSEvent != ActionKind::Offset) {
-        session_.Output.SendAction(record, Speed);
-    } else if (session_.SpecialMode == kNGXMode) {
-        TurnNGX(up);
-    } else {
-        TurnStandard(up ? Speed : -Speed);
-    }
+    Do(
+        record, Speed, [&] { TurnNGX(up); }, [&] { TurnStandard(up ? Speed : -Speed); });
 }
 
 void cMultiPanelLogic::TurnStandard(int step) {
@@ -120,13 +128,8 @@ void cMultiPanelLogic::ButtonLongClick(int32_t Button) {
 }
 
 void cMultiPanelLogic::PressButton(int32_t button, const ActionRecord& record, uint8_t ngxRow) {
-    if (record.FSEvent != ActionKind::Offset) {
-        session_.Output.SendAction(record);
-    } else if (session_.SpecialMode == kNGXMode) {
-        RunNGXFunction(ngxRow);
-    } else {
-        ToggleHold(button);
-    }
+    Do(
+        record, 1, [&] { RunNGXFunction(ngxRow); }, [&] { ToggleHold(button); });
 }
 
 void cMultiPanelLogic::ToggleHold(int32_t button) {
@@ -139,14 +142,9 @@ void cMultiPanelLogic::ToggleHold(int32_t button) {
 
 void cMultiPanelLogic::Trim(int16_t Direction, int16_t Speed) {
     const bool up = Direction == 1;
-    const ActionRecord& record = MPActions->GetTrimActions(Direction);
-    if (record.FSEvent != ActionKind::Offset) {
-        session_.Output.SendAction(record, Speed);
-    } else if (session_.SpecialMode == kNGXMode) {
-        TrimNGX(up, Speed);
-    } else {
-        TrimStandard(up, Speed);
-    }
+    Do(
+        MPActions->GetTrimActions(Direction), Speed, [&] { TrimNGX(up, Speed); },
+        [&] { TrimStandard(up, Speed); });
 }
 
 void cMultiPanelLogic::TrimStandard(bool up, int16_t speed) {
@@ -160,14 +158,9 @@ void cMultiPanelLogic::TrimStandard(bool up, int16_t speed) {
 
 void cMultiPanelLogic::Flaps(int16_t Direction) {
     const bool up = Direction == 1;
-    const ActionRecord& record = MPActions->GetFlapsActions(Direction);
-    if (record.FSEvent != ActionKind::Offset) {
-        session_.Output.SendAction(record);
-    } else if (session_.SpecialMode == kNGXMode) {
-        MoveFlapsNGX(up);
-    } else {
-        MoveFlapsStandard(up);
-    }
+    Do(
+        MPActions->GetFlapsActions(Direction), 1, [&] { MoveFlapsNGX(up); },
+        [&] { MoveFlapsStandard(up); });
 }
 
 void cMultiPanelLogic::MoveFlapsStandard(bool up) {
@@ -192,13 +185,11 @@ void cMultiPanelLogic::AutoThrottleChange(int16_t State) {
         // The button holds the switch's position.
         session_.Output.SetVirtualButton(record.VJoystickOrKeyCode, record.VButtonOrKeyQualifiers,
                                          armed, false);
-    } else if (record.FSEvent != ActionKind::Offset) {
-        session_.Output.SendAction(record);
-    } else if (session_.SpecialMode == kNGXMode) {
-        SetThrottleNGX(armed);
-    } else {
-        WriteOffset(kAutoThrottleArm, 4, armed ? 1 : 0);
+        return;
     }
+    Do(
+        record, 1, [&] { SetThrottleNGX(armed); },
+        [&] { WriteOffset(kAutoThrottleArm, 4, armed ? 1 : 0); });
 }
 
 // Goes out with the next exchange.

@@ -16,8 +16,8 @@ constexpr PowerOffset kMasterBattery = {"MASTERBATTERY", 0x281C};
 constexpr PowerOffset kMasterAvionics = {"MASTERAVIONICS", 0x2E80};
 constexpr int32_t kPowerType = 4;
 
-// Below it a speed is a Mach number.
-constexpr double kFirstKnots = 10;
+// A lower speed is a Mach number.
+constexpr double kLowestKnots = 10;
 
 void SetNumber(std::string& text, int64_t value, int digits) {
     text.clear();
@@ -55,16 +55,16 @@ void cMultiPanelLogic::StartUp() {
 }
 
 void cMultiPanelLogic::SetupChanged() {
-    if (selectorPosition_ != 0) SetRotAcceleration();
-    SetTrimAcceleration();
+    if (selectorPosition_ != 0) ApplyRotAcceleration();
+    ApplyTrimAcceleration();
     RegisterOffsets();
 }
 
-void cMultiPanelLogic::SetRotAcceleration() {
+void cMultiPanelLogic::ApplyRotAcceleration() {
     control_.RotAcceleration(AsAcceleration(MPActions->GetRotAcceleration(selectorPosition_)));
 }
 
-void cMultiPanelLogic::SetTrimAcceleration() {
+void cMultiPanelLogic::ApplyTrimAcceleration() {
     control_.TrimAcceleration(AsAcceleration(MPActions->TrimAcceleration));
 }
 
@@ -178,7 +178,7 @@ void cMultiPanelLogic::ShowNGX() {
         upperText_.clear();
         lowerText_.clear();
         if (Value(kSpeedBlankRow) != 0) return;
-        if (speedValue_ < kFirstKnots) {
+        if (speedValue_ < kLowestKnots) {
             AppendFixed(upperText_, speedValue_, 3);
         } else {
             AppendInteger(upperText_, RoundHalfEven(speedValue_));

@@ -13,8 +13,8 @@
 #include "simlink/cSession.h"
 
 // Behaviour of one Multi Panel: shows the autopilot's values and lights on the panel's control, and
-// turns its events into what the bindings say. Selector positions are 1 ALT, 2 VS, 3 IAS, 4 HDG, 5
-// CRS, buttons 1 AP to 8 REV; other numbers do nothing.
+// turns its events into what the bindings say. StartUp comes before all else. Selector positions
+// are 1 ALT, 2 VS, 3 IAS, 4 HDG, 5 CRS, buttons 1 AP to 8 REV; other numbers do nothing.
 class cMultiPanelLogic final : public cPanelLogic {
   public:
     cMultiPanelLogic(const LogicServices& services, ctlMultiPanel& control, int16_t index);
@@ -51,8 +51,8 @@ class cMultiPanelLogic final : public cPanelLogic {
         int32_t navMode = 1;        // next parameter of the REV button's control
     };
 
-    void SetRotAcceleration();
-    void SetTrimAcceleration();
+    void ApplyRotAcceleration();
+    void ApplyTrimAcceleration();
     void RegisterOffsets();
     void Register(std::span<const MultiPanelOffset> offsets);
     void RegisterNGXLights();
@@ -64,6 +64,8 @@ class cMultiPanelLogic final : public cPanelLogic {
     void ShowStandard();
     void ShowNGX();
 
+    template <class NGX, class Standard>
+    void Do(const ActionRecord& record, int times, NGX ngx, Standard standard);
     void SendSelectorAction(int32_t newPosition, int32_t oldPosition);
     void PressButton(int32_t button, const ActionRecord& record, uint8_t ngxRow);
     void ToggleHold(int32_t button);

@@ -28,6 +28,8 @@ bool Win32Files::Exists(const std::string& path) {
 }
 
 bool Win32Files::Copy(const std::string& from, const std::string& to) {
+    DropIniCache(from);
+    DropIniCache(to);
     if (!CopyFileA(from.c_str(), to.c_str(), FALSE)) return false;
     const DWORD attributes = GetFileAttributesA(to.c_str());
     if (attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY) != 0) {
@@ -50,4 +52,7 @@ bool Win32Files::Rename(const std::string& from, const std::string& to) {
     return MoveFileExA(from.c_str(), to.c_str(), MOVEFILE_WRITE_THROUGH) != 0;
 }
 
-bool Win32Files::Delete(const std::string& path) { return DeleteFileA(path.c_str()) != 0; }
+bool Win32Files::Delete(const std::string& path) {
+    DropIniCache(path);
+    return DeleteFileA(path.c_str()) != 0;
+}

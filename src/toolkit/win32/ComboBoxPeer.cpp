@@ -10,6 +10,7 @@ namespace {
 
 constexpr int kEntriesShown = 12;
 constexpr auto kClosedBox = static_cast<WPARAM>(-1);
+constexpr UINT kChosenAgain = 0x1000;  // ours, beside the system's codes
 
 }  // namespace
 
@@ -27,20 +28,41 @@ int32_t ComboBoxPeer::Selected() const {
 void ComboBoxPeer::OnCommand(UINT code) {
     switch (code) {
         case CBN_DROPDOWN:
-            cancelled_ = false;
+            cancelled_ = chosen_ = moved_ = setByProgram_ = false;
             break;
         case CBN_SELCHANGE:
+            moved_ = true;
+            chosen_ = false;
             box_.SetListIndex(Selected());
+            break;
+        case CBN_SELENDOK:
+            chosen_ = !moved_;
             break;
         case CBN_SELENDCANCEL:
             cancelled_ = true;
             break;
         case CBN_CLOSEUP:
-            // Leaving the list may take the moves in it back without a word.
-            if (cancelled_ && Selected() != box_.ListIndex()) box_.SetListIndex(Selected());
+            CloseUp();
+            break;
+        case kChosenAgain:
+            if (chosen_) box_.SetListIndex(Selected());
+            chosen_ = false;
             break;
         default:
             break;
+    }
+}
+
+void ComboBoxPeer::CloseUp() {
+    if (chosen_) {
+        // The entry that was selected already: the system needn't say more, or says it after this.
+        PostMessageW(GetParent(Window()), WM_COMMAND, MAKEWPARAM(0, kChosenAgain),
+                     reinterpret_cast<LPARAM>(Window()));
+    } else if (cancelled_ && setByProgram_) {
+        Follow();
+    } else if (cancelled_ && Selected() != box_.ListIndex()) {
+        // Leaving the list may take the moves in it back without a word.
+        box_.SetListIndex(Selected());
     }
 }
 
@@ -65,6 +87,7 @@ void ComboBoxPeer::PutAt(const RECT& place) {
 void ComboBoxPeer::FollowMore() {
     FollowItems();
     if (Selected() == box_.ListIndex()) return;
+    setByProgram_ = true;
     SendMessageW(Window(), CB_SETCURSEL, static_cast<WPARAM>(box_.ListIndex()), 0);
 }
 

@@ -21,8 +21,13 @@ class ComboBoxPeer : public WindowPeer {
   private:
     int32_t Selected() const;
     void FollowItems();
+    void CloseUp();
 
     ComboBox& box_;
     std::vector<std::string> shown_;
+    // Since the list was dropped down.
     bool cancelled_ = false;
+    bool chosen_ = false;  // without a move before
+    bool moved_ = false;
+    bool setByProgram_ = false;
 };

@@ -32,13 +32,22 @@ struct MultiPanelFlight : testing::Test, VirtualCockpit {
         std::string what;
         for (int n = 0; in >> what >> n;) {
             const auto up = static_cast<int16_t>(n > 0), speed = static_cast<int16_t>(std::abs(n));
-            if (what == "selector") Logic().SelectorChange(n, std::exchange(position, n));
-            if (what == "knob") Logic().Rotary(up, speed);
-            if (what == "trim") Logic().Trim(up, speed);
-            if (what == "flaps") Logic().Flaps(up);
-            if (what == "click") Logic().ButtonClick(n);
-            if (what == "long") Logic().ButtonLongClick(n);
-            if (what == "throttle") Logic().AutoThrottleChange(speed);
+            if (what == "selector")
+                Logic().SelectorChange(n, std::exchange(position, n));
+            else if (what == "knob")
+                Logic().Rotary(up, speed);
+            else if (what == "trim")
+                Logic().Trim(up, speed);
+            else if (what == "flaps")
+                Logic().Flaps(up);
+            else if (what == "click")
+                Logic().ButtonClick(n);
+            else if (what == "long")
+                Logic().ButtonLongClick(n);
+            else if (what == "throttle")
+                Logic().AutoThrottleChange(speed);
+            else
+                ADD_FAILURE() << "nobody can " << what;
         }
         Tick();
         for (const auto& stroke : machine.keyboard.typed) sent_ << " " << stroke[0].wVk;

@@ -157,4 +157,29 @@ TEST_F(MultiPanelFlight, RecordsGoOutInsteadOfTheBuiltInBehaviour) {
     EXPECT_EQ(Do("selector 4 selector 5"), "+2 16") << "SHIFT; a key is no button to release";
 }
 
+// Twenty pulses in 200 ms are fast only to a sampler whose period is long enough to see them all.
+TEST_F(MultiPanelLogicTest, AccelerationsFollowSelectorAndProfile) {
+    const auto speeds = [this] {
+        machine.loop.Advance(2000);
+        for (int i = 0; i < 20; ++i) {
+            device.SendReport({0, 0x28, 0, 0x08});
+            device.SendReport({0, 0x08, 0, 0});
+            machine.loop.Advance(10);
+        }
+        const MultiPanelPicture& picture = Multi().OnScreen;
+        return picture.labSpeed.Caption.Get() + " " + picture.labSpeed2.Caption.Get();
+    };
+    Fly("", "RotaryAccelerationHDG=50\r\nTrimAcceleration=50\r\n");
+    Do("selector 4");
+    EXPECT_EQ(speeds(), "20 20");
+    Do("selector 3");
+    EXPECT_EQ(speeds(), "1 20");
+    Do("selector 4");
+    EXPECT_EQ(speeds(), "20 20");
+    Fly("", "");
+    EXPECT_EQ(speeds(), "1 1") << "with the selector at rest";
+    Fly("", "RotaryAccelerationHDG=300\r\nTrimAcceleration=306\r\n");
+    EXPECT_EQ(speeds(), "1 1") << "held to 255: no such period has ended yet";
+}
+
 }  // namespace

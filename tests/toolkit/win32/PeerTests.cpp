@@ -19,6 +19,10 @@ namespace {
 
 HWND WindowOf(const Control& control) { return WindowPeer::Of(control)->Window(); }
 
+LRESULT Tell(const Control& control, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
+    return SendMessageW(WindowOf(control), message, wParam, lParam);
+}
+
 std::string TextOf(const Control& control) {
     wchar_t text[100];
     const int length = GetWindowTextW(WindowOf(control), text, 100);
@@ -39,19 +43,10 @@ void Press(WPARAM key, LPARAM flags = 0) {
     Pump();
 }
 
-void ClickAt(HWND window, int x, int y) {
-    SendMessageW(window, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(x, y));
-    SendMessageW(window, WM_LBUTTONUP, 0, MAKELPARAM(x, y));
-}
-
-std::string EntriesOf(const ComboBox& box) {
-    std::string all;
-    for (WPARAM i = 0; SendMessageW(WindowOf(box), CB_GETLBTEXTLEN, i, 0) != CB_ERR; ++i) {
-        wchar_t text[100] = L"";
-        SendMessageW(WindowOf(box), CB_GETLBTEXT, i, reinterpret_cast<LPARAM>(text));
-        all += FromWide(text) + ' ';
-    }
-    return all + '/' + FormatInteger(SendMessageW(WindowOf(box), CB_GETCURSEL, 0, 0));
+RECT PlaceOf(const Control& control) {
+    RECT place;
+    GetWindowRect(WindowOf(control), &place);
+    return place;
 }
 
 COLORREF PixelOf(const Control& control, int x, int y) {
@@ -76,19 +71,40 @@ std::vector<COLORREF> Drawn(const std::string& text, Alignment align) {
 struct PeerTest : testing::Test {
     PeerTest() { form.Move(1500, 1500, 6000, 4208); }
 
+    void Show() {
+        form.Load();
+        form.Show();
+        Pump();
+    }
+    void Count(CommandButton& button) {
+        button.Click.Connect([this] { ++clicks; });
+    }
+
     Win32Ui ui;
     Form form{ui};
+    int clicks = 0;
+    std::vector<int32_t> seen;
+};
+
+struct ListPeerTest : PeerTest {
+    ListPeerTest() {
+        for (int i = 0; i < 40; ++i) box.AddItem("Caf\xE9 " + FormatInteger(i));
+        box.Click.Connect([this] { seen.push_back(box.ListIndex()); });
+        box.Move(0, 0, 3000, 330);
+        Show();
+        SetFocus(WindowOf(box));
+    }
+
+    ComboBox box{&form};
 };
 
 }  // namespace
 
 TEST_F(PeerTest, NativeButtonClicksOnceAndMayBeChangedInItsHandler) {
-    Picture picture(&form);
-    CommandButton button(&picture);
+    CommandButton button(&form);
     button.Move(0, 0, 900, 330);
     button.Caption = "Setup";
     form.Load();
-    int clicks = 0;
     button.Click.Connect([&] {
         ++clicks;
         button.Caption = "Caf\xE9 \x80";
@@ -96,7 +112,7 @@ TEST_F(PeerTest, NativeButtonClicksOnceAndMayBeChangedInItsHandler) {
         button.Visible = false;
     });
     EXPECT_EQ(TextOf(button), "Setup");
-    SendMessageW(WindowOf(button), BM_CLICK, 0, 0);
+    Tell(button, BM_CLICK);
     EXPECT_EQ(clicks, 1);
     EXPECT_EQ(TextOf(button), "Caf\xE9 \x80");
     EXPECT_FALSE(IsWindowEnabled(WindowOf(button)));
@@ -107,91 +123,78 @@ TEST_F(PeerTest, TabsFollowBothWaysAndClickOnce) {
     tabs.Move(0, 0, 5000, 400);
     for (const char* name : {"General", "Multi"}) tabs.AddTab(0, name, name);
     form.Load();
-    const HWND window = WindowOf(tabs);
-    std::vector<int32_t> seen;
     tabs.Click.Connect([&] { seen.push_back(tabs.SelectedItem()); });
-
     tabs.Select(2);
-    EXPECT_EQ(SendMessageW(window, TCM_GETCURSEL, 0, 0), 1);
+    EXPECT_EQ(Tell(tabs, TCM_GETCURSEL), 1);
     tabs.AddTab(1, "Radio", "Radio");
-    EXPECT_EQ(SendMessageW(window, TCM_GETITEMCOUNT, 0, 0), 3);
-    EXPECT_EQ(SendMessageW(window, TCM_GETCURSEL, 0, 0), 2);
-    EXPECT_EQ(seen, (std::vector<int32_t>{2}));
+    EXPECT_EQ(Tell(tabs, TCM_GETITEMCOUNT), 3);
+    EXPECT_EQ(Tell(tabs, TCM_GETCURSEL), 2);
 
     RECT first;
-    SendMessageW(window, TCM_GETITEMRECT, 0, reinterpret_cast<LPARAM>(&first));
-    ClickAt(window, first.left + 5, first.top + 5);
+    Tell(tabs, TCM_GETITEMRECT, 0, reinterpret_cast<LPARAM>(&first));
+    Tell(tabs, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(first.left + 5, first.top + 5));
     Pump();
     EXPECT_EQ(seen, (std::vector<int32_t>{2, 1}));
 }
 
-TEST_F(PeerTest, ListFollowsBothWaysAndClicksOnce) {
-    Frame frame(&form);
-    frame.Move(0, 0, 5000, 3000);
-    ComboBox box(&frame);
-    box.Move(150, 300, 3000, 330);
-    box.AddItem("Caf\xE9");
-    form.Load();
-    form.Show();
-    std::vector<int32_t> seen;
-    box.Click.Connect([&] { seen.push_back(box.ListIndex()); });
-    box.AddItem("B");
-    box.AddItem("C");
-    box.SetListIndex(2);
-    EXPECT_EQ(EntriesOf(box), "Caf\xE9 B C /2");
-    EXPECT_EQ(seen, (std::vector<int32_t>{2}));
-
-    SetFocus(WindowOf(box));
+TEST_F(ListPeerTest, FollowsBothWaysAndClicksOnce) {
+    box.AddItem("last");
+    box.SetListIndex(40);
+    EXPECT_EQ(TextOf(box), "last");
     Press(VK_UP);
-    Press(VK_HOME);
-    EXPECT_EQ(seen, (std::vector<int32_t>{2, 1, 0}));
-
-    box.Click.Connect([&] {
+    EXPECT_EQ(TextOf(box), "Caf\xE9 39");
+    box.Click.Connect([this] {
         box.Clear();
-        for (const char* item : {"D", "E"}) box.AddItem(item);
+        box.AddItem("new");
     });
-    Press(VK_DOWN);
-    EXPECT_EQ(seen, (std::vector<int32_t>{2, 1, 0, 1}));
-    EXPECT_EQ(EntriesOf(box), "D E /-1") << "refilled by the handler";
+    Press(VK_HOME);
+    EXPECT_EQ(seen, (std::vector<int32_t>{40, 39, 0}));
+    EXPECT_EQ(TextOf(box), "") << "refilled by the handler";
+    EXPECT_EQ(Tell(box, CB_GETCOUNT), 1);
 }
 
-TEST_F(PeerTest, LeavingAnOpenListSelectsWhatItShowsThen) {
-    ComboBox box(&form);
-    box.Move(0, 0, 3000, 330);
-    for (const char* item : {"A", "B", "C"}) box.AddItem(item);
+TEST_F(ListPeerTest, LeavingItSelectsWhatItShowsThen) {
     box.SetListIndex(0);
-    form.Load();
-    form.Show();
-    SetFocus(WindowOf(box));
-    std::vector<int32_t> seen;
-    box.Click.Connect([&] { seen.push_back(box.ListIndex()); });
     for (const WPARAM shown : {1, 0}) {
-        SendMessageW(WindowOf(box), CB_SHOWDROPDOWN, TRUE, 0);
+        Tell(box, CB_SHOWDROPDOWN, TRUE);
         Press(VK_DOWN);
-        SendMessageW(WindowOf(box), CB_SETCURSEL, shown, 0);
+        Tell(box, CB_SETCURSEL, shown);
         Press(VK_ESCAPE);
-        EXPECT_EQ(box.ListIndex(), static_cast<int32_t>(shown));
     }
-    EXPECT_EQ(seen, (std::vector<int32_t>{1, 2, 0}));
+    EXPECT_EQ(seen, (std::vector<int32_t>{0, 1, 2, 0}));
 }
 
-TEST_F(PeerTest, ClosedListHasItsHeightAndTheOpenOneRoomForTwelve) {
-    ComboBox box(&form);
-    for (int i = 0; i < 40; ++i) box.AddItem("x");
-    form.Load();
-    form.Show();
+TEST_F(ListPeerTest, ChoosingTheSameEntryClicksOnce) {
+    box.SetListIndex(0);
+    Tell(box, CB_SHOWDROPDOWN, TRUE);
+    Press(VK_RETURN);
+    EXPECT_EQ(seen, (std::vector<int32_t>{0, 0}));
+    Tell(box, CB_SHOWDROPDOWN, TRUE);
+    COMBOBOXINFO parts{};
+    parts.cbSize = sizeof parts;
+    GetComboBoxInfo(WindowOf(box), &parts);
+    SendMessageW(parts.hwndList, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
+    SendMessageW(parts.hwndList, WM_LBUTTONUP, 0, MAKELPARAM(5, 5));
+    Pump();
+    EXPECT_EQ(seen, (std::vector<int32_t>{0, 0, 0}));
+    Tell(box, CB_SHOWDROPDOWN, TRUE);
+    Press(VK_DOWN);
+    Press(VK_RETURN);
+    EXPECT_EQ(seen, (std::vector<int32_t>{0, 0, 0, 1})) << "a move has clicked already";
+}
+
+TEST_F(ListPeerTest, ClosedItHasItsHeightAndOpenRoomForTwelve) {
+    COMBOBOXINFO parts{};
+    parts.cbSize = sizeof parts;
+    GetComboBoxInfo(WindowOf(box), &parts);
     for (const int height : {24, 30}) {
-        box.Move(0, 0, 3000, height * kTwipsPerPixel);
-        RECT place;
-        GetWindowRect(WindowOf(box), &place);
+        box.Height = height * kTwipsPerPixel;
+        RECT place = PlaceOf(box);
         EXPECT_EQ(place.bottom - place.top, height);
-        COMBOBOXINFO parts{};
-        parts.cbSize = sizeof parts;
-        GetComboBoxInfo(WindowOf(box), &parts);
-        SendMessageW(WindowOf(box), CB_SHOWDROPDOWN, TRUE, 0);
+        Tell(box, CB_SHOWDROPDOWN, TRUE);
         GetClientRect(parts.hwndList, &place);
-        SendMessageW(WindowOf(box), CB_SHOWDROPDOWN, FALSE, 0);
-        EXPECT_EQ(place.bottom / SendMessageW(WindowOf(box), CB_GETITEMHEIGHT, 0, 0), 12);
+        Tell(box, CB_SHOWDROPDOWN, FALSE);
+        EXPECT_EQ(place.bottom / Tell(box, CB_GETITEMHEIGHT), 12);
     }
 }
 
@@ -200,37 +203,23 @@ TEST_F(PeerTest, FrameIsANativeGroupThatHandsOnWhatItsControlsTell) {
     Frame frame(&form);
     frame.Move(0, 0, 5000, 3000);
     frame.Caption = "Profiles";
-    ComboBox box(&frame);
-    box.Move(150, 300, 3000, 330);
     Label label(&frame);
-    label.Move(150, 900, 900, 300);
     label.ForeColor = 0x0000FF;
     CommandButton button(&frame);
     button.Move(150, 1500, 900, 330);
-    form.Load();
-    form.Show();
-    Pump();
-    wchar_t name[20];
-    GetClassNameW(WindowOf(frame), name, 20);
-    EXPECT_STREQ(name, L"Button");
+    Count(button);
+    Show();
     EXPECT_EQ(GetWindowLongW(WindowOf(frame), GWL_STYLE) & BS_TYPEMASK, BS_GROUPBOX);
     EXPECT_EQ(TextOf(frame), "Profiles");
     EXPECT_EQ(PixelOf(frame, 250, 150), GetSysColor(COLOR_BTNFACE));
-
-    int clicks = 0;
-    button.Click.Connect([&] { ++clicks; });
     SetFocus(WindowOf(before));
     Press(VK_TAB);
-    EXPECT_EQ(GetFocus(), WindowOf(box));
-    Press(VK_TAB);
-    EXPECT_EQ(GetFocus(), WindowOf(button));
     Press(VK_RETURN);
-    ClickAt(WindowOf(button), 5, 5);
-    EXPECT_EQ(clicks, 2);
+    EXPECT_EQ(clicks, 1);
 
     const HDC dc = GetDC(WindowOf(label));
-    SendMessageW(WindowOf(frame), WM_CTLCOLORSTATIC, reinterpret_cast<WPARAM>(dc),
-                 reinterpret_cast<LPARAM>(WindowOf(label)));
+    Tell(frame, WM_CTLCOLORSTATIC, reinterpret_cast<WPARAM>(dc),
+         reinterpret_cast<LPARAM>(WindowOf(label)));
     EXPECT_EQ(GetTextColor(dc), 0x0000FFu);
     ReleaseDC(WindowOf(label), dc);
 }
@@ -242,12 +231,12 @@ TEST_F(PeerTest, StatusBarSharesTheWidthAndShowsItsTexts) {
     form.Load();
     version.Text = "\xA9 10";
     wchar_t text[20];
-    SendMessageW(WindowOf(bar), SB_GETTEXTW, 1, reinterpret_cast<LPARAM>(text));
+    Tell(bar, SB_GETTEXTW, 1, reinterpret_cast<LPARAM>(text));
     EXPECT_EQ(FromWide(text), "\xA9 10");
 
     form.Width = 9000;
     int ends[2];
-    ASSERT_EQ(SendMessageW(WindowOf(bar), SB_GETPARTS, 2, reinterpret_cast<LPARAM>(ends)), 2);
+    ASSERT_EQ(Tell(bar, SB_GETPARTS, 2, reinterpret_cast<LPARAM>(ends)), 2);
     RECT client;
     GetClientRect(WindowOf(form), &client);
     EXPECT_EQ(ends[1], client.right);
@@ -264,10 +253,8 @@ TEST_F(PeerTest, UsersMoveReachesTheFormAndHiddenWindowsFollowIt) {
 
     form.Left = 1200;
     form.Caption = "Orvo";
-    RECT place;
-    GetWindowRect(WindowOf(form), &place);
-    EXPECT_EQ(place.left, 80);
-    EXPECT_EQ(place.top, 44);
+    EXPECT_EQ(PlaceOf(form).left, 80);
+    EXPECT_EQ(PlaceOf(form).top, 44);
     EXPECT_EQ(TextOf(form), "Orvo");
 
     EnableWindow(WindowOf(form), FALSE);
@@ -283,10 +270,8 @@ TEST_F(PeerTest, ContentsNeverCoverTheStatusBar) {
     page.Move(0, 0, 6000, 4500);
     StatusBar bar(&form);
     bar.AddPanel("Status", "Session", 1);
-    form.Load();
-    form.Show();
-    RECT place;
-    GetWindowRect(WindowOf(bar), &place);
+    Show();
+    RECT place = PlaceOf(bar);
     MapWindowPoints(nullptr, WindowOf(form), reinterpret_cast<POINT*>(&place), 2);
     EXPECT_EQ(place.top, 300);
     RECT client;
@@ -298,14 +283,11 @@ TEST_F(PeerTest, ContentsNeverCoverTheStatusBar) {
 
     page.Height = 1500;
     form.Top = 900;
-    RECT after;
-    GetWindowRect(WindowOf(form), &after);
-    EXPECT_EQ(after.bottom - after.top, 281) << "as set, where there is room";
+    EXPECT_EQ(PlaceOf(form).bottom - PlaceOf(form).top, 281) << "as set, where there is room";
 }
 
 TEST_F(PeerTest, ShowBringsAMinimisedFormBackAndACoveredOneToTheFront) {
-    form.Load();
-    form.Show();
+    Show();
     ShowWindow(WindowOf(form), SW_MINIMIZE);
     Pump();
     ASSERT_TRUE(IsIconic(WindowOf(form)));
@@ -327,9 +309,9 @@ TEST_F(PeerTest, EndOfTheUsersSessionIsTold) {
     std::string story;
     form.Unloaded.Connect([&] { story += "unloaded "; });
     form.SessionEnding.Connect([&] { story += "ending "; });
-    SendMessageW(WindowOf(form), WM_ENDSESSION, FALSE, 0);
+    Tell(form, WM_ENDSESSION, FALSE);
     EXPECT_EQ(story, "");
-    SendMessageW(WindowOf(form), WM_ENDSESSION, TRUE, 0);
+    Tell(form, WM_ENDSESSION, TRUE);
     EXPECT_EQ(story, "unloaded ending ");
 }
 
@@ -337,10 +319,8 @@ TEST_F(PeerTest, EnterPressesTheFocusedButtonOnce) {
     TabStrip tabs(&form);
     CommandButton button(&form);
     button.Move(0, 600, 900, 330);
-    form.Load();
-    form.Show();
-    int clicks = 0;
-    button.Click.Connect([&] { ++clicks; });
+    Show();
+    Count(button);
     SetFocus(WindowOf(button));
     Press(VK_RETURN);
     Press(VK_RETURN, LPARAM{KF_REPEAT} << 16);
@@ -355,8 +335,7 @@ TEST_F(PeerTest, HiddenPageGivesTheKeyboardAway) {
     Container page(&form);
     CommandButton first(&page);
     CommandButton second(&page);
-    form.Load();
-    form.Show();
+    Show();
     SetFocus(WindowOf(first));
     page.Visible = false;
     EXPECT_EQ(GetFocus(), WindowOf(tabs));
@@ -386,9 +365,8 @@ TEST_F(PeerTest, PictureTellsScreenReadersItsLabelsAndButtonsItsGround) {
 
     picture.BackColor = 0x403020;
     const HDC dc = GetDC(WindowOf(button));
-    const LRESULT brush =
-        SendMessageW(WindowOf(picture), WM_CTLCOLORBTN, reinterpret_cast<WPARAM>(dc),
-                     reinterpret_cast<LPARAM>(WindowOf(button)));
+    const LRESULT brush = Tell(picture, WM_CTLCOLORBTN, reinterpret_cast<WPARAM>(dc),
+                               reinterpret_cast<LPARAM>(WindowOf(button)));
     ReleaseDC(WindowOf(button), dc);
     LOGBRUSH ground{};
     ASSERT_NE(GetObjectW(reinterpret_cast<HGDIOBJ>(brush), sizeof ground, &ground), 0);
