@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <span>
+#include <utility>
 
 #include "base/Text.h"
 #include "config/IniKey.h"
@@ -77,15 +78,24 @@ bool ProfileStore::ReadProfileList() {
     return whole;
 }
 
+// What the file says counts before what has been bound meanwhile.
 bool ProfileStore::ReadAircraftList() {
     aircraftsInFile_.clear();
     const bool whole = ReadSection(kAircrafts, aircraftsInFile_);
+    const std::vector<Aircraft> bound = std::exchange(aircrafts_, {});
     for (const auto& [key, profile] : aircraftsInFile_) AddAircraft(FromIniKey(key), profile);
+    for (const Aircraft& each : bound) AddAircraft(each.title, each.profile);
     return whole;
 }
 
-void ProfileStore::SaveProfileList() {
+bool ProfileStore::ReadWhatIsMissing() {
+    const size_t names = profileNames_.size();
     if (!profilesWhole_) profilesWhole_ = ReadProfileList();
+    if (!aircraftsWhole_) aircraftsWhole_ = ReadAircraftList();
+    return profileNames_.size() != names;
+}
+
+void ProfileStore::SaveProfileList() {
     if (!profilesWhole_) return;
     IniEntries entries;
     for (const std::string& name : profileNames_) {
@@ -95,7 +105,6 @@ void ProfileStore::SaveProfileList() {
 }
 
 void ProfileStore::SaveAircraftList() {
-    if (!aircraftsWhole_) aircraftsWhole_ = ReadAircraftList();
     if (!aircraftsWhole_) return;
     IniEntries entries;
     for (const Aircraft& each : aircrafts_) {

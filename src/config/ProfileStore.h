@@ -25,6 +25,9 @@ class ProfileStore {
 
     void LoadProfileList();
     void LoadAircraftList();
+    // Another program may hold the file at that moment: reads what may be missing of the lists, if
+    // anything may. True when there are more names than before.
+    bool ReadWhatIsMissing();
     // The whole list or, when the file can't be written or couldn't be read as a whole, nothing.
     void SaveProfileList();
     void SaveAircraftList();

@@ -28,6 +28,7 @@ bool AircraftBinding::BindAircraft(std::string title) {
     binding_ = true;
     ReadGear();
     currentAircraft_ = std::move(title);
+    if (parts_.profiles.ReadWhatIsMissing()) FillProfileCombo();
     if (SettleProfile()) {
         SelectCurrentProfile();
         parts_.profiles.SaveAircraftList();

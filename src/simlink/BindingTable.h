@@ -27,8 +27,8 @@ class BindingTable {
     // Of the records only FSEvent.
     void SetDefaults() const;
 
-    // Defaults, then what the section of the current profile says. Key names count with their case;
-    // unknown ones are passed over.
+    // Defaults, then what the section of the current profile says; a file that can't be read says
+    // nothing. Key names count with their case; unknown ones are passed over.
     void Load(const ProfileStore& profiles, const std::string& section) const;
 
     // Writes what differs from the defaults and deletes what doesn't, all or nothing.

@@ -23,27 +23,31 @@ bool IsVirtualButton(uint8_t joystick, uint8_t button) {
            button <= kButtonsOfJoystick;
 }
 
+int32_t OffsetOf(uint8_t joystick) { return kVirtualButtons + (joystick - kFirstJoystick) * 4; }
+
 }  // namespace
 
 void EventOutput::SetVirtualButton(uint8_t VJoystick, uint8_t VButton, bool State, bool Process) {
     if (!IsVirtualButton(VJoystick, VButton)) return;
-    ChangeButton(VJoystick, VButton, State);
+    WriteButton(VJoystick, VButton, State, ReadButtons(VJoystick).value_or(0));
     int32_t result = 0;
     if (Process) fsuipc_.FSUIPC_Process(result);
 }
 
-bool EventOutput::ChangeButton(uint8_t joystick, uint8_t button, bool state) {
-    const int32_t offset = kVirtualButtons + (joystick - kFirstJoystick) * 4;
+std::optional<uint32_t> EventOutput::ReadButtons(uint8_t joystick) {
     std::array<uint8_t, 4> buttons{};
-    const auto count = static_cast<int32_t>(buttons.size());
     int32_t result = 0;
-    fsuipc_.FSUIPC_Read(offset, count, buttons.data(), result);
-    const bool answered = fsuipc_.FSUIPC_Process(result);
+    fsuipc_.FSUIPC_Read(OffsetOf(joystick), 4, buttons.data(), result);
+    if (!fsuipc_.FSUIPC_Process(result)) return std::nullopt;
+    return LoadLE32(buttons.data());
+}
+
+void EventOutput::WriteButton(uint8_t joystick, uint8_t button, bool state, uint32_t before) {
     const uint32_t bit = 1U << (button - 1);
-    const uint32_t before = LoadLE32(buttons.data());
+    std::array<uint8_t, 4> buttons{};
     StoreLE32(buttons.data(), state ? before | bit : before & ~bit);
-    fsuipc_.FSUIPC_Write(offset, count, buttons.data(), result);
-    return answered;
+    int32_t result = 0;
+    fsuipc_.FSUIPC_Write(OffsetOf(joystick), 4, buttons.data(), result);
 }
 
 void EventOutput::SendKeyStroke(uint8_t KeyCode, uint8_t KeyQualifiers) {
@@ -78,11 +82,19 @@ void EventOutput::SendAction(ActionRecord record, int times) {
 bool EventOutput::SendOnce(const ActionRecord& record) {
     const uint8_t first = record.VJoystickOrKeyCode;
     const uint8_t second = record.VButtonOrKeyQualifiers;
-    if (record.FSEvent == ActionKind::VButton) {
-        return IsVirtualButton(first, second) && ChangeButton(first, second, true) &&
-               ChangeButton(first, second, false);
-    }
+    if (record.FSEvent == ActionKind::VButton) return PressAndRelease(first, second);
     if (record.FSEvent != ActionKind::VKey) return false;
     SendKeyStroke(first, second);
     return true;
+}
+
+// A press that the simulator may have taken is followed by its release in any case.
+bool EventOutput::PressAndRelease(uint8_t joystick, uint8_t button) {
+    if (!IsVirtualButton(joystick, button)) return false;
+    const auto before = ReadButtons(joystick);
+    if (!before) return false;
+    WriteButton(joystick, button, true, *before);
+    const auto pressed = ReadButtons(joystick);
+    WriteButton(joystick, button, false, pressed.value_or(*before));
+    return pressed.has_value();
 }

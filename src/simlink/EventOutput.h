@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 
 #include "platform/KeyboardPort.h"
 #include "platform/MessageLoop.h"
@@ -17,7 +18,8 @@ class EventOutput {
     // Presses (State) or releases one virtual button. The change goes out with the next exchange,
     // or with Process at once; what waited before it has been sent by then, so that a press and a
     // release in a row arrive as two. VJoystick 64 to 72, VButton 1 to 32; nothing is sent for
-    // other numbers.
+    // other numbers. Where the simulator doesn't answer, the joystick's other buttons count as
+    // released.
     void SetVirtualButton(uint8_t VJoystick, uint8_t VButton, bool State, bool Process);
 
     // Presses and releases a key with its qualifiers (1 SHIFT, 2 CTRL, 4 TAB) in one go, in the
@@ -29,14 +31,17 @@ class EventOutput {
     void SendControl(int32_t Control, int32_t Parameter);
 
     // Does `times` times what a VButton record (press and release) or a VKey record says, as long
-    // as the simulator answers and the session lasts. Nothing for other records. The record is a
-    // copy: its holder may be loaded anew on the way.
+    // as the simulator answers and the session lasts; no button is left down. Nothing for other
+    // records. The record is a copy: its holder may be loaded anew on the way.
     void SendAction(ActionRecord record, int times = 1);
 
   private:
-    // False when the simulator hasn't answered. Only for numbers that a virtual button has.
-    bool ChangeButton(uint8_t joystick, uint8_t button, bool state);
+    // Nothing when the simulator hasn't answered.
+    std::optional<uint32_t> ReadButtons(uint8_t joystick);
+    void WriteButton(uint8_t joystick, uint8_t button, bool state, uint32_t before);
+    // False when there is no use in going on.
     bool SendOnce(const ActionRecord& record);
+    bool PressAndRelease(uint8_t joystick, uint8_t button);
 
     modFSUIPC& fsuipc_;
     KeyboardPort& keyboard_;

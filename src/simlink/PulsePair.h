@@ -10,19 +10,16 @@ class PulsePair {
 
     // Takes one report: whether it has the pulse bit, and its clock. True when it makes a step: the
     // second report without the bit that comes within the window after one with it. A report that
-    // comes for another reason counts too. The step lasts until StepTaken.
+    // comes for another reason counts too.
     bool Report(bool bit, uint32_t clock) {
         if (bit) {
             tick_ = clock;
             return false;
         }
         if (clock - tick_ >= window_) return false;
-        if (armed_) return true;
-        armed_ = true;
-        return false;
+        armed_ = !armed_;
+        return !armed_;
     }
-
-    void StepTaken() { armed_ = false; }
 
   private:
     uint32_t window_;

@@ -93,11 +93,15 @@ TEST_F(ProfileStoreTest, SavesArriveWholeOrNotAtAll) {
             ASSERT_TRUE(whole || found == before || found == after) << "at change " << changes;
         }
     }
-    for (const FileCall call : {FileCall::Copy, FileCall::Write}) {
-        machine.files.Refuse(call, 1);
-        ProfileStore store = Started(before);
+    const std::string names = "[Profiles]\r\nJet= \r\n";
+    for (const auto& [call, times] : {std::pair{FileCall::Copy, 2}, {FileCall::Write, 1}}) {
+        machine.files.Refuse(call, times);
+        ProfileStore store = Started(names + before);
+        store.AddAircraft(std::string(4000, 'l') + "3", "Default");
         store.AddAircraft("New", "B");
-        EXPECT_EQ(Saved(store).size(), after.size()) << "what couldn't be read at start is there";
+        EXPECT_EQ(Saved(store), names + before) << "not before all of it has been read";
+        store.ReadWhatIsMissing();
+        EXPECT_EQ(Saved(store), names + after) << "what the file says counts first";
     }
 }
 

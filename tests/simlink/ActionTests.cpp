@@ -57,6 +57,10 @@ TEST_F(ActionTest, VirtualButtonsAreBitsAndEachPressIsSeenBeforeItsRelease) {
     for (const auto& [stick, button] : nowhere) output.SendAction({VButton, stick, button, 0});
     fsuipc.FSUIPC_Process(result);
     EXPECT_TRUE(seen.empty() && result == kFsuipcEmptyBatch);
+    machine.ipc.TimeOut(11);
+    output.SendAction({VButton, 64, 1, 0}, 20);
+    fsuipc.FSUIPC_Process(result);
+    EXPECT_TRUE(seen.empty() && result == kFsuipcEmptyBatch) << "no press without its release";
     machine.ipc.RemoveWindows();
     const uint32_t before = machine.clock.GetTickCount();
     output.SendAction({VButton, 64, 1, 0}, 20);

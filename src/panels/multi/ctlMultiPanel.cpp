@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 #include "platform/Wait.h"
 
@@ -57,32 +58,32 @@ void ctlMultiPanel::RotAcceleration(uint8_t value) { rotSpeed_.SetPeriod(value *
 
 void ctlMultiPanel::TrimAcceleration(uint8_t value) { trimSpeed_.SetPeriod(value * 3U); }
 
+// What the events do may let the next report in, which is then handled first and as a whole: so it
+// must find this one taken, and what is drawn is drawn before.
 void ctlMultiPanel::HandleReport(int32_t state, uint32_t clock) {
+    const bool first = std::exchange(firstReportPending_, false);
+    const Change change = {std::exchange(lastState_, state), state};
     for (Pulses& pulses : pulses_) CheckPulse(pulses, state, clock);
-    if (Differs(kSelectorMask, state) || firstReportPending_) {
-        SelectorChange.Raise(state & kSelectorMask, lastState_ & kSelectorMask);
-        ShowSelector(state & kSelectorMask);
+    if (first || change.Touches(kSelectorMask)) {
+        TakeSelector(state & kSelectorMask, change.before & kSelectorMask);
     }
-    for (const int32_t mask : kButtonOrder) CheckButton(mask, state);
-    CheckFlaps(MultiPanelBit::kFlapsUp, state);
-    CheckFlaps(MultiPanelBit::kFlapsDown, state);
-    CheckAutoThrottle(state);
-    lastState_ = state;
-    firstReportPending_ = false;
+    for (const int32_t mask : kButtonOrder) CheckButton(mask, change);
+    CheckFlaps(MultiPanelBit::kFlapsUp, change);
+    CheckFlaps(MultiPanelBit::kFlapsDown, change);
+    if (first || change.Touches(MultiPanelBit::kAutoThrottleArm)) TakeAutoThrottle(state);
 }
 
 void ctlMultiPanel::CheckPulse(Pulses& pulses, int32_t state, uint32_t clock) {
     const bool bit = (state & pulses.bit) != 0;
     if (bit) pulses.speed.Pulse();
     if (!pulses.pair.Report(bit, clock)) return;
-    pulses.step.Raise(pulses.speed.Speed());
     (OnScreen.*pulses.show)();
-    pulses.pair.StepTaken();
+    pulses.step.Raise(pulses.speed.Speed());
 }
 
-void ctlMultiPanel::CheckButton(int32_t mask, int32_t state) {
-    if (!Differs(mask, state)) return;
-    if (state & mask) {
+void ctlMultiPanel::CheckButton(int32_t mask, const Change& change) {
+    if (!change.Touches(mask)) return;
+    if (change.after & mask) {
         ButtonDown.Raise(mask);
         OnScreen.ShowButton(mask, true);
         press_.Down(mask);
@@ -95,28 +96,28 @@ void ctlMultiPanel::CheckButton(int32_t mask, int32_t state) {
     ButtonClick.Raise(mask);
 }
 
-void ctlMultiPanel::CheckFlaps(int32_t mask, int32_t state) {
-    if (!Differs(mask, state)) return;
-    if (!(state & mask)) {
+void ctlMultiPanel::CheckFlaps(int32_t mask, const Change& change) {
+    if (!change.Touches(mask)) return;
+    if (!(change.after & mask)) {
         OnScreen.ShowFlaps(0);
     } else if (mask == MultiPanelBit::kFlapsUp) {
-        FlapsUp.Raise();
         OnScreen.ShowFlaps(1);
+        FlapsUp.Raise();
     } else {
-        FlapsDown.Raise();
         OnScreen.ShowFlaps(-1);
+        FlapsDown.Raise();
     }
 }
 
-void ctlMultiPanel::CheckAutoThrottle(int32_t state) {
-    if (!Differs(MultiPanelBit::kAutoThrottleArm, state) && !firstReportPending_) return;
+void ctlMultiPanel::TakeAutoThrottle(int32_t state) {
     const bool armed = (state & MultiPanelBit::kAutoThrottleArm) != 0;
-    AutoThrottleChange.Raise(armed);
     OnScreen.ShowAutoThrottle(armed);
+    AutoThrottleChange.Raise(armed);
 }
 
-void ctlMultiPanel::ShowSelector(int32_t bits) {
+void ctlMultiPanel::TakeSelector(int32_t bits, int32_t before) {
     OnScreen.ShowSelector(bits);
+    SelectorChange.Raise(bits, before);
     WriteDisplay();  // a report that is waiting goes out
 }
 
@@ -124,8 +125,7 @@ void ctlMultiPanel::GetPositions() {
     std::array<uint8_t, kMultiReportSize> report{};
     Services().hid.GetFeature(DeviceHandle(), report);
     const int32_t bits = StateWord(report[1], report[2], report[3]) & kSelectorMask;
-    SelectorChange.Raise(bits, 0);
-    ShowSelector(bits);
+    TakeSelector(bits, 0);
 }
 
 void ctlMultiPanel::WriteDisplay(std::optional<std::string_view> UpperRow,

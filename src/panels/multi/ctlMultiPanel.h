@@ -61,14 +61,20 @@ class ctlMultiPanel final : public cPanelDevice {
         void (MultiPanelPicture::*show)();
     };
 
+    // The state words on both sides of a report.
+    struct Change {
+        int32_t before;
+        int32_t after;
+        bool Touches(int32_t mask) const { return ((before ^ after) & mask) != 0; }
+    };
+
     void HandleReport(int32_t state, uint32_t clock) override;
     void Connected() override { rotSpeed_.Start(); }
     void CheckPulse(Pulses& pulses, int32_t state, uint32_t clock);
-    void CheckButton(int32_t mask, int32_t state);
-    void CheckFlaps(int32_t mask, int32_t state);
-    void CheckAutoThrottle(int32_t state);
-    void ShowSelector(int32_t bits);
-    bool Differs(int32_t mask, int32_t state) const { return ((lastState_ ^ state) & mask) != 0; }
+    void CheckButton(int32_t mask, const Change& change);
+    void CheckFlaps(int32_t mask, const Change& change);
+    void TakeAutoThrottle(int32_t state);
+    void TakeSelector(int32_t bits, int32_t before);
 
     FeatureReport<kMultiReportSize> display_;
     int32_t lastState_ = 0;

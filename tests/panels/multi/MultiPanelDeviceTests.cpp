@@ -68,6 +68,30 @@ TEST_F(MultiPanelDeviceTest, FirstReportTellsSelectorAndSwitchAndByte0SaysNothin
     EXPECT_EQ(Take(), "") << "short reports are dropped";
 }
 
+// As an action that sends a keystroke lets in what waits.
+TEST_F(MultiPanelDeviceTest, ReportsThatComeWithinAnEventAreTakenOnce) {
+    panel->SelectorChange.Connect([this](int32_t, int32_t) { machine.loop.RunPending(); });
+    panel->RotaryUp.Connect([this](int16_t) { machine.loop.RunPending(); });
+    const auto post = [this](std::vector<int32_t> states) {
+        for (const int32_t state : states) {
+            device.SendReport({0, static_cast<uint8_t>(state >> 16), 0, 0});
+        }
+        machine.loop.RunPending();
+        return Take();
+    };
+    const int32_t hdg = Bit::kSelectorHDG, crs = Bit::kSelectorCRS, ap = Bit::kButtonAP;
+    EXPECT_EQ(post({hdg, crs, crs | ap}), "sel8<0 sel16<8 ");
+    EXPECT_EQ(post({crs}), "click8388608 ");
+    std::vector<int32_t> turn;
+    for (int pulse = 0; pulse < 20; ++pulse) {
+        turn.push_back(crs | Bit::kKnobClockwisePulse);
+        turn.push_back(crs);
+    }
+    std::string tenSteps;
+    for (int step = 0; step < 10; ++step) tenSteps += "right1 ";
+    EXPECT_EQ(post(turn), tenSteps);
+}
+
 TEST_F(MultiPanelDeviceTest, TwoPulsesMakeAStep) {
     Pulse(Bit::kKnobClockwisePulse);
     EXPECT_EQ(Take(), "");
