@@ -7,6 +7,22 @@
 #include "base/Text.h"
 #include "bench/console/Command.h"
 
+namespace {
+
+constexpr ULONGLONG kPlugTimeMs = 2000;
+
+// The device's threads have only been started: its pipe may not be there yet.
+bool WaitForPipe(const std::string& path) {
+    const ULONGLONG end = GetTickCount64() + kPlugTimeMs;
+    while (!WaitNamedPipeA(path.c_str(), NMPWAIT_USE_DEFAULT_WAIT)) {
+        if (GetTickCount64() >= end) return false;
+        ::Sleep(5);
+    }
+    return true;
+}
+
+}  // namespace
+
 PipeBus::PipeBus(const std::string& folder) : list_(folder + "\\panels.txt") { WriteList(); }
 
 PipeBus::~PipeBus() { DeleteFileA(list_.c_str()); }
@@ -18,7 +34,7 @@ bool PipeBus::PlugIn(std::shared_ptr<VirtualPanel> panel) {
                              std::to_string(panel->Number()) + "-" +
                              std::to_string(GetCurrentProcessId());
     devices_.push_back(std::make_unique<PipeDevice>(std::move(panel), path));
-    if (WaitNamedPipeA(path.c_str(), 2000) && WriteList()) return true;
+    if (WaitForPipe(path) && WriteList()) return true;
     devices_.pop_back();
     return false;
 }

@@ -43,7 +43,10 @@ class EndToEnd : public testing::Test {
         cockpit_->StartPanels();
         for (int n = 1; n <= panels; ++n) PlugIn("multi" + std::to_string(n));
         cockpit_->StartOrvo();
-        ASSERT_TRUE(cockpit_->StatusBecomes(0, kConnected, kSoonMs));
+        ASSERT_TRUE(cockpit_->StatusBecomes(0, kConnected, kSoonMs))
+            << "batches: " << cockpit_->Simulator("batches")
+            << ", window: " << (cockpit_->MainWindow() != nullptr)
+            << ", processor ms: " << cockpit_->Orvo().ProcessorTime();
     }
 
     void ExpectQuits() {
