@@ -91,6 +91,7 @@ TEST_F(EndToEnd, ProfilesFollowTheTitleAndTheUsersChoice) {
         flight.Do("press HDG");
         return flight.ExpectWrites({"07C8", "3360"}, writes);
     };
+    EXPECT_TRUE(flight.ExpectStatus(3, "Aircraft in use: Bench Trainer"));
     EXPECT_TRUE(flight.ChangeAircraft("[A]=1; 100%", "Default"));
     EXPECT_TRUE(press("07C8:01000000"));
     EXPECT_TRUE(flight.ChangeAircraft("B 737", "Second"));

@@ -131,9 +131,9 @@ void Win32Loop::MarkDue(TimerId timer) {
         return;
     }
     for (const auto& known : timers_) {
-        if (known->id != timer || known->waiting != 0) continue;
-        known->waiting = ++lastNumber_;
-        Wake();
+        if (known->id != timer) continue;
+        if (known->waiting == 0) known->waiting = ++lastNumber_;
+        Wake();  // again for one that waits: the system may have refused the wake message
     }
 }
 
