@@ -1,7 +1,6 @@
 #include "config/ProfileStore.h"
 
 #include <algorithm>
-#include <span>
 #include <utility>
 
 #include "base/Text.h"
@@ -29,18 +28,7 @@ bool IsReserved(std::string_view name) {
            (EqualNoCase(kind, "COM") || EqualNoCase(kind, "LPT"));
 }
 
-// Appends what one listing of the section shows.
-void ReadListing(cInifile& ini, IniEntries& entries) {
-    std::vector<std::string> keys;
-    int32_t count = 0;
-    ini.EnumerateCurrentSection(keys, count);
-    for (const std::string& key : keys) {
-        ini.Key = key;
-        entries.emplace_back(key, ini.Value());
-    }
-}
-
-bool DeleteKeys(cInifile& ini, std::span<const IniEntries::value_type> entries) {
+bool DeleteKeys(cInifile& ini, const IniEntries& entries) {
     return std::ranges::all_of(entries, [&ini](const auto& entry) {
         ini.Key = entry.first;
         ini.DeleteKey();
@@ -171,10 +159,9 @@ bool ProfileStore::ReadSection(const char* section, IniEntries& entries) const {
     ini.Section = section;
     bool whole = copied;
     for (bool more = true; more;) {
-        const size_t seen = entries.size();
-        ReadListing(ini, entries);
+        const IniEntries shown = ini.Entries();
+        entries.insert(entries.end(), shown.begin(), shown.end());
         more = !ini.ListsAllKeys();
-        const auto shown = std::span(entries).subspan(seen);
         if (!more || (!shown.empty() && copied && DeleteKeys(ini, shown))) continue;
         whole = more = false;
     }

@@ -38,6 +38,9 @@ class cInifile {
     void EnumerateCurrentSection(std::vector<std::string>& sKey, int32_t& iCount) const;
     void EnumerateAllSections(std::vector<std::string>& sSections, int32_t& iCount) const;
 
+    // The keys of one listing of the section, with their values.
+    IniEntries Entries() const;
+
     // Whether one listing can hold all keys of the section.
     bool ListsAllKeys() const;
 

@@ -112,14 +112,9 @@ void cSetupHolder::LoadSetup() {
     cInifile ini(ini_);
     ini.Path = programFolder_ + "\\Orvo.ini";
     ini.Section = "GeneralSetup";
-    std::vector<std::string> keys;
-    int32_t count = 0;
-    ini.EnumerateCurrentSection(keys, count);
-    for (const std::string& key : keys) {
+    for (const auto& [key, value] : ini.Entries()) {
         for (const Field& field : kFields) {
-            if (key != field.key) continue;
-            ini.Key = key;
-            Read(*this, field, ini.Value());
+            if (key == field.key) Read(*this, field, value);
         }
     }
 }

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <utility>
-#include <vector>
 
 #include "base/Text.h"
 
@@ -93,13 +92,7 @@ void AircraftBinding::ApplyProfile() {
 // The key's name counts with its case.
 void AircraftBinding::ReadSpecialMode() {
     parts_.session.SpecialMode = kStandardMode;
-    cInifile ini = parts_.profiles.OpenProfile("Common");
-    std::vector<std::string> keys;
-    int32_t count = 0;
-    ini.EnumerateCurrentSection(keys, count);
-    for (const std::string& key : keys) {
-        if (key != "SpecialMode") continue;
-        ini.Key = key;
-        parts_.session.SpecialMode = SpecialModeNamed(ini.Value());
+    for (const auto& [key, value] : parts_.profiles.OpenProfile("Common").Entries()) {
+        if (key == "SpecialMode") parts_.session.SpecialMode = SpecialModeNamed(value);
     }
 }

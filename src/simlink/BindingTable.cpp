@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <limits>
-#include <type_traits>
 
 #include "base/Number.h"
 #include "config/IniSave.h"
@@ -46,15 +45,9 @@ void BindingTable::SetDefaults() const {
 
 void BindingTable::Load(const ProfileStore& profiles, const std::string& section) const {
     SetDefaults();
-    cInifile ini = profiles.OpenProfile(section);
-    std::vector<std::string> keys;
-    int32_t count = 0;
-    ini.EnumerateCurrentSection(keys, count);
-    for (const std::string& key : keys) {
+    for (const auto& [key, value] : profiles.OpenProfile(section).Entries()) {
         const auto row = std::ranges::find(rows_, key, &Row::key);
-        if (row == rows_.end()) continue;
-        ini.Key = key;
-        Read(*row, ini.Value());
+        if (row != rows_.end()) Read(*row, value);
     }
 }
 
