@@ -36,9 +36,22 @@ void AppendInteger(std::string& out, int64_t value, int digits = 1);
 
 std::string FormatInteger(int64_t value, int digits = 1);
 
-// Appends a number with a point and exactly `decimals` digits behind it, 1 to 9, rounded half to
-// even: (0.78, 3) gives "0.780". Beyond what 64 bits hold it stays at their ends.
-void AppendFixed(std::string& out, double value, int decimals);
+// Whole number nearest to value x scale, a half away from zero; decided on the exact product. The
+// ends of the type for values beyond it, 0 for what is no number.
+int64_t RoundHalfAway(double value, int64_t scale);
+
+// Appends a number with exactly `decimals` digits behind its point, 0 to 9, and at least `digits`
+// before it, rounded half away from zero: (0.78, 3) gives "0.780", (345.25, 1, 4) "0345.3". Without
+// decimals there is no point. Beyond what 64 bits hold it stays at their ends.
+void AppendFixed(std::string& out, double value, int decimals, int digits = 1);
+
+// Reads a decimal number, with a sign or without and with blanks around it allowed, into the
+// nearest float. The point may be a comma, as files from other countries have it. Nothing if the
+// text is anything else or the number is outside [low, high].
+std::optional<float> ParseFloat(std::string_view text, float low, float high);
+
+// The shortest decimal number that reads back as the same float: "0.1".
+std::string FormatFloat(float value);
 
 // A number with a point and as many digits as it needs, at most `decimals` behind the point.
 std::string FormatPlain(double value, int decimals);

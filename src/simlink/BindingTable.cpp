@@ -9,22 +9,67 @@
 
 namespace {
 
-constexpr BindingTable::Range kByte = {0, 255};
-constexpr BindingTable::Range kInteger16 = {std::numeric_limits<int16_t>::min(),
-                                            std::numeric_limits<int16_t>::max()};
+using Range = BindingTable::Range;
+
+constexpr Range kByte = {0, 255};
+constexpr Range kInteger16 = {std::numeric_limits<int16_t>::min(),
+                              std::numeric_limits<int16_t>::max()};
+
+void SetStandard(ActionRecord& record, double standard) {
+    record.FSEvent = static_cast<ActionKind>(standard);
+}
+
+template <class Number>
+void SetStandard(Number& number, double standard) {
+    number = static_cast<Number>(standard);
+}
+
+void Read(const std::string& text, Range /*range*/, ActionRecord& record) {
+    ReadAction(text, record);
+}
+
+void Read(const std::string& text, Range range, float& number) {
+    const auto low = static_cast<float>(range.low);
+    const auto high = static_cast<float>(range.high);
+    number = ParseFloat(text, low, high).value_or(number);
+}
+
+template <class Integer>
+void Read(const std::string& text, Range range, Integer& number) {
+    const auto low = static_cast<int64_t>(range.low);
+    const auto high = static_cast<int64_t>(range.high);
+    number = static_cast<Integer>(ParseInteger(text, low, high).value_or(number));
+}
+
+bool IsStandard(const ActionRecord& record, double standard) {
+    return record.FSEvent == static_cast<ActionKind>(standard);
+}
+
+template <class Number>
+bool IsStandard(Number number, double standard) {
+    return number == static_cast<Number>(standard);
+}
+
+std::string TextOf(const ActionRecord& record) { return ActionText(record); }
+std::string TextOf(float number) { return FormatFloat(number); }
+std::string TextOf(int32_t number) { return FormatInteger(number); }
 
 }  // namespace
 
 void BindingTable::Add(std::string key, ActionRecord& record, ActionKind standard) {
-    rows_.push_back({std::move(key), &record, static_cast<int32_t>(standard), {}});
+    rows_.push_back({std::move(key), &record, static_cast<double>(standard), {}});
 }
 
 void BindingTable::Add(std::string key, int16_t& number, int16_t standard) {
-    rows_.push_back({std::move(key), &number, standard, kInteger16});
+    rows_.push_back({std::move(key), &number, static_cast<double>(standard), kInteger16});
 }
 
 void BindingTable::Add(std::string key, uint8_t& number, uint8_t standard, Range range) {
-    rows_.push_back({std::move(key), &number, standard, range});
+    rows_.push_back({std::move(key), &number, static_cast<double>(standard), range});
+}
+
+void BindingTable::Add(std::string key, float& number, float standard, Range range) {
+    rows_.push_back({std::move(key), &number, static_cast<double>(standard), range});
 }
 
 void BindingTable::AddFlag(std::string key, uint8_t& flag) {
@@ -33,13 +78,7 @@ void BindingTable::AddFlag(std::string key, uint8_t& flag) {
 
 void BindingTable::SetDefaults() const {
     for (const Row& row : rows_) {
-        if (auto* const* record = std::get_if<ActionRecord*>(&row.place)) {
-            (*record)->FSEvent = static_cast<ActionKind>(row.standard);
-        } else if (auto* const* byte = std::get_if<uint8_t*>(&row.place)) {
-            **byte = static_cast<uint8_t>(row.standard);
-        } else {
-            *std::get<int16_t*>(row.place) = static_cast<int16_t>(row.standard);
-        }
+        std::visit([&](auto* place) { SetStandard(*place, row.standard); }, row.place);
     }
 }
 
@@ -47,7 +86,8 @@ void BindingTable::Load(const ProfileStore& profiles, const std::string& section
     SetDefaults();
     for (const auto& [key, value] : profiles.OpenProfile(section).Entries()) {
         const auto row = std::ranges::find(rows_, key, &Row::key);
-        if (row != rows_.end()) Read(*row, value);
+        if (row == rows_.end()) continue;
+        std::visit([&](auto* place) { Read(value, row->range, *place); }, row->place);
     }
 }
 
@@ -65,27 +105,12 @@ void BindingTable::Save(ProfileStore& profiles, const std::string& section) cons
     });
 }
 
-void BindingTable::Read(const Row& row, const std::string& text) {
-    if (auto* const* record = std::get_if<ActionRecord*>(&row.place)) {
-        ReadAction(text, **record);
-        return;
-    }
-    const auto value = ParseInteger(text, row.range.low, row.range.high);
-    if (!value) return;
-    if (auto* const* byte = std::get_if<uint8_t*>(&row.place)) {
-        **byte = static_cast<uint8_t>(*value);
-    } else {
-        *std::get<int16_t*>(row.place) = static_cast<int16_t>(*value);
-    }
-}
-
 std::string BindingTable::Text(const Row& row) {
-    if (auto* const* record = std::get_if<ActionRecord*>(&row.place)) {
-        const bool standard = static_cast<int32_t>((*record)->FSEvent) == row.standard;
-        return standard ? std::string() : ActionText(**record);
-    }
-    auto* const* byte = std::get_if<uint8_t*>(&row.place);
-    const int32_t value = byte ? **byte : *std::get<int16_t*>(row.place);
-    if (value == row.standard || (row.flag && value != 1)) return {};
-    return FormatInteger(value);
+    const auto* const* flag = std::get_if<uint8_t*>(&row.place);
+    if (row.flag && flag && **flag != 1) return {};
+    return std::visit(
+        [&](const auto* place) {
+            return IsStandard(*place, row.standard) ? std::string() : TextOf(*place);
+        },
+        row.place);
 }

@@ -7,6 +7,7 @@
 
 #include "config/ProfileStore.h"
 #include "simlink/ActionRecord.h"
+#include "simlink/Numbered.h"
 
 // The keys of one panel's section in a profile file, each tied to the place in the panel's bindings
 // that it fills. One such table drives defaults, loading and saving. The places must outlive it.
@@ -14,13 +15,23 @@ class BindingTable {
   public:
     // What a number may be; anything else in a file leaves the default.
     struct Range {
-        int32_t low;
-        int32_t high;
+        double low;
+        double high;
     };
 
     void Add(std::string key, ActionRecord& record, ActionKind standard);
     void Add(std::string key, int16_t& number, int16_t standard);
-    void Add(std::string key, uint8_t& number, uint8_t standard, Range range);
+    void Add(std::string key, uint8_t& number, uint8_t standard, Range range = {0, 255});
+    void Add(std::string key, float& number, float standard, Range range);
+    // A key for each control: the prefix, and its name out of `names`, which are in the order of
+    // the controls' numbers.
+    template <class Value, int32_t First, int32_t Last, class Standard>
+    void AddEach(const std::string& prefix, const char* const* names,
+                 Numbered<Value, First, Last>& values, Standard standard) {
+        for (int32_t number = First; number <= Last; ++number) {
+            Add(prefix + names[number - First], values[number], standard);
+        }
+    }
     // Only 1 is written; any other byte is taken as it is.
     void AddFlag(std::string key, uint8_t& flag);
 
@@ -37,13 +48,12 @@ class BindingTable {
   private:
     struct Row {
         std::string key;
-        std::variant<ActionRecord*, uint8_t*, int16_t*> place;
-        int32_t standard;
+        std::variant<ActionRecord*, uint8_t*, int16_t*, float*> place;
+        double standard;
         Range range;
         bool flag = false;
     };
 
-    static void Read(const Row& row, const std::string& text);
     // Empty for a value that needs no key.
     static std::string Text(const Row& row);
 

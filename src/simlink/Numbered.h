@@ -20,11 +20,11 @@ class Numbered {
         if (Holds(number)) values_[Index(number)] = value;
     }
 
-    // Only for First to Last.
+    static bool Holds(int32_t number) { return number >= First && number <= Last; }
+    // Only for numbers that it holds.
     Value& operator[](int32_t number) { return values_[Index(number)]; }
 
   private:
-    static bool Holds(int32_t number) { return number >= First && number <= Last; }
     static size_t Index(int32_t number) { return static_cast<size_t>(number - First); }
 
     std::array<Value, static_cast<size_t>(Last - First + 1)> values_{};

@@ -1,6 +1,5 @@
 #include "panels/multi/cMultiPanelActionsHolder.h"
 
-#include <cstddef>
 #include <string>
 
 #include "base/Number.h"
@@ -18,28 +17,14 @@ constexpr uint8_t kNGXLongDefaults[] = {14, 13, 5, 2, 18, 6, 0, 1};
 constexpr BindingTable::Range kNGXRange = {0, kNGXRows - 1};
 constexpr BindingTable::Range kCourseRange = {0, 2};
 
-// Calls for each control with its number and its place in the tables above.
-template <class Table, class Function>
-void ForEach(const Table&, Function call) {
-    for (int32_t number = Table::kFirst; number <= Table::kLast; ++number) {
-        call(number, static_cast<size_t>(number - Table::kFirst));
+template <class Table>
+void AddNGXRows(BindingTable& keys, const std::string& suffix, Table& rows,
+                const uint8_t* standards) {
+    for (int32_t button = Table::kFirst; button <= Table::kLast; ++button) {
+        const int32_t place = button - Table::kFirst;
+        keys.Add(std::string("NGX").append(kButtons[place]).append(suffix), rows[button],
+                 standards[place], kNGXRange);
     }
-}
-
-template <class Table>
-void AddActions(BindingTable& keys, const std::string& prefix, const char* const* names,
-                Table& records, ActionKind standard) {
-    ForEach(records, [&](int32_t number, size_t place) {
-        keys.Add(prefix + names[place], records[number], standard);
-    });
-}
-
-template <class Table>
-void AddNGXRows(BindingTable& keys, const char* suffix, Table& rows, const uint8_t* standards) {
-    ForEach(rows, [&](int32_t number, size_t place) {
-        keys.Add(std::string("NGX") + kButtons[place] + suffix, rows[number], standards[place],
-                 kNGXRange);
-    });
 }
 
 }  // namespace
@@ -51,18 +36,15 @@ cMultiPanelActionsHolder::cMultiPanelActionsHolder(ProfileStore& profiles) : pro
 // In the order in which the keys stand in the file.
 BindingTable cMultiPanelActionsHolder::Keys() {
     BindingTable keys;
-    AddActions(keys, "SelectorAction", kPositions, selector_, ActionKind::None);
-    AddActions(keys, "RotUpAction", kPositions, rotUp_, ActionKind::Offset);
-    AddActions(keys, "RotDownAction", kPositions, rotDown_, ActionKind::Offset);
-    AddActions(keys, "ButtonAction", kButtons, buttons_, ActionKind::Offset);
-    AddActions(keys, "LongButtonAction", kButtons, longButtons_, ActionKind::Offset);
-    AddActions(keys, "AutoThrottleAction", kSwitchSides, autoThrottle_, ActionKind::Offset);
-    AddActions(keys, "FlapsAction", kDirections, flaps_, ActionKind::Offset);
-    AddActions(keys, "TrimAction", kDirections, trim_, ActionKind::Offset);
-    ForEach(rotAcceleration_, [&](int32_t number, size_t place) {
-        keys.Add(std::string("RotaryAcceleration") + kPositions[place], rotAcceleration_[number],
-                 1);
-    });
+    keys.AddEach("SelectorAction", kPositions, selector_, ActionKind::None);
+    keys.AddEach("RotUpAction", kPositions, rotUp_, ActionKind::Offset);
+    keys.AddEach("RotDownAction", kPositions, rotDown_, ActionKind::Offset);
+    keys.AddEach("ButtonAction", kButtons, buttons_, ActionKind::Offset);
+    keys.AddEach("LongButtonAction", kButtons, longButtons_, ActionKind::Offset);
+    keys.AddEach("AutoThrottleAction", kSwitchSides, autoThrottle_, ActionKind::Offset);
+    keys.AddEach("FlapsAction", kDirections, flaps_, ActionKind::Offset);
+    keys.AddEach("TrimAction", kDirections, trim_, ActionKind::Offset);
+    keys.AddEach("RotaryAcceleration", kPositions, rotAcceleration_, int16_t{1});
     AddNGXRows(keys, "Short", ngxShort_, kNGXShortDefaults);
     AddNGXRows(keys, "Long", ngxLong_, kNGXLongDefaults);
     keys.Add("CourseSel", CourseSel, 1, kCourseRange);
