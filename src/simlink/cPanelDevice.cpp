@@ -1,5 +1,7 @@
 #include "simlink/cPanelDevice.h"
 
+#include <utility>
+
 namespace {
 
 constexpr int32_t kReadWaitMs = 1500;
@@ -39,7 +41,9 @@ bool cPanelDevice::Connect(const std::string& DevicePathName) {
 void cPanelDevice::TakeReport(uint8_t byte0, uint8_t byte1, uint8_t byte2, uint8_t byte3) {
     const uint32_t clock = services_.clock.GetTickCount();
     RawInput.Raise(byte0, byte1, byte2, byte3);
-    HandleReport(StateWord(byte1, byte2, byte3), clock);
+    const bool first = std::exchange(firstReportPending_, false);
+    const int32_t state = StateWord(byte1, byte2, byte3);
+    HandleReport({std::exchange(lastState_, state), state, first}, clock);
 }
 
 void cPanelDevice::End() {

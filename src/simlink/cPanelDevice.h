@@ -53,12 +53,23 @@ class cPanelDevice : public Picture {
     CommandButton cmdSetup{this};
 
   protected:
-    // A report has come: the 24 bits of the panel's state, and the clock of its coming.
-    virtual void HandleReport(int32_t /*state*/, uint32_t /*clock*/) {}
+    // What a report has brought: the 24 bits of the panel's state before and after it.
+    struct Change {
+        int32_t before;
+        int32_t after;
+        bool first;  // nothing was reported before
+        bool Touches(int32_t mask) const { return ((before ^ after) & mask) != 0; }
+    };
+
+    // A report has come, at this clock. It counts as the last one already: the events that come of
+    // it may let the next one in, which is then handled first and as a whole. So what is drawn is
+    // drawn before an event is raised.
+    virtual void HandleReport(const Change& /*change*/, uint32_t /*clock*/) {}
     // The device has just been opened.
     virtual void Connected() {}
 
     uintptr_t DeviceHandle() const { return deviceHandle_; }
+    int32_t LastState() const { return lastState_; }
     const DeviceServices& Services() const { return services_; }
 
     static int32_t StateWord(uint8_t byte1, uint8_t byte2, uint8_t byte3) {
@@ -76,5 +87,7 @@ class cPanelDevice : public Picture {
     const PanelKind kind_;
     std::unique_ptr<PanelLink> link_;
     uintptr_t deviceHandle_ = 0;
+    int32_t lastState_ = 0;
+    bool firstReportPending_ = true;
     bool ended_ = false;
 };

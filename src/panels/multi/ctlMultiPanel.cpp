@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <utility>
 
 #include "platform/Wait.h"
 
@@ -58,19 +57,16 @@ void ctlMultiPanel::RotAcceleration(uint8_t value) { rotSpeed_.SetPeriod(value *
 
 void ctlMultiPanel::TrimAcceleration(uint8_t value) { trimSpeed_.SetPeriod(value * 3U); }
 
-// What the events do may let the next report in, which is then handled first and as a whole: so it
-// must find this one taken, and what is drawn is drawn before.
-void ctlMultiPanel::HandleReport(int32_t state, uint32_t clock) {
-    const bool first = std::exchange(firstReportPending_, false);
-    const Change change = {std::exchange(lastState_, state), state};
-    for (Pulses& pulses : pulses_) CheckPulse(pulses, state, clock);
-    if (first || change.Touches(kSelectorMask)) {
-        TakeSelector(state & kSelectorMask, change.before & kSelectorMask);
+void ctlMultiPanel::HandleReport(const Change& change, uint32_t clock) {
+    for (Pulses& pulses : pulses_) CheckPulse(pulses, change.after, clock);
+    if (change.first || change.Touches(kSelectorMask)) {
+        TakeSelector(change.after & kSelectorMask, change.before & kSelectorMask);
     }
     for (const int32_t mask : kButtonOrder) CheckButton(mask, change);
     CheckFlaps(MultiPanelBit::kFlapsUp, change);
     CheckFlaps(MultiPanelBit::kFlapsDown, change);
-    if (first || change.Touches(MultiPanelBit::kAutoThrottleArm)) TakeAutoThrottle(state);
+    if (change.first || change.Touches(MultiPanelBit::kAutoThrottleArm))
+        TakeAutoThrottle(change.after);
 }
 
 void ctlMultiPanel::CheckPulse(Pulses& pulses, int32_t state, uint32_t clock) {

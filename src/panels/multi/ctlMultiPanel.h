@@ -61,14 +61,7 @@ class ctlMultiPanel final : public cPanelDevice {
         void (MultiPanelPicture::*show)();
     };
 
-    // The state words on both sides of a report.
-    struct Change {
-        int32_t before;
-        int32_t after;
-        bool Touches(int32_t mask) const { return ((before ^ after) & mask) != 0; }
-    };
-
-    void HandleReport(int32_t state, uint32_t clock) override;
+    void HandleReport(const Change& change, uint32_t clock) override;
     void Connected() override { rotSpeed_.Start(); }
     void CheckPulse(Pulses& pulses, int32_t state, uint32_t clock);
     void CheckButton(int32_t mask, const Change& change);
@@ -77,8 +70,6 @@ class ctlMultiPanel final : public cPanelDevice {
     void TakeSelector(int32_t bits, int32_t before);
 
     FeatureReport<kMultiReportSize> display_;
-    int32_t lastState_ = 0;
-    bool firstReportPending_ = true;
     SpeedSampler rotSpeed_;
     SpeedSampler trimSpeed_;
     std::array<Pulses, 4> pulses_;
