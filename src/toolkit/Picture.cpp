@@ -12,10 +12,14 @@ void Label::Accept(ControlVisitor& visitor) { visitor.Visit(*this); }
 
 void Shape::Accept(ControlVisitor& visitor) { visitor.Visit(*this); }
 
-void Line::PointTo(double degrees, int32_t radius) {
+void Line::PointFrom(int32_t x, int32_t y, double degrees, int32_t from, int32_t to) {
     const double angle = (degrees - 90.0) * std::numbers::pi / 180.0;
-    X2 = RoundTo<int32_t>(X1 + radius * std::cos(angle));
-    Y2 = RoundTo<int32_t>(Y1 + radius * std::sin(angle));
+    const double across = std::cos(angle);
+    const double down = std::sin(angle);
+    X1 = RoundTo<int32_t>(x + from * across);
+    Y1 = RoundTo<int32_t>(y + from * down);
+    X2 = RoundTo<int32_t>(x + to * across);
+    Y2 = RoundTo<int32_t>(y + to * down);
 }
 
 void Line::Accept(ControlVisitor& visitor) { visitor.Visit(*this); }

@@ -62,7 +62,9 @@ class Line : public Control {
     Property<int32_t, Control> BorderWidth{*this, 15};  // twips
 
     // Sets the end at `radius` twips from the start, `degrees` clockwise from straight up.
-    void PointTo(double degrees, int32_t radius);
+    void PointTo(double degrees, int32_t radius) { PointFrom(X1, Y1, degrees, 0, radius); }
+    // Sets both ends, at these distances from a centre.
+    void PointFrom(int32_t x, int32_t y, double degrees, int32_t from, int32_t to);
 
     void Accept(ControlVisitor& visitor) override;
 };

@@ -1,14 +1,29 @@
 #include "panels/multi/MultiPanelPicture.h"
 
-#include <string>
-
 namespace {
 
-constexpr Color kRed = 0x0000FF;
+using namespace PanelColor;
+
 constexpr Color kYellow = 0x00FFFF;
-constexpr Color kWhite = 0xFFFFFF;
-constexpr Color kDigits = 0x30A0FF;
-constexpr Color kPrint = 0xE0E0E0;
+
+constexpr PanelShape kShapes[] = {
+    {ShapeKind::Oval, 420, 600, 840, 840, kKnob, kKnobRim},                // selector
+    {ShapeKind::Rectangle, 3000, 240, 2700, 780, kWell, kRim},             // upper display
+    {ShapeKind::Rectangle, 3000, 1140, 2700, 780, kWell, kRim},            // lower display
+    {ShapeKind::Oval, 6510, 420, 1200, 1200, kKnob, kKnobRim},             // knob
+    {ShapeKind::RoundedRectangle, 8100, 1740, 1020, 345, kWell, kRim},     // auto-throttle slot
+    {ShapeKind::RoundedRectangle, 8520, 720, 180, 780, kWell, kRim},       // flaps slot
+    {ShapeKind::RoundedRectangle, 9660, 480, 840, 1905, kKnob, kKnobRim},  // trim wheel
+};
+
+constexpr PanelCaption kCaptions[] = {
+    {540, 270, 600, 135, "ALT"},    {150, 420, 330, 135, "VS"},
+    {30, 750, 330, 135, "IAS"},     {30, 1125, 330, 135, "HDG"},
+    {240, 1500, 390, 135, "CRS"},   {7860, 1500, 1500, 165, "AUTO THROTTLE"},
+    {8070, 2115, 540, 165, "OFF"},  {8610, 2115, 540, 165, "ARM"},
+    {8250, 210, 720, 165, "FLAPS"}, {8310, 465, 600, 165, "UP"},
+    {8820, 1185, 330, 165, "DN"},   {9540, 180, 1080, 165, "PITCH TRIM"},
+};
 
 constexpr int32_t kPointerLength = 500;
 constexpr int32_t kTrimStep = 120;
@@ -28,18 +43,10 @@ constexpr SelectorPosition kPositions[] = {
     {MultiPanelBit::kSelectorCRS, 210, "CRS", ""},
 };
 
-void PlacePointer(Line& line, int32_t x, int32_t y) {
-    line.BorderColor = kWhite;
-    line.BorderWidth = 60;
-    line.X1 = x;
-    line.Y1 = y;
-    line.PointTo(0, kPointerLength);
-}
-
 }  // namespace
 
 MultiPanelPicture::MultiPanelPicture(Picture& panel)
-    : body_(panel),
+    : body_(panel, kShapes, kCaptions),
       labUpperValue(&panel),
       labLowerValue(&panel),
       labUpperMode(&panel),
@@ -72,30 +79,23 @@ void MultiPanelPicture::PlaceButtons(Picture& panel) {
 }
 
 void MultiPanelPicture::PlaceLabels() {
-    const auto place = [](Label& label, FontFace face, Color color, Alignment align) {
-        label.Face = face;
-        label.ForeColor = color;
-        label.Align = align;
+    PlaceDisplay(labUpperValue, 3110, 330, 2500, 600);
+    PlaceDisplay(labLowerValue, 3110, 1230, 2500, 600);
+    const auto placeMode = [](Label& label, int32_t top) {
+        label.Face = FontFace::Bold;
+        label.ForeColor = kPrint;
+        label.Align = Alignment::Right;
+        label.Move(2100, top, 780, 270);
     };
-    place(labUpperValue, FontFace::SevenSegment, kDigits, Alignment::Right);
-    labUpperValue.FontHeight = 600;
-    labLowerValue.FontHeight = 600;
-    labUpperValue.Move(3110, 330, 2500, 600);
-    place(labLowerValue, FontFace::SevenSegment, kDigits, Alignment::Right);
-    labLowerValue.Move(3110, 1230, 2500, 600);
-    place(labUpperMode, FontFace::Bold, kPrint, Alignment::Right);
-    labUpperMode.Move(2100, 510, 780, 270);
-    place(labLowerMode, FontFace::Bold, kPrint, Alignment::Right);
-    labLowerMode.Move(2100, 1410, 780, 270);
-    place(labSpeed, FontFace::Normal, kPrint, Alignment::Center);
-    labSpeed.Move(6810, 1680, 600, 240);
-    place(labSpeed2, FontFace::Normal, kPrint, Alignment::Center);
-    labSpeed2.Move(9240, 1980, 360, 240);
+    placeMode(labUpperMode, 510);
+    placeMode(labLowerMode, 1410);
+    PlaceSpeed(labSpeed, 6810, 1680, 600);
+    PlaceSpeed(labSpeed2, 9240, 1980, 360);
 }
 
 void MultiPanelPicture::PlacePointersAndLevers() {
-    PlacePointer(SelectorSign, 840, 1020);
-    PlacePointer(RotarySign, 7110, 1020);
+    PlacePointer(SelectorSign, 840, 1020, kPointerLength);
+    PlacePointer(RotarySign, 7110, 1020, kPointerLength);
     lineTrim.BorderColor = kPrint;
     lineTrim.BorderWidth = 60;
     lineTrim.X1 = 9735;
@@ -125,21 +125,19 @@ void MultiPanelPicture::ShowButton(int32_t mask, bool pressed) {
         const MultiPanelButton& button = kMultiPanelButtons[i];
         if (button.mask != mask) continue;
         const Color released = lightBits_ & button.light ? kYellow : kWhite;
-        shpButton[i]->FillColor = pressed ? kRed : released;
+        shpButton[i]->FillColor = pressed ? kPressed : released;
     }
 }
 
 void MultiPanelPicture::ShowLights(uint8_t lights) {
     lightBits_ = lights;
     for (size_t i = 0; i < kMultiPanelButtons.size(); ++i) {
-        if (shpButton[i]->FillColor == kRed) continue;
+        if (shpButton[i]->FillColor == kPressed) continue;
         shpButton[i]->FillColor = lights & kMultiPanelButtons[i].light ? kYellow : kWhite;
     }
 }
 
-void MultiPanelPicture::ShowSpeed(Label& label, int16_t speed) {
-    label.Caption = speed == 1 ? "1" : speed == 5 ? "5" : speed == 10 ? "10" : "20";
-}
+void MultiPanelPicture::ShowSpeed(Label& label, int16_t speed) { label.Caption = SpeedText(speed); }
 
 void MultiPanelPicture::ShowFlaps(int direction) { shpFlapsLever.Top = 960 - 180 * direction; }
 
@@ -161,9 +159,6 @@ void MultiPanelPicture::MoveTrimBar(int32_t y) {
 }
 
 void MultiPanelPicture::TurnRotary(int16_t degrees) {
-    int angle = rotAngle_ + degrees;
-    if (angle > 360) angle -= 360;
-    if (angle < 0) angle += 360;
-    rotAngle_ = static_cast<int16_t>(angle);
+    rotAngle_ = TurnedAngle(rotAngle_, degrees);
     RotarySign.PointTo(rotAngle_, kPointerLength);
 }

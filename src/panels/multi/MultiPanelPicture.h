@@ -4,9 +4,9 @@
 #include <cstdint>
 #include <memory>
 
-#include "panels/multi/MultiPanelBody.h"
 #include "panels/multi/MultiPanelReport.h"
 #include "toolkit/Picture.h"
+#include "ui/PanelDrawing.h"
 
 // The Multi Panel on the screen: what moves and changes in front of the panel's body. Co-ordinates
 // are twips within the picture.
@@ -29,7 +29,7 @@ class MultiPanelPicture {
     void TrimDown();
 
   private:
-    const MultiPanelBody body_;  // made first: all else lies in front of it
+    const PanelBody body_;
 
   public:
     std::array<std::unique_ptr<Shape>, kMultiPanelButtons.size()>
