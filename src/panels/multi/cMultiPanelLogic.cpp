@@ -8,14 +8,6 @@
 
 namespace {
 
-struct PowerOffset {
-    const char* name;
-    int32_t offset;
-};
-constexpr PowerOffset kMasterBattery = {"MASTERBATTERY", 0x281C};
-constexpr PowerOffset kMasterAvionics = {"MASTERAVIONICS", 0x2E80};
-constexpr int32_t kPowerType = 4;
-
 // A lower speed is a Mach number.
 constexpr double kLowestKnots = 10;
 
@@ -37,8 +29,7 @@ cMultiPanelLogic::cMultiPanelLogic(const LogicServices& services, ctlMultiPanel&
       profiles_(services.profiles),
       clock_(services.clock),
       control_(control),
-      masterBattery_(session_.OffsetTable, kMasterBattery.name),
-      masterAvionics_(session_.OffsetTable, kMasterAvionics.name) {
+      power_(session_.OffsetTable) {
     for (const char* name : kMultiPanelNames) offsets_.emplace_back(session_.OffsetTable, name);
 }
 
@@ -48,9 +39,7 @@ void cMultiPanelLogic::StartUp() {
     MPActions->LoadSetup();
     panelLights_ = 0;
     forceWrite_ = false;
-    for (const PowerOffset& power : {kMasterBattery, kMasterAvionics}) {
-        session_.OffsetTable.RegisterOffset(power.offset, kPowerType, power.name);
-    }
+    power_.Register();
     SetupChanged();
 }
 
@@ -112,7 +101,7 @@ void cMultiPanelLogic::RefreshData() {
     }
     RefreshValues();
     RefreshTexts();
-    if (masterBattery_.Data() == 0 || masterAvionics_.Data() == 0) {
+    if (!power_.IsOn()) {
         control_.TurnOffDisplay();
         return;
     }

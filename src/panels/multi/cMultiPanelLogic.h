@@ -9,6 +9,7 @@
 #include "panels/multi/MultiPanelOffsets.h"
 #include "panels/multi/cMultiPanelActionsHolder.h"
 #include "panels/multi/ctlMultiPanel.h"
+#include "simlink/MasterPower.h"
 #include "simlink/cPanelLogic.h"
 #include "simlink/cSession.h"
 
@@ -94,8 +95,7 @@ class cMultiPanelLogic final : public cPanelLogic {
     Clock& clock_;
     ctlMultiPanel& control_;
     std::vector<NamedOffset> offsets_;  // as kMultiPanelNames
-    NamedOffset masterBattery_;
-    NamedOffset masterAvionics_;
+    MasterPower power_;
 
     int32_t selectorPosition_ = 0;  // 0 before the first SelectorChange
     bool forceWrite_ = false;       // the next WriteDisplay goes out in any case
