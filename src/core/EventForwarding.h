@@ -24,8 +24,10 @@ void ForwardRadioEvents(Control& control, Find find) {
         return [find, direction](int32_t knob, int16_t speed) {
             if (knob < 0 || knob > 3) return;
             const auto ring = static_cast<int16_t>(knob % 2);
-            const auto side = static_cast<int16_t>(knob / 2 + 1);
-            if (auto* logic = find()) logic->Rotary(ring, direction, side, speed);
+            const auto side = static_cast<uint8_t>(knob / 2 + 1);
+            if (auto* logic = find()) {
+                logic->Rotary(ring, direction, side, static_cast<uint8_t>(speed));
+            }
         };
     };
     control.RotaryUp.Connect(rotary(1));

@@ -3,6 +3,8 @@
 #include "core/EventForwarding.h"
 #include "panels/multi/cMultiPanelLogic.h"
 #include "panels/multi/ctlMultiPanel.h"
+#include "panels/radio/cRadioPanelLogic.h"
+#include "panels/radio/ctlRadioPanel.h"
 
 namespace {
 
@@ -14,25 +16,53 @@ auto FindLogic(const PanelUnit& unit, const cSession& session) {
     };
 }
 
+template <class Control, class Logic, class Forward>
+void MakeControl(PanelUnit& unit, Container& parent, const DeviceServices& services,
+                 cSession& session, Forward forward) {
+    auto control = std::make_unique<Control>(parent, services);
+    forward(*control, FindLogic<Logic>(unit, session));
+    unit.control = std::move(control);
+}
+
+template <class Control, class Logic>
+void MakeLogic(PanelUnit& unit, const LogicServices& services) {
+    unit.logic =
+        std::make_unique<Logic>(services, static_cast<Control&>(*unit.control), unit.number);
+    unit.logic->StartUp();
+}
+
 }  // namespace
 
 std::unique_ptr<PanelUnit> MakePanelUnit(PanelKind kind, int16_t number, Container& parent,
                                          const DeviceServices& services, cSession& session) {
     auto unit = std::make_unique<PanelUnit>(PanelUnit{kind, number, nullptr, nullptr});
-    if (kind == PanelKind::Multi) {
-        auto control = std::make_unique<ctlMultiPanel>(parent, services);
-        ForwardMultiEvents(*control, FindLogic<cMultiPanelLogic>(*unit, session));
-        unit->control = std::move(control);
-    } else {
-        unit->control = std::make_unique<cPanelDevice>(parent, services, kind);
+    switch (kind) {
+        case PanelKind::Radio:
+            MakeControl<ctlRadioPanel, cRadioPanelLogic>(
+                *unit, parent, services, session,
+                [](auto& control, auto find) { ForwardRadioEvents(control, find); });
+            break;
+        case PanelKind::Multi:
+            MakeControl<ctlMultiPanel, cMultiPanelLogic>(
+                *unit, parent, services, session,
+                [](auto& control, auto find) { ForwardMultiEvents(control, find); });
+            break;
+        default:
+            unit->control = std::make_unique<cPanelDevice>(parent, services, kind);
+            break;
     }
     return unit;
 }
 
 void StartLogic(PanelUnit& unit, const LogicServices& services) {
-    if (unit.kind == PanelKind::Multi) {
-        unit.logic = std::make_unique<cMultiPanelLogic>(
-            services, static_cast<ctlMultiPanel&>(*unit.control), unit.number);
+    switch (unit.kind) {
+        case PanelKind::Radio:
+            MakeLogic<ctlRadioPanel, cRadioPanelLogic>(unit, services);
+            break;
+        case PanelKind::Multi:
+            MakeLogic<ctlMultiPanel, cMultiPanelLogic>(unit, services);
+            break;
+        default:
+            break;
     }
-    if (unit.logic) unit.logic->StartUp();
 }

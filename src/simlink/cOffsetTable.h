@@ -54,9 +54,19 @@ class NamedOffset {
         const cOFFSET* offset = Find();
         return offset ? offset->Data() : 0.0;
     }
+    int32_t IntegerData() const { return RoundTo<int32_t>(Data()); }
     std::string_view Text() const {
         const cOFFSET* offset = Find();
         return offset ? offset->Text() : std::string_view{};
+    }
+    // As cOFFSET's; without an entry 0, and the frequency of four zeros.
+    int32_t GetBCD() const {
+        const cOFFSET* offset = Find();
+        return offset ? offset->GetBCD() : 0;
+    }
+    float GetFreq() const {
+        const cOFFSET* offset = Find();
+        return offset ? offset->GetFreq() : 100.0F;
     }
 
   private:

@@ -2,6 +2,7 @@
 
 #include "config/ProfileStore.h"
 #include "platform/Clock.h"
+#include "platform/MessageLoop.h"
 #include "simlink/cSession.h"
 
 // What the logics work with.
@@ -9,6 +10,7 @@ struct LogicServices {
     cSession& session;
     ProfileStore& profiles;
     Clock& clock;
+    MessageLoop& loop;
 };
 
 // What the logics of all panels have in common: how the program drives them.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 
 #include "simlink/EventOutput.h"
@@ -27,4 +28,8 @@ struct cSession {
     uint8_t SpecialMode = kStandardMode;
     uint8_t EngineSelected = 1;
     bool GearIsRetractable = false;
+    // ADF1 and ADF2 in kHz, for all Radio Panels together: what the simulator has, and what the
+    // panels have prepared for a swap.
+    std::array<float, 2> AdfActive{};
+    std::array<float, 2> AdfStandby{};
 };

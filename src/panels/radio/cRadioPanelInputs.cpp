@@ -1,0 +1,270 @@
+// What the panel's events do: bound actions, and the built-in behaviour of the radios.
+#include <cmath>
+#include <utility>
+
+#include "base/Number.h"
+#include "panels/radio/RadioFrequency.h"
+#include "panels/radio/cRadioPanelLogic.h"
+#include "platform/Wait.h"
+
+namespace {
+
+struct AdfBand {
+    float low;
+    float high;  // without it
+};
+constexpr AdfBand kAdfBand = {100, 1800};
+
+struct AdfOffsets {
+    int32_t main;
+    int32_t extension;
+};
+constexpr std::array<AdfOffsets, 2> kAdfOffsets = {{{0x034C, 0x0356}, {0x02D4, 0x02D6}}};
+
+constexpr int32_t kTransponder = 0x0354;
+constexpr int32_t kAltimeter = 0x0330;
+constexpr float kAltimeterStepInHg = 0.25F;  // hPa
+
+constexpr int32_t kNGXAltimeterKnob = 69997;
+constexpr int32_t kNGXAltimeterUp = 16384;
+constexpr int32_t kNGXAltimeterDown = 8192;
+constexpr int32_t kNGXAltimeterUnit = 69998;
+constexpr int32_t kNGXClick = 0x20000000;
+
+constexpr int32_t kSelectorPressMs = 50;
+
+// Goes over the end of the band to the other one, once: a fast turn may go further.
+float WithinBand(float frequency, float low, float high) {
+    if (frequency < low) frequency += high - low;
+    if (frequency >= high) frequency -= high - low;
+    return frequency;
+}
+
+}  // namespace
+
+void cRadioPanelLogic::SelectorChange(int16_t Selector, int32_t NewPos, int32_t /*OldPos*/) {
+    if (Selector != 1 && Selector != 2) return;
+    Row& row = rows_[static_cast<size_t>(Selector - 1)];
+    row.selectorPos = NewPos;
+    // The knob may be turned before the next tick.
+    if (!tuned_.Get(NewPos)) RefreshRow(row);
+    if (Index == 1 && Selector == 1 && NewPos >= 1 && NewPos <= 4) {
+        session_.EngineSelected = static_cast<uint8_t>(NewPos);
+    }
+    ApplyAcceleration(row);
+    SendSelectorAction(RPActions->GetSelectorActions(NewPos));
+}
+
+void cRadioPanelLogic::SendSelectorAction(ActionRecord record) {
+    if (record.FSEvent != ActionKind::VButton) {
+        session_.Output.SendAction(record);
+        return;
+    }
+    SetButton(record, true);
+    Wait(clock_, loop_, kSelectorPressMs, kSelectorPressMs / 2);
+    SetButton(record, false);
+}
+
+cRadioPanelLogic::Row* cRadioPanelLogic::RowOf(int32_t button) {
+    for (size_t side = 0; side < kRadioButtonBits.size(); ++side) {
+        if (kRadioButtonBits[side] == button) return &rows_[side];
+    }
+    return nullptr;
+}
+
+void cRadioPanelLogic::ButtonClick(int32_t Button) {
+    Row* row = RowOf(Button);
+    if (!row) return;
+    Press(*row, RPActions->GetButtonsActions(row->selectorPos), &cRadioPanelLogic::ClickStandard);
+}
+
+void cRadioPanelLogic::ButtonLongClick(int32_t Button) {
+    Row* row = RowOf(Button);
+    if (!row) return;
+    Press(*row, RPActions->GetLongButtonsActions(row->selectorPos),
+          &cRadioPanelLogic::LongClickStandard);
+}
+
+void cRadioPanelLogic::ButtonUp(int32_t Button) {
+    if (Row* row = RowOf(Button)) Release(*row);
+}
+
+// A virtual button stays down until the panel's button comes up.
+void cRadioPanelLogic::Press(Row& row, ActionRecord record,
+                             void (cRadioPanelLogic::*standard)(Row&)) {
+    if (record.FSEvent == ActionKind::VButton) {
+        Release(row);
+        row.held = record;
+        SetButton(record, true);
+    } else if (record.FSEvent == ActionKind::Offset) {
+        (this->*standard)(row);
+    } else {
+        session_.Output.SendAction(record);
+    }
+}
+
+// The one that was pressed, whatever the selector and the profile say by now.
+void cRadioPanelLogic::Release(Row& row) {
+    if (const auto held = std::exchange(row.held, std::nullopt)) SetButton(*held, false);
+}
+
+void cRadioPanelLogic::SetButton(const ActionRecord& record, bool down) {
+    session_.Output.SetVirtualButton(record.VJoystickOrKeyCode, record.VButtonOrKeyQualifiers, down,
+                                     false);
+}
+
+void cRadioPanelLogic::ClickStandard(Row& row) {
+    switch (row.selectorPos) {
+        case 1:
+        case 2:
+        case 3:
+        case 4:
+            Swap(static_cast<size_t>(row.selectorPos - 1));
+            break;
+        case 5:
+            ClickAdf(row);
+            break;
+        case 6:
+            if (RPActions->DMEMode == 0)
+                row.dmeChoice = static_cast<uint8_t>(row.dmeChoice % 3 + 1);
+            break;
+        case 7:
+            transponderDigit_ = static_cast<uint8_t>(transponderDigit_ % 4 + 1);
+            break;
+        default:
+            break;
+    }
+}
+
+void cRadioPanelLogic::LongClickStandard(Row& row) {
+    if (row.selectorPos == 6) {
+        showDmeTime_ = !showDmeTime_;
+    } else if (row.selectorPos == 7) {
+        ToggleAltimeterUnit();
+    } else {
+        ClickStandard(row);
+    }
+}
+
+// The simulator does it.
+void cRadioPanelLogic::Swap(size_t channel) {
+    cOFFSET swap(session_.Fsuipc, kRadioSwap, 1);
+    swap.SetData(kRadioChannels[channel].swap);
+    swap.DirectWrite(false);
+}
+
+void cRadioPanelLogic::ClickAdf(const Row& row) {
+    if (RPActions->ADFMode == 2) {
+        adfTuned_ = adfTuned_ == 1 ? 2 : 1;
+    } else if (RPActions->ADFMode >= 3 && RPActions->ADFMode <= 5 && known_) {
+        const size_t adf = AdfOf(row);
+        std::swap(session_.AdfActive[adf], session_.AdfStandby[adf]);
+        tuned_.Set(row.selectorPos, true);
+        WriteAdf(adf);
+    }
+}
+
+// The NGX has a unit of its own, which the next tick reads.
+void cRadioPanelLogic::ToggleAltimeterUnit() {
+    if (RPActions->AltimeterUnit != 0) return;
+    if (session_.SpecialMode == kNGXMode) {
+        session_.Output.SendControl(kNGXAltimeterUnit, kNGXClick);
+    } else {
+        altimeterInHg_ = !altimeterInHg_;
+    }
+}
+
+void cRadioPanelLogic::Rotary(int16_t Rotary, int16_t Direction, uint8_t Side, uint8_t Speed) {
+    if (Side != 1 && Side != 2) return;
+    const Row& row = rows_[Side - 1U];
+    const ActionRecord& record = RPActions->GetRotActions(Rotary, Direction, row.selectorPos);
+    if (record.FSEvent == ActionKind::Offset) {
+        TurnStandard(row, Rotary != 0, Direction != 0 ? Speed : -Speed);
+    } else {
+        session_.Output.SendAction(record, Speed);
+    }
+}
+
+void cRadioPanelLogic::TurnStandard(const Row& row, bool outer, int32_t steps) {
+    if (!known_) return;
+    tuned_.Set(row.selectorPos, true);
+    switch (row.selectorPos) {
+        case 1:
+        case 2:
+        case 3:
+        case 4:
+            TuneChannel(static_cast<size_t>(row.selectorPos - 1), outer, steps);
+            break;
+        case 5:
+            TuneAdf(row, outer, steps);
+            break;
+        case 7:
+            outer ? TurnAltimeter(steps > 0) : TurnTransponderDigit(steps > 0);
+            break;
+        default:
+            break;
+    }
+}
+
+void cRadioPanelLogic::TuneChannel(size_t channel, bool outer, int32_t steps) {
+    const RadioChannel& radio = kRadioChannels[channel];
+    float& frequency = frequency_[channel];
+    frequency = TuneFrequency(frequency, outer ? radio.outerStep : radio.innerStep, steps);
+    frequency = WithinBand(frequency, radio.low, radio.high);
+    if (session_.SpecialMode == kMaddogMode && radio.maddogControl != 0) {
+        const auto number = RoundTo<int32_t>(static_cast<double>(frequency) * 100 - 10000);
+        session_.Output.SendControl(radio.maddogControl, DecimalToBCD(number));
+        return;
+    }
+    WriteBCD(kRadioOffsets[StandbyRow(channel)].offset, FrequencyDigits(frequency));
+}
+
+// The standby frequencies are the program's own: they reach the simulator when a click swaps them.
+void cRadioPanelLogic::TuneAdf(const Row& row, bool outer, int32_t steps) {
+    if (RPActions->ADFMode > 5) return;
+    const size_t adf = AdfOf(row);
+    float& frequency = AdfIsTunedAtOnce() ? session_.AdfActive[adf] : session_.AdfStandby[adf];
+    const float step = outer ? RPActions->ADFOuterKnobStep : RPActions->ADFInnerKnobStep;
+    frequency = WithinBand(TuneFrequency(frequency, step, steps), kAdfBand.low, kAdfBand.high);
+    if (AdfIsTunedAtOnce()) WriteAdf(adf);
+}
+
+// 0 for ADF1, 1 for ADF2: the one that the row's knob and button act on.
+size_t cRadioPanelLogic::AdfOf(const Row& row) const {
+    const size_t byMode[] = {0, 1, adfTuned_ - 1U, 0, 1, row.side - 1U};
+    return byMode[RPActions->ADFMode];
+}
+
+void cRadioPanelLogic::WriteAdf(size_t adf) {
+    const AdfDigits digits = AdfToBCD(session_.AdfActive[adf]);
+    WriteBCD(kAdfOffsets[adf].main, digits.main);
+    WriteBCD(kAdfOffsets[adf].extension, digits.extension);
+}
+
+// Digits go from 0 to 7 and take nothing along.
+void cRadioPanelLogic::TurnTransponderDigit(bool up) {
+    char& digit = transponder_[transponderDigit_ - 1U];
+    const int value = digit - '0' + (up ? 1 : -1);
+    digit = static_cast<char>('0' + (value > 7 ? 0 : value < 0 ? 7 : value));
+    WriteBCD(kTransponder, ParseInteger<int32_t>(transponder_).value_or(0));
+}
+
+void cRadioPanelLogic::TurnAltimeter(bool up) {
+    if (session_.SpecialMode == kNGXMode) {
+        session_.Output.SendControl(kNGXAltimeterKnob, up ? kNGXAltimeterUp : kNGXAltimeterDown);
+        return;
+    }
+    if (!altimeterInHg_) qnh_ = std::trunc(qnh_);
+    const float step = altimeterInHg_ ? kAltimeterStepInHg : 1;
+    qnh_ += up ? step : -step;
+    cOFFSET altimeter(session_.Fsuipc, kAltimeter, 3);
+    altimeter.SetData(static_cast<double>(qnh_) * 16);
+    altimeter.DirectWrite(true);
+}
+
+// At once, so that the next tick reads what was tuned.
+void cRadioPanelLogic::WriteBCD(int32_t offset, int32_t digits) {
+    cOFFSET target(session_.Fsuipc, offset, 3);
+    target.SetBcd(digits);
+    target.DirectWrite(true);
+}

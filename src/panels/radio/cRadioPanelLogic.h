@@ -1,0 +1,103 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "panels/radio/RadioPanelOffsets.h"
+#include "panels/radio/cRadioPanelActionsHolder.h"
+#include "panels/radio/ctlRadioPanel.h"
+#include "simlink/MasterPower.h"
+#include "simlink/cPanelLogic.h"
+#include "simlink/cSession.h"
+
+// Behaviour of one Radio Panel: shows the radios' values on the panel's control, and turns its
+// events into what the bindings say. StartUp comes before all else. Sides are 1 the upper row and 2
+// the lower one, selector positions 1 COM1, 2 COM2, 3 NAV1, 4 NAV2, 5 ADF, 6 DME, 7 XPDR; other
+// numbers do nothing. Both rows can stand at the same position, and what is tuned there is the
+// same.
+class cRadioPanelLogic final : public cPanelLogic {
+  public:
+    cRadioPanelLogic(const LogicServices& services, ctlRadioPanel& control, int16_t index);
+
+    void StartUp() override;
+    void RefreshData() override;
+    void SetupChanged() override;
+    void LoadSetup() override { RPActions->LoadSetup(); }
+
+    void SelectorChange(int16_t Selector, int32_t NewPos, int32_t OldPos);
+    // The button's mask, as the control tells it.
+    void ButtonClick(int32_t Button);
+    void ButtonLongClick(int32_t Button);
+    void ButtonUp(int32_t Button);
+    // Rotary 0 is the inner ring, 1 the outer; Direction 1 is clockwise.
+    void Rotary(int16_t Rotary, int16_t Direction, uint8_t Side, uint8_t Speed);
+
+    const int16_t Index;
+    std::unique_ptr<cRadioPanelActionsHolder> RPActions;
+
+  private:
+    struct Row {
+        uint8_t side;
+        int32_t selectorPos = 1;  // 0 between detents
+        uint8_t dmeChoice = 1;    // 1 both distances, 2 DME1, 3 DME2
+        std::string active{};
+        std::string standby{};
+        std::optional<ActionRecord> held{};  // the virtual button that a click has pressed
+    };
+
+    double Value(size_t row) const { return offsets_[row].Data(); }
+    bool AdfIsTunedAtOnce() const { return RPActions->ADFMode <= 2; }
+
+    void RegisterOffsets();
+    void ApplyAcceleration(const Row& row);
+    void RefreshRow(Row& row);
+    void ShowChannel(Row& row, size_t channel);
+    void ReadAdf();
+    void ShowAdf(Row& row);
+    void ShowDme(Row& row);
+    void ShowDmeStation(Row& row, size_t station);
+    void ShowTransponder(Row& row);
+
+    void SendSelectorAction(ActionRecord record);
+    Row* RowOf(int32_t button);
+    void Press(Row& row, ActionRecord record, void (cRadioPanelLogic::*standard)(Row&));
+    void Release(Row& row);
+    void SetButton(const ActionRecord& record, bool down);
+    void ClickStandard(Row& row);
+    void LongClickStandard(Row& row);
+    void Swap(size_t channel);
+    void ClickAdf(const Row& row);
+    void ToggleAltimeterUnit();
+    void TurnStandard(const Row& row, bool outer, int32_t steps);
+    void TuneChannel(size_t channel, bool outer, int32_t steps);
+    void TuneAdf(const Row& row, bool outer, int32_t steps);
+    size_t AdfOf(const Row& row) const;
+    void WriteAdf(size_t adf);
+    void TurnTransponderDigit(bool up);
+    void TurnAltimeter(bool up);
+    void WriteBCD(int32_t offset, int32_t digits);
+
+    cSession& session_;
+    ProfileStore& profiles_;
+    Clock& clock_;
+    MessageLoop& loop_;
+    ctlRadioPanel& control_;
+    std::vector<NamedOffset> offsets_;  // as kRadioOffsets
+    NamedOffset ngxUnit_;
+    MasterPower power_;
+
+    std::array<Row, 2> rows_ = {{{1}, {2}}};
+    bool known_ = false;          // a tick has read the radios
+    Numbered<bool, 0, 7> tuned_;  // by position: since the last tick, which knows nothing of it
+    std::array<float, kRadioChannels.size()> frequency_{};  // MHz, what the knob changes
+    float qnh_ = 0;                                         // hPa
+    std::string transponder_;                               // the code's four digits
+    uint8_t transponderDigit_ = 1;                          // 1 to 4, the one that the knob changes
+    bool altimeterInHg_ = false;
+    uint8_t adfTuned_ = 1;  // 1 or 2, the one that the knob changes where both are shown
+    bool showDmeTime_ = false;
+};
