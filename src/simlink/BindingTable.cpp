@@ -11,7 +11,6 @@ namespace {
 
 using Range = BindingTable::Range;
 
-constexpr Range kByte = {0, 255};
 constexpr Range kInteger16 = {std::numeric_limits<int16_t>::min(),
                               std::numeric_limits<int16_t>::max()};
 

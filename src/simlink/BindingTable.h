@@ -18,15 +18,16 @@ class BindingTable {
         double low;
         double high;
     };
+    static constexpr Range kByte = {0, 255};
 
     void Add(std::string key, ActionRecord& record, ActionKind standard);
     void Add(std::string key, int16_t& number, int16_t standard);
-    void Add(std::string key, uint8_t& number, uint8_t standard, Range range = {0, 255});
+    void Add(std::string key, uint8_t& number, uint8_t standard, Range range = kByte);
     void Add(std::string key, float& number, float standard, Range range);
     // A key for each control: the prefix, and its name out of `names`, which are in the order of
     // the controls' numbers.
     template <class Value, int32_t First, int32_t Last, class Standard>
-    void AddEach(const std::string& prefix, const char* const* names,
+    void AddEach(const std::string& prefix, const char* const (&names)[Last - First + 1],
                  Numbered<Value, First, Last>& values, Standard standard) {
         for (int32_t number = First; number <= Last; ++number) {
             Add(prefix + names[number - First], values[number], standard);

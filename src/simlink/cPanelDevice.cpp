@@ -41,9 +41,28 @@ bool cPanelDevice::Connect(const std::string& DevicePathName) {
 void cPanelDevice::TakeReport(uint8_t byte0, uint8_t byte1, uint8_t byte2, uint8_t byte3) {
     const uint32_t clock = services_.clock.GetTickCount();
     RawInput.Raise(byte0, byte1, byte2, byte3);
-    const bool first = std::exchange(firstReportPending_, false);
-    const int32_t state = StateWord(byte1, byte2, byte3);
-    HandleReport({std::exchange(lastState_, state), state, first}, clock);
+    waiting_.push_back({StateWord(byte1, byte2, byte3), clock});
+    HandleWaiting();
+}
+
+void cPanelDevice::GetPositions() {
+    const bool within = std::exchange(handling_, true);
+    ReadPositions();
+    handling_ = within;
+    HandleWaiting();
+}
+
+// One report after the other, each as a whole.
+void cPanelDevice::HandleWaiting() {
+    if (handling_) return;
+    handling_ = true;
+    while (!waiting_.empty()) {
+        const auto [state, clock] = waiting_.front();
+        waiting_.pop_front();
+        const bool first = std::exchange(firstReportPending_, false);
+        HandleReport({std::exchange(lastState_, state), state, first}, clock);
+    }
+    handling_ = false;
 }
 
 void cPanelDevice::End() {
@@ -54,6 +73,7 @@ void cPanelDevice::End() {
 void cPanelDevice::Disconnect() {
     if (ended_) return;
     ended_ = true;
+    waiting_.clear();
     MessageLoop& loop = services_.loop;
     if (link_) {
         loop.RunPending();

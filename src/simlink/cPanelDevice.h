@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <deque>
 #include <memory>
 #include <string>
 
@@ -38,7 +39,7 @@ class cPanelDevice : public Picture {
     // The start-up show. Lets pending messages run.
     virtual void Splash() {}
     // Reports the positions of the selectors as if they had just been moved.
-    virtual void GetPositions() {}
+    void GetPositions();
     // Darkens displays and lights.
     virtual void TurnOff() {}
 
@@ -61,14 +62,15 @@ class cPanelDevice : public Picture {
         bool Touches(int32_t mask) const { return ((before ^ after) & mask) != 0; }
     };
 
-    // A report has come, at this clock. It counts as the last one already: the events that come of
-    // it may let the next one in, which is then handled first and as a whole. So what is drawn is
-    // drawn before an event is raised.
+    // A report has come, at this clock. Its events may let messages run; reports among them wait
+    // until this one is done.
     virtual void HandleReport(const Change& /*change*/, uint32_t /*clock*/) {}
+    virtual void ReadPositions() {}
     // The device has just been opened.
     virtual void Connected() {}
 
     uintptr_t DeviceHandle() const { return deviceHandle_; }
+    // State word of the last report that has been handled, or is being handled.
     int32_t LastState() const { return lastState_; }
     const DeviceServices& Services() const { return services_; }
 
@@ -82,11 +84,18 @@ class cPanelDevice : public Picture {
   private:
     void Disconnect();
     void TakeReport(uint8_t byte0, uint8_t byte1, uint8_t byte2, uint8_t byte3);
+    void HandleWaiting();
 
     const DeviceServices services_;
     const PanelKind kind_;
     std::unique_ptr<PanelLink> link_;
     uintptr_t deviceHandle_ = 0;
+    struct Report {
+        int32_t state;
+        uint32_t clock;
+    };
+    std::deque<Report> waiting_;
+    bool handling_ = false;
     int32_t lastState_ = 0;
     bool firstReportPending_ = true;
     bool ended_ = false;

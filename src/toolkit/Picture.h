@@ -13,7 +13,7 @@ class Picture : public Container {
     void Accept(ControlVisitor& visitor) override;
 };
 
-enum class FontFace { Normal, Bold, FixedPitch, SevenSegment };
+enum class FontFace { Normal, Bold, SevenSegment };
 enum class Alignment { Left, Center, Right };
 
 // A line of text. On a Picture it is part of the drawing, elsewhere a native one. In the

@@ -10,32 +10,33 @@ constexpr PanelShape kBodyShape = {
 }  // namespace
 
 PanelBody::PanelBody(Picture& panel, std::span<const PanelShape> shapes,
-                     std::span<const PanelCaption> captions, std::initializer_list<int32_t> rows) {
+                     std::span<const PanelCaption> captions,
+                     std::initializer_list<int32_t> shifts) {
     panel.BackColor = PanelColor::kBody;
     Add(panel, kBodyShape, 0);
-    for (const int32_t down : rows) {
-        for (const PanelShape& row : shapes) Add(panel, row, down);
-        for (const PanelCaption& row : captions) Add(panel, row, down);
+    for (const int32_t shift : shifts) {
+        for (const PanelShape& shape : shapes) Add(panel, shape, shift);
+        for (const PanelCaption& caption : captions) Add(panel, caption, shift);
     }
 }
 
-void PanelBody::Add(Picture& panel, const PanelShape& row, int32_t down) {
-    auto shape = std::make_unique<Shape>(&panel);
-    shape->Kind = row.kind;
-    shape->FillColor = row.fill;
-    shape->BorderColor = row.border;
-    shape->Move(row.left, row.top + down, row.width, row.height);
-    parts_.push_back(std::move(shape));
+void PanelBody::Add(Picture& panel, const PanelShape& shape, int32_t shift) {
+    auto part = std::make_unique<Shape>(&panel);
+    part->Kind = shape.kind;
+    part->FillColor = shape.fill;
+    part->BorderColor = shape.border;
+    part->Move(shape.left, shape.top + shift, shape.width, shape.height);
+    parts_.push_back(std::move(part));
 }
 
-void PanelBody::Add(Picture& panel, const PanelCaption& row, int32_t down) {
-    auto label = std::make_unique<Label>(&panel);
-    label->Caption = row.text;
-    label->Align = Alignment::Center;
-    label->ForeColor = PanelColor::kPrint;
-    label->FontHeight = row.fontHeight;
-    label->Move(row.left, row.top + down, row.width, row.fontHeight + 60);
-    parts_.push_back(std::move(label));
+void PanelBody::Add(Picture& panel, const PanelCaption& caption, int32_t shift) {
+    auto part = std::make_unique<Label>(&panel);
+    part->Caption = caption.text;
+    part->Align = Alignment::Center;
+    part->ForeColor = PanelColor::kPrint;
+    part->FontHeight = caption.fontHeight;
+    part->Move(caption.left, caption.top + shift, caption.width, 225);
+    parts_.push_back(std::move(part));
 }
 
 void PlaceDisplay(Label& label, int32_t left, int32_t top, int32_t width, int32_t height) {

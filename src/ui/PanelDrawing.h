@@ -38,13 +38,13 @@ struct PanelCaption {
 // first, as all else lies in front of it.
 class PanelBody {
   public:
-    // Shapes and captions are drawn once for each of `rows`, that far down.
+    // Shapes and captions are drawn once for each of `shifts`, that far down.
     PanelBody(Picture& panel, std::span<const PanelShape> shapes,
-              std::span<const PanelCaption> captions, std::initializer_list<int32_t> rows = {0});
+              std::span<const PanelCaption> captions, std::initializer_list<int32_t> shifts = {0});
 
   private:
-    void Add(Picture& panel, const PanelShape& row, int32_t down);
-    void Add(Picture& panel, const PanelCaption& row, int32_t down);
+    void Add(Picture& panel, const PanelShape& shape, int32_t shift);
+    void Add(Picture& panel, const PanelCaption& caption, int32_t shift);
 
     std::vector<std::unique_ptr<Control>> parts_;
 };

@@ -117,7 +117,7 @@ void ctlMultiPanel::TakeSelector(int32_t bits, int32_t before) {
     WriteDisplay();  // a report that is waiting goes out
 }
 
-void ctlMultiPanel::GetPositions() {
+void ctlMultiPanel::ReadPositions() {
     std::array<uint8_t, kMultiReportSize> report{};
     Services().hid.GetFeature(DeviceHandle(), report);
     const int32_t bits = StateWord(report[1], report[2], report[3]) & kSelectorMask;

@@ -38,7 +38,6 @@ class ctlMultiPanel final : public cPanelDevice {
     void RotAcceleration(uint8_t value);
     void TrimAcceleration(uint8_t value);
 
-    void GetPositions() override;
     void TurnOff() override { TurnOffDisplay(); }
     void TurnOffDisplay();
     void Splash() override;
@@ -62,6 +61,7 @@ class ctlMultiPanel final : public cPanelDevice {
     };
 
     void HandleReport(const Change& change, uint32_t clock) override;
+    void ReadPositions() override;
     void Connected() override { rotSpeed_.Start(); }
     void CheckPulse(Pulses& pulses, int32_t state, uint32_t clock);
     void CheckButton(int32_t mask, const Change& change);

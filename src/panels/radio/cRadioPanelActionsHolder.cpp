@@ -7,7 +7,6 @@
 namespace {
 
 constexpr const char* kPositions[] = {"COM1", "COM2", "NAV1", "NAV2", "ADF", "DME", "XPDR"};
-constexpr int32_t kLastPosition = std::size(kPositions);
 
 struct RotaryKey {
     const char* prefix;

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <array>
 #include <cstdint>
 
 #include "config/ProfileStore.h"
@@ -50,7 +49,8 @@ class cRadioPanelActionsHolder {
     void SaveSetup();
 
   private:
-    using PositionActions = Numbered<ActionRecord, 1, 7>;
+    static constexpr int32_t kLastPosition = 7;
+    using PositionActions = Numbered<ActionRecord, 1, kLastPosition>;
 
     BindingTable Keys();
 
@@ -60,5 +60,5 @@ class cRadioPanelActionsHolder {
     PositionActions longButtons_;
     // By ring and direction.
     Numbered<Numbered<PositionActions, 0, 1>, 0, 1> rotary_;
-    Numbered<int16_t, 1, 7> acceleration_;
+    Numbered<int16_t, 1, kLastPosition> acceleration_;
 };

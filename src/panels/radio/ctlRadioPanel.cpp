@@ -38,7 +38,7 @@ void ctlRadioPanel::Connected() {
 
 void ctlRadioPanel::SetAcceleration(uint8_t Side, int16_t value) {
     if (Side < 1 || Side > kSides) return;
-    rotSpeed_[Side - 1U].SetPeriod(static_cast<uint32_t>(std::max<int>(value, 0) * 3 + 50));
+    rotSpeed_[Side - 1U].SetPeriod(static_cast<uint32_t>(std::max(value * 3 + 50, 0)));
 }
 
 void ctlRadioPanel::HandleReport(const Change& change, uint32_t clock) {
@@ -94,7 +94,7 @@ void ctlRadioPanel::TakeLongClick(int32_t mask) {
     if (!(LastState() & mask)) ButtonUp.Raise(mask);
 }
 
-void ctlRadioPanel::GetPositions() {
+void ctlRadioPanel::ReadPositions() {
     std::array<uint8_t, kRadioReportSize> report{};
     Services().hid.GetFeature(DeviceHandle(), report);
     const Change change = {0, StateWord(report[1], report[2], report[3]), false};

@@ -25,16 +25,16 @@ class ctlRadioPanel final : public cPanelDevice {
     Event<int32_t> ButtonClick;      // at the release of a short press
     Event<int32_t> ButtonLongClick;  // when a held button passes the click threshold
     Event<int32_t> ButtonDown;
-    Event<int32_t> ButtonUp;             // at every release, after the click
+    Event<int32_t> ButtonUp;             // at every release, after the click; and once more after
+                                         // a long click that comes too late for it
     Event<int32_t, int16_t> RotaryUp;    // a clockwise step of a knob, and its speed: 1, 5, 10, 20
     Event<int32_t, int16_t> RotaryDown;  // the same, counter-clockwise
     Event<int16_t, int32_t, int32_t> SelectorChange;  // side, new and old position
 
-    // A period of the side's speed sampling lasts value x 3 + 50 ms. The longer, the sooner a
-    // speed counts as fast. Values below 0 count as 0; other sides are ignored.
+    // A period of the side's speed sampling lasts value x 3 + 50 ms, 0 or less of which stops the
+    // sampling. The longer, the sooner a speed counts as fast. Other sides are ignored.
     void SetAcceleration(uint8_t Side, int16_t value);
 
-    void GetPositions() override;
     void TurnOff() override { TurnOffDisplay(); }
     void TurnOffDisplay();
     void Splash() override;
@@ -58,6 +58,7 @@ class ctlRadioPanel final : public cPanelDevice {
     };
 
     void HandleReport(const Change& change, uint32_t clock) override;
+    void ReadPositions() override;
     void Connected() override;
     void CheckRotary(size_t knob, int32_t state, uint32_t clock);
     void TakeSelector(size_t side, const Change& change);

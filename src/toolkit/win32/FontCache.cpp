@@ -27,7 +27,7 @@ HFONT FontCache::Get(FontFace face, int height) {
         LOGFONTW wanted = message_;
         wanted.lfHeight = -height;
         if (face == FontFace::Bold) wanted.lfWeight = FW_BOLD;
-        if (face == FontFace::FixedPitch || face == FontFace::SevenSegment) {
+        if (face == FontFace::SevenSegment) {
             wanted.lfPitchAndFamily = FIXED_PITCH | FF_MODERN;
             std::wcscpy(wanted.lfFaceName, L"Courier New");
         }
