@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 
 // Little-endian numbers in byte blocks. The caller answers for the bytes being there.
@@ -20,4 +21,11 @@ inline void StoreLE16(uint8_t* bytes, uint16_t value) {
 inline void StoreLE32(uint8_t* bytes, uint32_t value) {
     StoreLE16(bytes, static_cast<uint16_t>(value));
     StoreLE16(bytes + 2, static_cast<uint16_t>(value >> 16));
+}
+
+// Four decimal digits as BCD: 1234 gives 0x1234. Values outside 0 to 9999 are held to that.
+constexpr uint16_t DecimalToBCD(int32_t value) {
+    const int32_t digits = std::clamp(value, 0, 9999);
+    return static_cast<uint16_t>(digits / 1000 * 4096 + digits / 100 % 10 * 256 +
+                                 digits / 10 % 10 * 16 + digits % 10);
 }

@@ -131,11 +131,7 @@ int32_t cOFFSET::Bcd(const uint8_t* bytes) {
     return (bytes[0] & 15) + 10 * (bytes[0] >> 4) + 100 * (bytes[1] & 15) + 1000 * (bytes[1] >> 4);
 }
 
-void cOFFSET::SetBcd(int32_t Value) {
-    const auto digits = static_cast<uint32_t>(std::clamp(Value, 0, 9999));
-    word_[0] = static_cast<uint8_t>(digits / 10 % 10 * 16 + digits % 10);
-    word_[1] = static_cast<uint8_t>(digits / 1000 * 16 + digits / 100 % 10);
-}
+void cOFFSET::SetBcd(int32_t Value) { StoreLE16(word_.data(), DecimalToBCD(Value)); }
 
 void cOFFSET::DirectWrite(bool Immediate) {
     fsuipc_.FSUIPC_Write(Offset, TransferLenght(), DataPtr(), dwResult);

@@ -12,8 +12,9 @@ inline constexpr uint8_t kStandardMode = 0;
 inline constexpr uint8_t kMaddogMode = 1;
 inline constexpr uint8_t kNGXMode = 2;
 
-// What is known of the simulator, and the ways to it. It outlives the single connection, as the
-// panels' logics go on with the same offsets when the simulator comes back.
+// What is known of the simulator, the ways to it, and what all panels work with. It outlives the
+// single connection, as the panels' logics go on with the same offsets when the simulator comes
+// back.
 struct cSession {
     cSession(IpcChannel& channel, Clock& clock, KeyboardPort& keyboard, MessageLoop& loop)
         : Fsuipc(channel, clock),

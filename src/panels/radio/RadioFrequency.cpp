@@ -7,9 +7,6 @@
 
 namespace {
 
-constexpr int32_t kLongestDistance = 9999;
-constexpr int32_t kDistanceWithoutTenths = 1000;
-
 // What the hundredths' last digit means on the raster, in thousandths.
 constexpr int kRaster[] = {0, 0, 25, 25, 50, 50, 50, 75, 75, 75};
 
@@ -40,11 +37,6 @@ int32_t FrequencyDigits(float Frequency) {
     return static_cast<int32_t>(std::max<int64_t>(hundredths, 0) % 10000);
 }
 
-int32_t DecimalToBCD(int32_t Number) {
-    const int32_t digits = std::clamp(Number, 0, 9999);
-    return digits / 1000 * 4096 + digits / 100 % 10 * 256 + digits / 10 % 10 * 16 + digits % 10;
-}
-
 float AdfFromBCD(int32_t Main, int32_t Extension) {
     const int32_t thousand = Extension < 100 ? 0 : 1;
     return static_cast<float>(Main + thousand * 1000 + (Extension - thousand * 100) / 10.0);
@@ -55,16 +47,4 @@ AdfDigits AdfToBCD(float Frequency) {
     const double whole = std::trunc(Frequency);
     const double extension = (Frequency - whole) * 10 + (thousand ? 100 : 0);
     return {RoundTo<int32_t>(thousand ? whole - 1000 : whole), RoundTo<int32_t>(extension)};
-}
-
-bool DmeInRange(int32_t Value) { return Value >= 1 && Value <= kLongestDistance; }
-
-void AppendDmeDistance(std::string& out, int32_t Value) {
-    if (!DmeInRange(Value)) {
-        out += " . . .";
-    } else if (Value >= kDistanceWithoutTenths) {
-        AppendInteger(out, Value / 10, 3);
-    } else {
-        AppendFixed(out, Value / 10.0, 1, 2);
-    }
 }

@@ -2,6 +2,7 @@
 #include <cmath>
 #include <utility>
 
+#include "base/Bytes.h"
 #include "base/Number.h"
 #include "panels/radio/RadioFrequency.h"
 #include "panels/radio/cRadioPanelLogic.h"
@@ -9,20 +10,6 @@
 
 namespace {
 
-struct AdfBand {
-    float low;
-    float high;  // without it
-};
-constexpr AdfBand kAdfBand = {100, 1800};
-
-struct AdfOffsets {
-    int32_t main;
-    int32_t extension;
-};
-constexpr std::array<AdfOffsets, 2> kAdfOffsets = {{{0x034C, 0x0356}, {0x02D4, 0x02D6}}};
-
-constexpr int32_t kTransponder = 0x0354;
-constexpr int32_t kAltimeter = 0x0330;
 constexpr float kAltimeterStepInHg = 0.25F;  // hPa
 
 constexpr int32_t kNGXAltimeterKnob = 69997;
@@ -31,12 +18,14 @@ constexpr int32_t kNGXAltimeterDown = 8192;
 constexpr int32_t kNGXAltimeterUnit = 69998;
 constexpr int32_t kNGXClick = 0x20000000;
 
-constexpr int32_t kSelectorPressMs = 50;
+constexpr uint32_t kSelectorPressMs = 50;
+constexpr uint32_t kSelectorPauseMs = 25;
 
 // Goes over the end of the band to the other one, once: a fast turn may go further.
-float WithinBand(float frequency, float low, float high) {
-    if (frequency < low) frequency += high - low;
-    if (frequency >= high) frequency -= high - low;
+float WithinBand(float frequency, const RadioBand& band) {
+    const float width = band.high - band.low;
+    if (frequency < band.low) frequency += width;
+    if (frequency >= band.high) frequency -= width;
     return frequency;
 }
 
@@ -46,8 +35,6 @@ void cRadioPanelLogic::SelectorChange(int16_t Selector, int32_t NewPos, int32_t 
     if (Selector != 1 && Selector != 2) return;
     Row& row = rows_[static_cast<size_t>(Selector - 1)];
     row.selectorPos = NewPos;
-    // The knob may be turned before the next tick.
-    if (!tuned_.Get(NewPos)) RefreshRow(row);
     if (Index == 1 && Selector == 1 && NewPos >= 1 && NewPos <= 4) {
         session_.EngineSelected = static_cast<uint8_t>(NewPos);
     }
@@ -61,7 +48,7 @@ void cRadioPanelLogic::SendSelectorAction(ActionRecord record) {
         return;
     }
     SetButton(record, true);
-    Wait(clock_, loop_, kSelectorPressMs, kSelectorPressMs / 2);
+    Wait(clock_, loop_, kSelectorPressMs, kSelectorPauseMs);
     SetButton(record, false);
 }
 
@@ -156,10 +143,10 @@ void cRadioPanelLogic::Swap(size_t channel) {
 void cRadioPanelLogic::ClickAdf(const Row& row) {
     if (RPActions->ADFMode == 2) {
         adfTuned_ = adfTuned_ == 1 ? 2 : 1;
-    } else if (RPActions->ADFMode >= 3 && RPActions->ADFMode <= 5 && known_) {
+    } else if (RPActions->ADFMode >= 3 && RPActions->ADFMode <= 5 && radiosRead_) {
+        PrepareAdfStandby();
         const size_t adf = AdfOf(row);
         std::swap(session_.AdfActive[adf], session_.AdfStandby[adf]);
-        tuned_.Set(row.selectorPos, true);
         WriteAdf(adf);
     }
 }
@@ -179,15 +166,15 @@ void cRadioPanelLogic::Rotary(int16_t Rotary, int16_t Direction, uint8_t Side, u
     const Row& row = rows_[Side - 1U];
     const ActionRecord& record = RPActions->GetRotActions(Rotary, Direction, row.selectorPos);
     if (record.FSEvent == ActionKind::Offset) {
-        TurnStandard(row, Rotary != 0, Direction != 0 ? Speed : -Speed);
+        TurnStandard(row, Rotary != 0, Direction != 0, Speed);
     } else {
         session_.Output.SendAction(record, Speed);
     }
 }
 
-void cRadioPanelLogic::TurnStandard(const Row& row, bool outer, int32_t steps) {
-    if (!known_) return;
-    tuned_.Set(row.selectorPos, true);
+void cRadioPanelLogic::TurnStandard(const Row& row, bool outer, bool up, uint8_t speed) {
+    if (!radiosRead_) return;
+    const int32_t steps = up ? speed : -speed;
     switch (row.selectorPos) {
         case 1:
         case 2:
@@ -199,7 +186,7 @@ void cRadioPanelLogic::TurnStandard(const Row& row, bool outer, int32_t steps) {
             TuneAdf(row, outer, steps);
             break;
         case 7:
-            outer ? TurnAltimeter(steps > 0) : TurnTransponderDigit(steps > 0);
+            outer ? TurnAltimeter(up) : TurnTransponderDigit(up);
             break;
         default:
             break;
@@ -210,26 +197,27 @@ void cRadioPanelLogic::TuneChannel(size_t channel, bool outer, int32_t steps) {
     const RadioChannel& radio = kRadioChannels[channel];
     float& frequency = frequency_[channel];
     frequency = TuneFrequency(frequency, outer ? radio.outerStep : radio.innerStep, steps);
-    frequency = WithinBand(frequency, radio.low, radio.high);
-    if (session_.SpecialMode == kMaddogMode && radio.maddogControl != 0) {
+    frequency = WithinBand(frequency, radio.band);
+    if (ActiveOnly(channel)) {
         const auto number = RoundTo<int32_t>(static_cast<double>(frequency) * 100 - 10000);
         session_.Output.SendControl(radio.maddogControl, DecimalToBCD(number));
         return;
     }
-    WriteBCD(kRadioOffsets[StandbyRow(channel)].offset, FrequencyDigits(frequency));
+    WriteBCD(kRadioOffsets[StandbyOf(channel)].offset, FrequencyDigits(frequency));
 }
 
 // The standby frequencies are the program's own: they reach the simulator when a click swaps them.
 void cRadioPanelLogic::TuneAdf(const Row& row, bool outer, int32_t steps) {
     if (RPActions->ADFMode > 5) return;
+    PrepareAdfStandby();
     const size_t adf = AdfOf(row);
     float& frequency = AdfIsTunedAtOnce() ? session_.AdfActive[adf] : session_.AdfStandby[adf];
     const float step = outer ? RPActions->ADFOuterKnobStep : RPActions->ADFInnerKnobStep;
-    frequency = WithinBand(TuneFrequency(frequency, step, steps), kAdfBand.low, kAdfBand.high);
+    frequency = WithinBand(TuneFrequency(frequency, step, steps), kAdfBand);
     if (AdfIsTunedAtOnce()) WriteAdf(adf);
 }
 
-// 0 for ADF1, 1 for ADF2: the one that the row's knob and button act on.
+// 0 for ADF1, 1 for ADF2: the one that the row's knob and button act on in the modes 0 to 5.
 size_t cRadioPanelLogic::AdfOf(const Row& row) const {
     const size_t byMode[] = {0, 1, adfTuned_ - 1U, 0, 1, row.side - 1U};
     return byMode[RPActions->ADFMode];
@@ -237,8 +225,8 @@ size_t cRadioPanelLogic::AdfOf(const Row& row) const {
 
 void cRadioPanelLogic::WriteAdf(size_t adf) {
     const AdfDigits digits = AdfToBCD(session_.AdfActive[adf]);
-    WriteBCD(kAdfOffsets[adf].main, digits.main);
-    WriteBCD(kAdfOffsets[adf].extension, digits.extension);
+    WriteBCD(kRadioOffsets[AdfMainOf(adf)].offset, digits.main);
+    WriteBCD(kRadioOffsets[AdfExtensionOf(adf)].offset, digits.extension);
 }
 
 // Digits go from 0 to 7 and take nothing along.
@@ -246,7 +234,7 @@ void cRadioPanelLogic::TurnTransponderDigit(bool up) {
     char& digit = transponder_[transponderDigit_ - 1U];
     const int value = digit - '0' + (up ? 1 : -1);
     digit = static_cast<char>('0' + (value > 7 ? 0 : value < 0 ? 7 : value));
-    WriteBCD(kTransponder, ParseInteger<int32_t>(transponder_).value_or(0));
+    WriteBCD(kRadioOffsets[kTransponder].offset, ParseInteger<int32_t>(transponder_).value_or(0));
 }
 
 void cRadioPanelLogic::TurnAltimeter(bool up) {
@@ -257,14 +245,14 @@ void cRadioPanelLogic::TurnAltimeter(bool up) {
     if (!altimeterInHg_) qnh_ = std::trunc(qnh_);
     const float step = altimeterInHg_ ? kAltimeterStepInHg : 1;
     qnh_ += up ? step : -step;
-    cOFFSET altimeter(session_.Fsuipc, kAltimeter, 3);
-    altimeter.SetData(static_cast<double>(qnh_) * 16);
+    cOFFSET altimeter(session_.Fsuipc, kRadioOffsets[kQnh].offset, kRadioOffsetType);
+    altimeter.SetData(qnh_ * kQnhPerHPa);
     altimeter.DirectWrite(true);
 }
 
 // At once, so that the next tick reads what was tuned.
 void cRadioPanelLogic::WriteBCD(int32_t offset, int32_t digits) {
-    cOFFSET target(session_.Fsuipc, offset, 3);
+    cOFFSET target(session_.Fsuipc, offset, kRadioOffsetType);
     target.SetBcd(digits);
     target.DirectWrite(true);
 }

@@ -6,11 +6,27 @@
 
 namespace {
 
-constexpr size_t kFirstNav = 2;
-constexpr float kSixteenths = 16;
 constexpr double kInHgPerHPa = 0.02953;
+constexpr int32_t kTenthsPerMinute = 600;  // of a second
 
-void SetFixed(std::string& text, double value, int digits, int decimals) {
+// Distances are in tenths of a mile. From 100 miles on they are shown without them.
+constexpr int32_t kLongestDistance = 9999;
+constexpr int32_t kDistanceWithoutTenths = 1000;
+constexpr char kOutOfRange[] = " . . .";
+
+bool IsInRange(int32_t distance) { return distance >= 1 && distance <= kLongestDistance; }
+
+void AppendDmeDistance(std::string& text, int32_t distance) {
+    if (!IsInRange(distance)) {
+        text += kOutOfRange;
+    } else if (distance >= kDistanceWithoutTenths) {
+        AppendInteger(text, distance / 10, 3);
+    } else {
+        AppendFixed(text, distance / 10.0, 1, 2);
+    }
+}
+
+void SetFixed(std::string& text, double value, int decimals, int digits = 1) {
     text.clear();
     AppendFixed(text, value, decimals, digits);
 }
@@ -66,9 +82,8 @@ void cRadioPanelLogic::ApplyAcceleration(const Row& row) {
 }
 
 void cRadioPanelLogic::RefreshData() {
-    known_ = true;
-    tuned_ = {};
-    for (Row& row : rows_) RefreshRow(row);
+    ReadRadios();
+    for (Row& row : rows_) ShowRow(row);
     if (power_.IsOn()) {
         control_.WriteDisplay(rows_[0].active, rows_[0].standby, rows_[1].active, rows_[1].standby);
     } else {
@@ -76,7 +91,32 @@ void cRadioPanelLogic::RefreshData() {
     }
 }
 
-void cRadioPanelLogic::RefreshRow(Row& row) {
+// All of them, as a knob may be turned between a selector's move and the next tick.
+void cRadioPanelLogic::ReadRadios() {
+    for (size_t channel = 0; channel < kRadioChannels.size(); ++channel) {
+        const size_t from = ActiveOnly(channel) ? ActiveOf(channel) : StandbyOf(channel);
+        const float read = offsets_[from].GetFreq();
+        frequency_[channel] = kRadioChannels[channel].thousandths ? RestoreChannel(read) : read;
+    }
+    for (size_t adf = 0; adf < session_.AdfActive.size(); ++adf) {
+        session_.AdfActive[adf] =
+            AdfFromBCD(offsets_[AdfMainOf(adf)].GetBCD(), offsets_[AdfExtensionOf(adf)].GetBCD());
+    }
+    qnh_ = static_cast<float>(Value(kQnh)) / kQnhPerHPa;
+    if (session_.SpecialMode == kNGXMode) altimeterInHg_ = ngxUnit_.Data() == 0;
+    transponder_.clear();
+    AppendInteger(transponder_, offsets_[kTransponder].GetBCD(), 4);
+    radiosRead_ = true;
+}
+
+// What is prepared starts out as what is there, once a row stands at ADF.
+void cRadioPanelLogic::PrepareAdfStandby() {
+    for (size_t adf = 0; adf < session_.AdfStandby.size(); ++adf) {
+        if (session_.AdfStandby[adf] == 0) session_.AdfStandby[adf] = session_.AdfActive[adf];
+    }
+}
+
+void cRadioPanelLogic::ShowRow(Row& row) {
     switch (row.selectorPos) {
         case 1:
         case 2:
@@ -85,7 +125,6 @@ void cRadioPanelLogic::RefreshRow(Row& row) {
             ShowChannel(row, static_cast<size_t>(row.selectorPos - 1));
             break;
         case 5:
-            ReadAdf();
             ShowAdf(row);
             break;
         case 6:
@@ -99,39 +138,28 @@ void cRadioPanelLogic::RefreshRow(Row& row) {
     }
 }
 
-// The Maddog's NAV radios have no standby frequency: the display of the active one is dark.
 void cRadioPanelLogic::ShowChannel(Row& row, size_t channel) {
-    const bool activeOnly = session_.SpecialMode == kMaddogMode && channel >= kFirstNav;
-    const float active = offsets_[ActiveRow(channel)].GetFreq();
-    const float tuned = activeOnly ? active : offsets_[StandbyRow(channel)].GetFreq();
-    row.active.clear();
-    if (!activeOnly) AppendFixed(row.active, active, 2);
-    SetFixed(row.standby, tuned, 1, 2);
-    frequency_[channel] = kRadioChannels[channel].thousandths ? RestoreChannel(tuned) : tuned;
-}
-
-void cRadioPanelLogic::ReadAdf() {
-    session_.AdfActive[0] =
-        AdfFromBCD(offsets_[kAdf1MainRow].GetBCD(), offsets_[kAdf1ExtensionRow].GetBCD());
-    session_.AdfActive[1] =
-        AdfFromBCD(offsets_[kAdf2MainRow].GetBCD(), offsets_[kAdf2ExtensionRow].GetBCD());
-    for (size_t adf = 0; adf < 2; ++adf) {
-        if (session_.AdfStandby[adf] == 0) session_.AdfStandby[adf] = session_.AdfActive[adf];
+    const float active = offsets_[ActiveOf(channel)].GetFreq();
+    if (ActiveOnly(channel)) {
+        row.active.clear();
+        SetFixed(row.standby, active, 2);
+    } else {
+        SetFixed(row.active, active, 2);
+        SetFixed(row.standby, offsets_[StandbyOf(channel)].GetFreq(), 2);
     }
 }
 
 void cRadioPanelLogic::ShowAdf(Row& row) {
+    PrepareAdfStandby();
+    const auto set = [](std::string& text, float frequency) { SetFixed(text, frequency, 1, 4); };
     const auto& active = session_.AdfActive;
-    const auto& standby = session_.AdfStandby;
-    const auto set = [](std::string& text, float frequency) { SetFixed(text, frequency, 4, 1); };
-    switch (RPActions->ADFMode) {
+    const uint8_t mode = RPActions->ADFMode;
+    switch (mode) {
         case 0:
         case 1:
             row.active.clear();
-            AppendDmeDistance(
-                row.active, offsets_[RPActions->ADFMode == 0 ? kDme1DistanceRow : kDme2DistanceRow]
-                                .IntegerData());
-            set(row.standby, active[RPActions->ADFMode]);
+            AppendDmeDistance(row.active, offsets_[kDmeDistance + mode].IntegerData());
+            set(row.standby, active[mode]);
             break;
         case 2:
             set(row.active, active[1]);
@@ -140,12 +168,10 @@ void cRadioPanelLogic::ShowAdf(Row& row) {
             break;
         case 3:
         case 4:
-        case 5: {
-            const size_t adf = AdfOf(row);
-            set(row.active, active[adf]);
-            set(row.standby, standby[adf]);
+        case 5:
+            set(row.active, active[AdfOf(row)]);
+            set(row.standby, session_.AdfStandby[AdfOf(row)]);
             break;
-        }
         default:
             set(row.standby, active[0]);
             break;
@@ -155,9 +181,9 @@ void cRadioPanelLogic::ShowAdf(Row& row) {
 void cRadioPanelLogic::ShowDme(Row& row) {
     if (row.dmeChoice == 1) {
         row.active.clear();
-        AppendDmeDistance(row.active, offsets_[kDme1DistanceRow].IntegerData());
+        AppendDmeDistance(row.active, offsets_[kDmeDistance].IntegerData());
         row.standby.clear();
-        AppendDmeDistance(row.standby, offsets_[kDme2DistanceRow].IntegerData());
+        AppendDmeDistance(row.standby, offsets_[kDmeDistance + 1].IntegerData());
     } else if (row.dmeChoice <= 3) {
         ShowDmeStation(row, row.dmeChoice - 2U);
     }
@@ -165,31 +191,28 @@ void cRadioPanelLogic::ShowDme(Row& row) {
 
 // One station's distance, and its speed or time.
 void cRadioPanelLogic::ShowDmeStation(Row& row, size_t station) {
-    const int32_t distance = offsets_[kDme1DistanceRow + station].IntegerData();
+    const int32_t distance = offsets_[kDmeDistance + station].IntegerData();
     row.active = station == 0 ? "1 " : "2 ";
     AppendDmeDistance(row.active, distance);
-    row.standby.clear();
-    if (!DmeInRange(distance)) {
-        AppendDmeDistance(row.standby, distance);
+    if (!IsInRange(distance)) {
+        row.standby = kOutOfRange;
     } else if (showDmeTime_) {
-        AppendInteger(row.standby, offsets_[kDme1TimeRow + station].IntegerData() / 600, 2);
+        row.standby.clear();
+        AppendInteger(row.standby, offsets_[kDmeTime + station].IntegerData() / kTenthsPerMinute,
+                      2);
         row.standby += '.';
     } else {
-        AppendFixed(row.standby, Value(kDme1SpeedRow + station) / 10, 0, 3);
+        SetFixed(row.standby, Value(kDmeSpeed + station) / 10, 0, 3);
     }
 }
 
 // The altimeter setting, and the code with a point behind the digit that the knob changes.
 void cRadioPanelLogic::ShowTransponder(Row& row) {
-    qnh_ = static_cast<float>(Value(kQnhRow)) / kSixteenths;
-    if (session_.SpecialMode == kNGXMode) altimeterInHg_ = ngxUnit_.Data() == 0;
     if (altimeterInHg_) {
         SetFixed(row.active, qnh_ * kInHgPerHPa, 2, 2);
     } else {
-        SetFixed(row.active, qnh_, 4, 0);
+        SetFixed(row.active, qnh_, 0, 4);
     }
-    transponder_.clear();
-    AppendInteger(transponder_, offsets_[kTransponderRow].GetBCD(), 4);
     row.standby = transponder_;
     row.standby.insert(transponderDigit_, 1, '.');
 }

@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "panels/radio/RadioChannels.h"
 #include "panels/radio/RadioPanelOffsets.h"
 #include "panels/radio/cRadioPanelActionsHolder.h"
 #include "panels/radio/ctlRadioPanel.h"
@@ -49,14 +50,19 @@ class cRadioPanelLogic final : public cPanelLogic {
         std::optional<ActionRecord> held{};  // the virtual button that a click has pressed
     };
 
-    double Value(size_t row) const { return offsets_[row].Data(); }
+    double Value(size_t value) const { return offsets_[value].Data(); }
     bool AdfIsTunedAtOnce() const { return RPActions->ADFMode <= 2; }
+    // The Maddog's NAV radios have no standby frequency.
+    bool ActiveOnly(size_t channel) const {
+        return session_.SpecialMode == kMaddogMode && kRadioChannels[channel].maddogControl != 0;
+    }
 
     void RegisterOffsets();
     void ApplyAcceleration(const Row& row);
-    void RefreshRow(Row& row);
+    void ReadRadios();
+    void PrepareAdfStandby();
+    void ShowRow(Row& row);
     void ShowChannel(Row& row, size_t channel);
-    void ReadAdf();
     void ShowAdf(Row& row);
     void ShowDme(Row& row);
     void ShowDmeStation(Row& row, size_t station);
@@ -72,7 +78,7 @@ class cRadioPanelLogic final : public cPanelLogic {
     void Swap(size_t channel);
     void ClickAdf(const Row& row);
     void ToggleAltimeterUnit();
-    void TurnStandard(const Row& row, bool outer, int32_t steps);
+    void TurnStandard(const Row& row, bool outer, bool up, uint8_t speed);
     void TuneChannel(size_t channel, bool outer, int32_t steps);
     void TuneAdf(const Row& row, bool outer, int32_t steps);
     size_t AdfOf(const Row& row) const;
@@ -91,8 +97,8 @@ class cRadioPanelLogic final : public cPanelLogic {
     MasterPower power_;
 
     std::array<Row, 2> rows_ = {{{1}, {2}}};
-    bool known_ = false;          // a tick has read the radios
-    Numbered<bool, 0, 7> tuned_;  // by position: since the last tick, which knows nothing of it
+    // As the last tick has read them, and the knobs have changed them since.
+    bool radiosRead_ = false;
     std::array<float, kRadioChannels.size()> frequency_{};  // MHz, what the knob changes
     float qnh_ = 0;                                         // hPa
     std::string transponder_;                               // the code's four digits
