@@ -83,10 +83,10 @@ void BindingTable::SetDefaults() const {
 
 void BindingTable::Load(const ProfileStore& profiles, const std::string& section) const {
     SetDefaults();
-    for (const auto& [key, value] : profiles.OpenProfile(section).Entries()) {
-        const auto row = std::ranges::find(rows_, key, &Row::key);
+    for (const auto& entry : profiles.OpenProfile(section).Entries()) {
+        const auto row = std::ranges::find(rows_, entry.first, &Row::key);
         if (row == rows_.end()) continue;
-        std::visit([&](auto* place) { Read(value, row->range, *place); }, row->place);
+        std::visit([&](auto* place) { Read(entry.second, row->range, *place); }, row->place);
     }
 }
 
