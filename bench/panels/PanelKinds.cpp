@@ -1,21 +1,21 @@
 #include "bench/panels/PanelKinds.h"
 
 #include <algorithm>
-#include <span>
 
 #include "base/Text.h"
-#include "bench/console/Command.h"
 
 namespace {
 
 constexpr PanelKind kKinds[] = {
-    {"radio", 0x0D05, 23, 0},
+    {"radio", 0x0D05, 23, 0x810000},
     {"multi", 0x0D06, 13, 0x010000},
     {"switch", 0x0D67, 2, 0},
     {"bip", 0x0B4E, 7, 0},
 };
 
 constexpr uint32_t kSelector = 0x1F0000;
+constexpr uint32_t kUpper = 0x7F0000;
+constexpr uint32_t kLower = 0x803F00;
 
 constexpr PanelControl kControls[] = {
     {"multi", "selector", PanelAct::Set, "ALT", 0x010000, kSelector},
@@ -40,34 +40,31 @@ constexpr PanelControl kControls[] = {
     {"multi", "flaps", PanelAct::Set, "centre", 0, 0x000003},
     {"multi", "throttle", PanelAct::Set, "arm", 0x008000, 0x008000},
     {"multi", "throttle", PanelAct::Set, "off", 0, 0x008000},
+    {"radio", "upper", PanelAct::Set, "COM1", 0x010000, kUpper},
+    {"radio", "upper", PanelAct::Set, "COM2", 0x020000, kUpper},
+    {"radio", "upper", PanelAct::Set, "NAV1", 0x040000, kUpper},
+    {"radio", "upper", PanelAct::Set, "NAV2", 0x080000, kUpper},
+    {"radio", "upper", PanelAct::Set, "ADF", 0x100000, kUpper},
+    {"radio", "upper", PanelAct::Set, "DME", 0x200000, kUpper},
+    {"radio", "upper", PanelAct::Set, "XPDR", 0x400000, kUpper},
+    {"radio", "lower", PanelAct::Set, "COM1", 0x800000, kLower},
+    {"radio", "lower", PanelAct::Set, "COM2", 0x000100, kLower},
+    {"radio", "lower", PanelAct::Set, "NAV1", 0x000200, kLower},
+    {"radio", "lower", PanelAct::Set, "NAV2", 0x000400, kLower},
+    {"radio", "lower", PanelAct::Set, "ADF", 0x000800, kLower},
+    {"radio", "lower", PanelAct::Set, "DME", 0x001000, kLower},
+    {"radio", "lower", PanelAct::Set, "XPDR", 0x002000, kLower},
+    {"radio", "press", PanelAct::Press, "upper", 0x004000, 0x004000},
+    {"radio", "press", PanelAct::Press, "lower", 0x008000, 0x008000},
+    {"radio", "upper-inner", PanelAct::Turn, "+", 0x000001, 0x000001},
+    {"radio", "upper-inner", PanelAct::Turn, "-", 0x000002, 0x000002},
+    {"radio", "upper-outer", PanelAct::Turn, "+", 0x000004, 0x000004},
+    {"radio", "upper-outer", PanelAct::Turn, "-", 0x000008, 0x000008},
+    {"radio", "lower-inner", PanelAct::Turn, "+", 0x000010, 0x000010},
+    {"radio", "lower-inner", PanelAct::Turn, "-", 0x000020, 0x000020},
+    {"radio", "lower-outer", PanelAct::Turn, "+", 0x000040, 0x000040},
+    {"radio", "lower-outer", PanelAct::Turn, "-", 0x000080, 0x000080},
 };
-
-constexpr std::string_view kMultiLights[] = {"AP", "HDG", "NAV", "IAS", "ALT", "VS", "APR", "REV"};
-constexpr size_t kMultiReport = 13;
-constexpr size_t kRow = 5;
-
-std::string DescribeRow(std::string_view codes) {
-    if (std::ranges::all_of(codes, [](char code) { return code == 0x0F; })) return "dark";
-    std::string text = "\"";
-    for (const char code : codes) {
-        if (code >= 0 && code <= 9) {
-            text += static_cast<char>('0' + code);
-        } else {
-            text += code == 0x0A ? ' ' : code == 0x0E ? '-' : '?';
-        }
-    }
-    return text + '"';
-}
-
-std::string DescribeMulti(std::string_view report) {
-    std::string text = "upper " + DescribeRow(report.substr(1, kRow)) + " lower " +
-                       DescribeRow(report.substr(1 + kRow, kRow)) + " lights";
-    const auto lights = static_cast<uint8_t>(report[1 + 2 * kRow]);
-    for (size_t i = 0; i < std::size(kMultiLights); ++i) {
-        if ((lights >> i & 1) != 0) text.append(" ").append(kMultiLights[i]);
-    }
-    return lights == 0 ? text + " none" : text;
-}
 
 }  // namespace
 
@@ -83,9 +80,4 @@ const PanelControl* FindPanelControl(std::string_view kind, std::string_view com
                (!position || EqualNoCase(control.position, *position));
     });
     return found == std::end(kControls) ? nullptr : found;
-}
-
-std::string DescribeFeature(const PanelKind& kind, const std::string& report) {
-    if (kind.name == "multi" && report.size() == kMultiReport) return DescribeMulti(report);
-    return HexText(std::span(reinterpret_cast<const uint8_t*>(report.data()), report.size()));
 }

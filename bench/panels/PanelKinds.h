@@ -2,7 +2,6 @@
 
 #include <cstdint>
 #include <optional>
-#include <string>
 #include <string_view>
 
 // What the virtual panels know of each kind of panel; a new control is a row in PanelKinds.cpp.
@@ -36,6 +35,3 @@ const PanelKind* FindPanelKind(std::string_view name);
 // none is given, at any.
 const PanelControl* FindPanelControl(std::string_view kind, std::string_view command,
                                      std::optional<std::string_view> position);
-
-// What a person sees on a panel of this kind after a feature report, in words.
-std::string DescribeFeature(const PanelKind& kind, const std::string& report);

@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "bench/panels/PanelWords.h"
+
 namespace {
 
 constexpr size_t kLogLimit = 10000;
@@ -47,5 +49,5 @@ std::vector<std::string> VirtualPanel::TakeFeatures() {
 
 std::string VirtualPanel::Show() const {
     const std::lock_guard hold(lock_);
-    return last_.empty() ? "untouched" : DescribeFeature(kind_, last_);
+    return last_.empty() ? "untouched" : DescribeFeature(kind_.name, last_);
 }

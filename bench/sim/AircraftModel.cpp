@@ -32,6 +32,24 @@ constexpr Radio kRadios[] = {
     {1, 0x0352, 0x3120},  // NAV2
 };
 
+// What the radios begin with; frequencies and codes have four BCD digits.
+constexpr struct {
+    uint32_t offset;
+    uint16_t value;
+} kRadioStart[] = {
+    {0x034E, 0x1810}, {0x311A, 0x1952},  // COM1 118.10, 119.525
+    {0x3118, 0x2150}, {0x311C, 0x2345},  // COM2 121.50, 123.45
+    {0x0350, 0x1050}, {0x311E, 0x1230},  // NAV1 110.50, 112.30
+    {0x0352, 0x1390}, {0x3120, 0x1505},  // NAV2 113.90, 115.05
+    {0x034C, 0x0345}, {0x0356, 0x0003},  // ADF1 345.3
+    {0x02D4, 0x0234}, {0x02D6, 0x0105},  // ADF2 1234.5
+    {0x0300, 123},    {0x0302, 1250},    // DME1 12.3 miles, 125.0 knots,
+    {0x0304, 3542},                      // 354.2 seconds
+    {0x0306, 1234},   {0x0308, 1250},    // DME2 123.4 miles, 125.0 knots,
+    {0x030A, 35539},                     // 3553.9 seconds
+    {0x0330, 16212},  {0x0354, 0x1200},  // 1013.25 hPa, code 1200
+};
+
 template <class T>
 std::vector<T> TakeAll(std::deque<T>& log) {
     std::vector<T> all(std::make_move_iterator(log.begin()), std::make_move_iterator(log.end()));
@@ -63,11 +81,7 @@ AircraftModel::AircraftModel(OffsetServer& space)
     space_.Set<uint16_t>(0x0C5E, 270);
     space_.Set<int32_t>(kGearHandle, kGearDown);
     gear_ = kGearDown;
-    uint16_t frequency = 0x1810;
-    for (const Radio& radio : kRadios) {
-        space_.Set<uint16_t>(radio.active, frequency++);
-        space_.Set<uint16_t>(radio.standby, frequency++);
-    }
+    for (const auto& start : kRadioStart) space_.Set<uint16_t>(start.offset, start.value);
     MoveTo(0);
 }
 

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "bench/console/Command.h"
+#include "bench/panels/PanelWords.h"
 #include "bench/sim/SimConsole.h"
 
 namespace {
@@ -19,6 +20,13 @@ TEST(ConsoleTest, SetsAndGetsAndAnswersNonsenseWithAnError) {
           "set 0 1 0x", "set 0 1 0x100000000", "set 0x-1 1 1", "reply", "version x", "fly"}) {
         EXPECT_TRUE(say(bad).starts_with("error: ")) << bad;
     }
+}
+
+TEST(ConsoleTest, TellsADisplayOfTheRadioPanelInItsFivePlaces) {
+    std::string report("\0\x01\x01\xD8\x01\x00\xFF\xFF\xDF\xDF\xDF\x0A\x0F\xDA\x02\xD9", 16);
+    report += std::string(7, '\xFF');
+    EXPECT_EQ(DescribeFeature("radio", report),
+              R"(upper "118.10" "   . . ." lower "???.29." dark)");
 }
 
 }  // namespace

@@ -1,0 +1,8 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+// What a person sees on a panel of this kind after a feature report, in words; the report in
+// hexadecimal for a kind that has none.
+std::string DescribeFeature(std::string_view kind, const std::string& report);
