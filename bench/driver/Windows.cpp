@@ -22,6 +22,7 @@ struct Search {
     DWORD process = 0;
     const char* className = nullptr;
     std::optional<std::string> text;
+    bool shown = false;
     HWND found = nullptr;
 };
 
@@ -34,6 +35,7 @@ BOOL CALLBACK Look(HWND window, LPARAM parameter) {
     GetClassNameA(window, className, sizeof className);
     if (search.className && lstrcmpiA(search.className, className) != 0) return TRUE;
     if (search.text && TextOf(window) != *search.text) return TRUE;
+    if (search.shown && !IsWindowVisible(window)) return TRUE;
     search.found = window;
     return FALSE;
 }
@@ -93,13 +95,19 @@ uint64_t PictureOf(const RECT& place) {
 }  // namespace
 
 HWND FindWindowOf(DWORD process, const char* className, const std::string& title) {
-    Search search{process, className, title};
+    Search search{process, className, title, false};
     EnumWindows(Look, reinterpret_cast<LPARAM>(&search));
     return search.found;
 }
 
 HWND FindChild(HWND parent, const char* className, const std::optional<std::string>& text) {
-    Search search{0, className, text};
+    Search search{0, className, text, false};
+    if (parent) EnumChildWindows(parent, Look, reinterpret_cast<LPARAM>(&search));
+    return search.found;
+}
+
+HWND FindShownChild(HWND parent, const char* className, const std::optional<std::string>& text) {
+    Search search{0, className, text, true};
     if (parent) EnumChildWindows(parent, Look, reinterpret_cast<LPARAM>(&search));
     return search.found;
 }

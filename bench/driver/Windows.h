@@ -15,6 +15,8 @@ HWND FindWindowOf(DWORD process, const char* className, const std::string& title
 
 // First child, at any depth, with this class and, if given, this text.
 HWND FindChild(HWND parent, const char* className, const std::optional<std::string>& text);
+// The same, of those that are to be seen.
+HWND FindShownChild(HWND parent, const char* className, const std::optional<std::string>& text);
 
 std::string TextOf(HWND window);
 

@@ -1,6 +1,7 @@
 #include "bench/flight/AddOnLegs.h"
 
 #include "bench/driver/Until.h"
+#include "bench/flight/RadioLeg.h"
 
 namespace {
 
@@ -12,7 +13,9 @@ void AddOnLegs::WriteProfiles() const {
     cockpit_.WriteIni(
         "[Profiles]\r\nAirliner= \r\nJet= \r\n"
         "[Aircrafts]\r\nBench Airliner=Airliner\r\nBench Jet=Jet\r\n");
-    cockpit_.WriteFile("Default.ini", "[MultiPanel1]\r\nLongButtonActionHDG=VButton,64,3\r\n");
+    cockpit_.WriteFile("Default.ini",
+                       std::string("[MultiPanel1]\r\nLongButtonActionHDG=VButton,64,3\r\n")
+                           .append(RadioLeg::kBindings));
     cockpit_.WriteFile("Airliner.ini", "[Common]\r\nSpecialMode=ngx\r\n");
     cockpit_.WriteFile("Jet.ini", "[Common]\r\nSpecialMode=maddog\r\n");
 }
@@ -45,7 +48,11 @@ bool AddOnLegs::FlyNGX() const {
     Do("knob +2 60");
     Do("press AP");
     Do("press AP 800");
-    return ExpectControls("70022:16384 70022:16384 70034:536870912 70035:536870912");
+    for (const char* act : {"upper XPDR", "press upper 800", "upper-outer +1 60", "upper COM1"}) {
+        Do(act, "radio1");
+    }
+    return ExpectControls(
+        "70022:16384 70022:16384 70034:536870912 70035:536870912 69998:536870912 69997:16384");
 }
 
 bool AddOnLegs::FlyMaddog() const {
@@ -56,7 +63,11 @@ bool AddOnLegs::FlyMaddog() const {
     Do("knob +2 60");
     if (!ExpectPanel(PanelShows("00200", "0"))) return false;
     Do("press REV");
-    return ExpectControls("69662:100 69663:100 69662:200 69663:200 69740:1 69671:1");
+    Do("lower NAV1", "radio1");
+    if (!ExpectPanel(RadioShows({"118.55", "118.10"}, {"", "113.40"}), "radio1")) return false;
+    Do("lower-inner +1 60", "radio1");
+    Do("lower COM1", "radio1");
+    return ExpectControls("69662:100 69663:100 69662:200 69663:200 69740:1 69671:1 69633:4933");
 }
 
 bool AddOnLegs::ComeBack() const {

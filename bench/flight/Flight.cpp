@@ -15,11 +15,13 @@ namespace {
 bool Stay(Cockpit& cockpit, const FlightLog& log) {
     cockpit.StartSimulator();
     cockpit.StartPanels();
+    cockpit.Panels("add radio");
     cockpit.Panels("add multi");
     cockpit.Simulator("batches");
     cockpit.StartOrvo();
     log.Say("Orvo is up; a double click on its icon in the task bar opens the window.");
     log.Say("Type 'panel knob multi1 +1', 'panel selector multi1 HDG', 'panel show multi1',");
+    log.Say("'panel upper-inner radio1 +1', 'panel press radio1 upper', 'panel show radio1',");
     log.Say("'sim get 0x07CC 2', 'sim title NAME' and the like; 'end' or Ctrl-C ends it all.");
     for (std::string line; std::getline(std::cin, line) && line != "end";) {
         if (line.starts_with("sim ")) {

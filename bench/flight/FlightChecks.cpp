@@ -12,8 +12,15 @@ constexpr size_t kPlaces = 5;
 // A hand takes as long to turn back. Sooner, the panel's reports still count for the old direction.
 constexpr DWORD kHandPauseMs = 300;
 
+// A point has no place of its own.
 std::string Row(const std::string& text) {
-    return '"' + std::string(kPlaces - std::min(kPlaces, text.size()), ' ') + text + '"';
+    const size_t places = text.size() - static_cast<size_t>(std::ranges::count(text, '.'));
+    return '"' + std::string(kPlaces - std::min(kPlaces, places), ' ') + text + '"';
+}
+
+std::string Row(const RadioRow& row) {
+    const auto told = [](const std::string& text) { return text.empty() ? "dark" : Row(text); };
+    return told(row.active) + ' ' + told(row.standby);
 }
 
 }  // namespace
@@ -23,15 +30,19 @@ std::string PanelShows(const std::string& upper, const std::string& lower,
     return "upper " + Row(upper) + " lower " + Row(lower) + " lights " + lights;
 }
 
-void FlightChecks::Do(const std::string& act) const {
+std::string RadioShows(const RadioRow& upper, const RadioRow& lower) {
+    return "upper " + Row(upper) + " lower " + Row(lower);
+}
+
+void FlightChecks::Do(const std::string& act, const std::string& panel) const {
     const size_t name = act.find(' ');
-    cockpit_.Panels(act.substr(0, name) + " multi1" + act.substr(name));
+    cockpit_.Panels(act.substr(0, name) + ' ' + panel + act.substr(name));
     ::Sleep(kHandPauseMs);
 }
 
-bool FlightChecks::ExpectPanel(const std::string& shown) const {
-    const bool well = cockpit_.PanelBecomes("multi1", shown, kPatienceMs);
-    return log_.Check("panel: " + shown, well, well ? "" : cockpit_.Panels("show multi1"));
+bool FlightChecks::ExpectPanel(const std::string& shown, const std::string& panel) const {
+    const bool well = cockpit_.PanelBecomes(panel, shown, kPatienceMs);
+    return log_.Check(panel + ": " + shown, well, well ? "" : cockpit_.Panels("show " + panel));
 }
 
 bool FlightChecks::ExpectStatus(size_t panel, const std::string& text) const {

@@ -6,16 +6,16 @@
 #include "bench/driver/Cockpit.h"
 #include "bench/flight/FlightLog.h"
 
-// Steps of a flight with the Multi Panel multi1, each written to the log: what is done, and what is
-// to be seen of it within some seconds. They give false when it isn't.
+// Steps of a flight, each written to the log: what is done, and what is to be seen of it within
+// some seconds. They give false when it isn't.
 class FlightChecks {
   public:
     FlightChecks(Cockpit& cockpit, FlightLog log) : cockpit_(cockpit), log_(log) {}
 
     // A command to the panel, without its name: "knob +3 60" turns multi1's knob.
-    void Do(const std::string& act) const;
+    void Do(const std::string& act, const std::string& panel = "multi1") const;
     // What the panel shows, as it tells it itself.
-    bool ExpectPanel(const std::string& shown) const;
+    bool ExpectPanel(const std::string& shown, const std::string& panel = "multi1") const;
     bool ExpectStatus(size_t panel, const std::string& text) const;
     // The profile that the window says is in use.
     bool ExpectProfile(const std::string& name) const;
@@ -34,6 +34,13 @@ class FlightChecks {
     std::string WritesOf(const std::vector<std::string>& offsets) const;
 };
 
-// How a row of the panel is told: right-aligned in its five places.
+// How the rows of a Multi Panel are told: right-aligned in their five places.
 std::string PanelShows(const std::string& upper, const std::string& lower,
                        const std::string& lights = "none");
+
+// A row of a Radio Panel, and how two are told: each text right-aligned, an empty one is dark.
+struct RadioRow {
+    const char* active = "";
+    const char* standby = "";
+};
+std::string RadioShows(const RadioRow& upper, const RadioRow& lower);

@@ -1,6 +1,7 @@
 #include "bench/flight/ScriptedFlight.h"
 
 #include "bench/driver/Until.h"
+#include "bench/flight/RadioLeg.h"
 #include "bench/flight/StandardLeg.h"
 
 namespace {
@@ -8,24 +9,26 @@ namespace {
 // Inside the frame of the upper display, in pixels of the panel's picture.
 constexpr RECT kUpperDisplay = {204, 20, 376, 64};
 constexpr uint32_t kPatienceMs = 10000;
-constexpr char kDark[] = "upper dark lower dark lights none";
 constexpr int kGeneralTab = 0;
-constexpr int kPanelTab = 1;
+constexpr int kRadioTab = 1;
+constexpr int kMultiTab = 3;
 
 }  // namespace
 
 bool ScriptedFlight::Fly() {
-    return Start() && FindSimulator() && OpenWindow() && FlyStandard() && FlyAddOns() &&
-           LoseSimulator() && FindSimulatorAgain() && Quit();
+    return Start() && FindSimulator() && OpenWindow() && FlyStandard() && FlyRadios() &&
+           FlyAddOns() && LoseSimulator() && FindSimulatorAgain() && Quit();
 }
 
 bool ScriptedFlight::Start() {
-    log_.Say("-- the simulator, one Multi Panel and Orvo are started");
+    log_.Say("-- the simulator, two Radio Panels, a Multi Panel and Orvo are started");
     AddOnLegs(cockpit_, log_).WriteProfiles();
     cockpit_.StartSimulator();
     cockpit_.StartPanels();
-    const std::string added = cockpit_.Panels("add multi");
-    if (!log_.Check("a Multi Panel is plugged in", added == "multi1", added)) return false;
+    for (const std::string name : {"radio1", "radio2", "multi1"}) {
+        const std::string added = cockpit_.Panels("add " + name.substr(0, name.size() - 1));
+        if (!log_.Check(name + " is plugged in", added == name, added)) return false;
+    }
     const std::string batches = cockpit_.Simulator("batches");
     if (!log_.Check("the simulator is up", batches == "0", batches)) return false;
     cockpit_.StartOrvo();
@@ -41,7 +44,7 @@ bool ScriptedFlight::FindSimulator() {
            ExpectStatus(1, "FSUIPC Version: 3.9990") &&
            ExpectStatus(2, "Flight Simulator Version: FSX") &&
            ExpectStatus(3, "Aircraft in use: Bench Trainer") &&
-           ExpectPanel(PanelShows("05000", "0"));
+           ExpectPanel(PanelShows("05000", "0")) && RadioLeg(cockpit_, log_).ExpectStart();
 }
 
 bool ScriptedFlight::OpenWindow() {
@@ -55,13 +58,28 @@ bool ScriptedFlight::OpenWindow() {
     }
     if (!ExpectProfile("Default")) return false;
     log_.Shot("1-general");
-    return SelectTab(kPanelTab);
+    return SelectTab(kMultiTab);
 }
 
 bool ScriptedFlight::SelectTab(int tab) const {
     const HWND tabs = FindChild(cockpit_.MainWindow(), "SysTabControl32", std::nullopt);
-    return log_.Check("tab " + std::to_string(tab + 1) + " is clicked",
-                      tabs && ClickTab(tabs, tab));
+    const HWND before = PageButton();
+    const bool well = tabs && ClickTab(tabs, tab) && Until(kPatienceMs, [&] {
+                          const HWND button = PageButton();
+                          return button && button != before;
+                      });
+    return log_.Check("a click on tab " + std::to_string(tab + 1) + " opens its page", well);
+}
+
+HWND ScriptedFlight::PageButton() const {
+    const HWND window = cockpit_.MainWindow();
+    const HWND setup = FindShownChild(window, "Button", "Setup");
+    return setup ? setup : FindShownChild(window, "Button", "Quit");
+}
+
+bool ScriptedFlight::ExpectDark() const {
+    return ExpectPanel(RadioShows({}, {}), "radio1") && ExpectPanel(RadioShows({}, {}), "radio2") &&
+           ExpectPanel("upper dark lower dark lights none");
 }
 
 bool ScriptedFlight::FlyStandard() {
@@ -76,16 +94,19 @@ bool ScriptedFlight::FlyStandard() {
     return log_.Check("the display on the screen shows another number", redrawn);
 }
 
+bool ScriptedFlight::FlyRadios() {
+    return SelectTab(kRadioTab) && RadioLeg(cockpit_, log_).Fly() && SelectTab(kMultiTab);
+}
+
 bool ScriptedFlight::FlyAddOns() {
     if (!AddOnLegs(cockpit_, log_).Fly()) return false;
-    log_.Shot("4-back-to-default");
+    log_.Shot("6-back-to-default");
     return true;
 }
 
 uint64_t ScriptedFlight::UpperDisplay() const {
     // The page's picture stands at the main window's page area, the display in it.
-    const HWND setup = FindChild(cockpit_.MainWindow(), "Button", "Setup");
-    const HWND picture = GetParent(setup);
+    const HWND picture = GetParent(PageButton());
     uint64_t last = 0;
     uint64_t shown = 0;
     Until(kPatienceMs, [&] {
@@ -101,10 +122,10 @@ bool ScriptedFlight::LoseSimulator() {
     cockpit_.KillSimulator();
     if (!ExpectStatus(0, "FSUIPC Status: Disconnected") || !ExpectStatus(1, "FSUIPC Version:") ||
         !ExpectStatus(2, "Flight Simulator Version:") || !ExpectStatus(3, "Aircraft in use:") ||
-        !ExpectPanel(kDark)) {
+        !ExpectDark()) {
         return false;
     }
-    log_.Shot("5-disconnected");
+    log_.Shot("7-disconnected");
     return log_.Check("the icon has changed",
                       Until(kPatienceMs, [this] { return PictureOfTrayIcon() != connectedIcon_; }));
 }
@@ -113,10 +134,11 @@ bool ScriptedFlight::FindSimulatorAgain() {
     log_.Say("-- the simulator is started again");
     cockpit_.StartSimulator();
     if (!ExpectStatus(0, "FSUIPC Status: Connected") ||
-        !ExpectStatus(3, "Aircraft in use: Bench Trainer") || !ExpectPanel(PanelShows("080", ""))) {
+        !ExpectStatus(3, "Aircraft in use: Bench Trainer") || !ExpectPanel(PanelShows("080", "")) ||
+        !RadioLeg(cockpit_, log_).ExpectStart()) {
         return false;
     }
-    log_.Shot("6-connected-again");
+    log_.Shot("8-connected-again");
     if (!log_.Check("the display on the screen shows the first number again",
                     Until(kPatienceMs, [this] { return UpperDisplay() == display080_; }))) {
         return false;
@@ -128,10 +150,10 @@ bool ScriptedFlight::FindSimulatorAgain() {
 bool ScriptedFlight::Quit() {
     log_.Say("-- the user quits");
     if (!SelectTab(kGeneralTab)) return false;
-    log_.Shot("7-general");
+    log_.Shot("9-general");
     if (!log_.Check("Quit and OK end the program", cockpit_.QuitByUser())) return false;
     const auto code = cockpit_.Orvo().WaitForEnd(0);
     return log_.Check("it has ended in order", code == 0u,
                       code ? "exit code " + std::to_string(*code) : "it runs on") &&
-           ExpectPanel(kDark);
+           ExpectDark();
 }

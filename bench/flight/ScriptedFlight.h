@@ -6,8 +6,8 @@
 #include "bench/flight/AddOnLegs.h"
 #include "bench/flight/FlightChecks.h"
 
-// The flight that proves the road from the panel to the simulator and back, in each mode of the
-// panel, and what comes before and after.
+// The flight that proves the road from the panels to the simulator and back, in each mode of the
+// Multi Panel, and what comes before and after.
 class ScriptedFlight : private FlightChecks {
   public:
     using FlightChecks::FlightChecks;
@@ -20,13 +20,18 @@ class ScriptedFlight : private FlightChecks {
     bool FindSimulator();
     bool OpenWindow();
     bool FlyStandard();
+    bool FlyRadios();
     bool FlyAddOns();
     bool LoseSimulator();
     bool FindSimulatorAgain();
     bool Quit();
 
+    // Another tab than the present one.
     bool SelectTab(int tab) const;
-    // Picture of the upper display in the window, once it has come to rest.
+    // The button of the page that is open, which tells it from the others.
+    HWND PageButton() const;
+    bool ExpectDark() const;
+    // Picture of the Multi Panel's upper display in the window, once it has come to rest.
     uint64_t UpperDisplay() const;
 
     uint64_t connectedIcon_ = 0;

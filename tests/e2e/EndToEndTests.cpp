@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "bench/console/Command.h"
 #include "bench/driver/Cockpit.h"
@@ -36,12 +37,14 @@ class EndToEnd : public testing::Test {
 
     void SetUp() override { ASSERT_TRUE(cockpit_->IsReady()); }
 
-    void PlugIn(const std::string& panel) { EXPECT_EQ(cockpit_->Panels("add multi"), panel); }
+    void PlugIn(const std::string& panel) {
+        EXPECT_EQ(cockpit_->Panels("add " + panel.substr(0, panel.size() - 1)), panel);
+    }
 
-    void StartConnected(int panels = 1) {
+    void StartConnected(const std::vector<std::string>& panels = {"multi1"}) {
         cockpit_->StartSimulator();
         cockpit_->StartPanels();
-        for (int n = 1; n <= panels; ++n) PlugIn("multi" + std::to_string(n));
+        for (const std::string& panel : panels) PlugIn(panel);
         cockpit_->StartOrvo();
         ASSERT_TRUE(cockpit_->StatusBecomes(0, kConnected, kSoonMs))
             << "batches: " << cockpit_->Simulator("batches")
@@ -125,6 +128,36 @@ TEST_F(EndToEnd, KeystrokesGoToTheWindowInFocus) {
     ExpectQuits();
 }
 
+TEST_F(EndToEnd, TheRadioPanelTunesAndSwapsAndDoesWhatTheProfileSays) {
+    cockpit_->WriteFile(
+        "Default.ini",
+        "[RadioPanel1]\r\nButtonActionCOM1=VButton,64,1\r\nInnRotUpNAV1=VKey,65,0,97\r\n");
+    StartConnected({"radio1"});
+    const FlightChecks flight(*cockpit_, FlightLog(false));
+    const auto expect = [&](const RadioRow& upper, const RadioRow& lower) {
+        return flight.ExpectPanel(RadioShows(upper, lower), "radio1");
+    };
+    flight.Do("lower COM2", "radio1");
+    ASSERT_TRUE(expect({"118.10", "119.52"}, {"121.50", "123.45"}));
+    cockpit_->Panels("reports radio1");
+    for (const char* act : {"lower-inner -1 60", "press lower"}) flight.Do(act, "radio1");
+    EXPECT_TRUE(expect({"118.10", "119.52"}, {"123.42", "121.50"}));
+    // Behind the digits are the two bytes that the light show has left.
+    EXPECT_EQ(cockpit_->Panels("reports radio1"),
+              "000101D801000101D905020102D105000102D30402FFFF "
+              "000101D801000101D905020102D304020102D10500FFFF");
+    flight.Do("press upper", "radio1");
+    EXPECT_TRUE(flight.ExpectWrites({"311A", "311C", "3123", "3340"},
+                                    "311C:4223 3123:04 3340:01000000 3340:00000000"));
+
+    const TypingField field;
+    ASSERT_TRUE(field.TakeFocus());
+    for (const char* act : {"upper NAV1", "upper-inner +2 60"}) flight.Do(act, "radio1");
+    EXPECT_TRUE(Until(kSoonMs, [&] { return field.Text() == "aa"; })) << field.Text();
+    EXPECT_TRUE(expect({"110.50", "112.30"}, {"123.42", "121.50"}));
+    ExpectQuits();
+}
+
 TEST_F(EndToEnd, OldFileBecomesTheDefaultProfile) {
     constexpr char kBox[] = "  ORVO  - Configuration file conversion request";
     const std::string old = "[MultiPanel1]\r\nButtonActionHDG=VButton,64,1\r\n";
@@ -190,7 +223,7 @@ TEST_F(EndToEnd, AutoQuitEndsTheQuitBoxToo) {
 }
 
 TEST_F(EndToEnd, APanelThatVanishesHurtsNothingElse) {
-    StartConnected(2);
+    StartConnected({"multi1", "multi2"});
     EXPECT_EQ(cockpit_->Panels("unplug multi1"), "ok");
 
     cockpit_->Panels("selector multi2 HDG");
