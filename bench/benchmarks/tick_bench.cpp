@@ -4,15 +4,19 @@
 #include <cstdlib>
 #include <new>
 
+#include "bench/sim/AircraftModel.h"
 #include "bench/virtual/VirtualCockpit.h"
 
 namespace {
 
 std::atomic<size_t> allocations = 0;
 
-constexpr int kPanels = 4;
-// Multi Panel values in the standard mode, the power switches and the title.
-constexpr size_t kBytesRead = 8 * 4 + 3 * 4 + 5 * 2 + 60;
+// Where the selectors of each Radio Panel stand, as bytes of its state word: COM1 and NAV1, ADF and
+// DME, XPDR and COM2, NAV2 and ADF.
+constexpr uint8_t kRadioPositions[][2] = {{0x01, 0x02}, {0x10, 0x10}, {0x40, 0x01}, {0x08, 0x08}};
+// Values of the Multi Panels in the standard mode and of the Radio Panels, the power switches and
+// the title.
+constexpr size_t kBytesRead = 8 * 4 + 3 * 4 + 5 * 2 + 20 * 2 + 60;
 
 void CopyOnce(benchmark::State& state) {
     std::array<uint8_t, kBytesRead> from{}, to{};
@@ -24,12 +28,15 @@ void CopyOnce(benchmark::State& state) {
 }
 BENCHMARK(CopyOnce);
 
-// In the mode that the profile "Default" names.
+// Four panels of each kind, in the mode that the profile "Default" names.
 void SteadyTick(benchmark::State& state, const std::string& mode) {
     VirtualCockpit cockpit;
+    const AircraftModel aircraft(cockpit.machine.server);
     cockpit.machine.files.Put("C:\\Orvo\\Default.ini", "[Common]\r\nSpecialMode=" + mode);
-    for (int n = 1; n <= kPanels; ++n) {
-        cockpit.Plug(PanelKind::Multi, n).positions = {0, 0x08, 0, 0};
+    int number = 0;
+    for (const auto& [high, low] : kRadioPositions) {
+        cockpit.Plug(PanelKind::Radio, ++number).positions = {0, high, low, 0};
+        cockpit.Plug(PanelKind::Multi, number).positions = {0, 0x08, 0, 0};
     }
     cockpit.Start();
     cockpit.Connect();

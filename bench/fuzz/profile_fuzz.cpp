@@ -5,6 +5,7 @@
 
 #include "config/IniKey.h"
 #include "panels/multi/cMultiPanelActionsHolder.h"
+#include "panels/radio/cRadioPanelActionsHolder.h"
 #include "platform/virtual/VirtualPlatform.h"
 
 namespace {
@@ -55,11 +56,12 @@ void CheckLists(const std::string& text) {
 }
 
 // Two holders say the same when they make the same file.
-void CheckBindings(const std::string& text) {
+template <class Holder>
+void CheckBindings(const std::string& section, const std::string& text) {
     VirtualPlatform machine;
-    machine.files.Put("C:\\Orvo\\Default.ini", "[MultiPanel1]\n" + text);
+    machine.files.Put("C:\\Orvo\\Default.ini", section + text);
     ProfileStore profiles(machine.ini, machine.files, "C:\\Orvo");
-    cMultiPanelActionsHolder holder(profiles), again(profiles);
+    Holder holder(profiles), again(profiles);
     holder.Index = again.Index = 1;
     holder.LoadSetup();
     holder.SaveSetup();
@@ -78,6 +80,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     const std::string text(data, data + size);
     Require(FromIniKey(ToIniKey(text)) == text);
     if (size <= kLongestLists) CheckLists(text);
-    if (size <= kLongestBindings) CheckBindings(text);
+    if (size > kLongestBindings) return 0;
+    CheckBindings<cMultiPanelActionsHolder>("[MultiPanel1]\n", text);
+    CheckBindings<cRadioPanelActionsHolder>("[RadioPanel1]\n", text);
     return 0;
 }

@@ -6,6 +6,8 @@
 #include "core/modMain.h"
 #include "panels/multi/cMultiPanelLogic.h"
 #include "panels/multi/ctlMultiPanel.h"
+#include "panels/radio/cRadioPanelLogic.h"
+#include "panels/radio/ctlRadioPanel.h"
 #include "platform/virtual/VirtualPlatform.h"
 #include "toolkit/HeadlessUi.h"
 
@@ -64,18 +66,33 @@ struct VirtualCockpit {
     void Tick() { machine.loop.Advance(10); }
 
     frmMain& Window() { return *program->Window(); }
+    PanelUnit& Unit(PanelKind kind, int number) {
+        return *Window().Panels[kind][static_cast<size_t>(number - 1)];
+    }
+    PanelUnit& Unit(int number) { return Unit(PanelKind::Multi, number); }
     ctlMultiPanel& Multi(int number = 1) {
         return static_cast<ctlMultiPanel&>(*Unit(number).control);
     }
-    PanelUnit& Unit(int number) {
-        return *Window().Panels[PanelKind::Multi][static_cast<size_t>(number - 1)];
-    }
     cMultiPanelLogic& Logic(int number = 1) {
         return static_cast<cMultiPanelLogic&>(*Unit(number).logic);
+    }
+    ctlRadioPanel& Radio(int number = 1) {
+        return static_cast<ctlRadioPanel&>(*Unit(PanelKind::Radio, number).control);
+    }
+    cRadioPanelLogic& RadioLogic(int number = 1) {
+        return static_cast<cRadioPanelLogic&>(*Unit(PanelKind::Radio, number).logic);
     }
     // The rows of the picture: "upper|lower".
     std::string Shown(int number = 1) {
         const MultiPanelPicture& picture = Multi(number).OnScreen;
         return picture.labUpperValue.Caption.Get() + "|" + picture.labLowerValue.Caption.Get();
+    }
+    // "active|standby" of the upper row, "|", and of the lower one.
+    std::string RadioShown(int number = 1) {
+        const auto row = [&](int side) {
+            const auto& shown = Radio(number).OnScreen.At(side);
+            return shown.labActive.Caption.Get() + "|" + shown.labStandby.Caption.Get();
+        };
+        return row(1) + "|" + row(2);
     }
 };
