@@ -1,7 +1,6 @@
 #include "panels/radio/RadioFrequency.h"
 
 #include <algorithm>
-#include <cmath>
 
 #include "base/Number.h"
 
@@ -42,9 +41,9 @@ float AdfFromBCD(int32_t Main, int32_t Extension) {
     return static_cast<float>(Main + thousand * 1000 + (Extension - thousand * 100) / 10.0);
 }
 
+// Rounded before it is split: what is a float's breath below a whole kHz counts as that.
 AdfDigits AdfToBCD(float Frequency) {
-    const bool thousand = Frequency > 1000;
-    const double whole = std::trunc(Frequency);
-    const double extension = (Frequency - whole) * 10 + (thousand ? 100 : 0);
-    return {RoundTo<int32_t>(thousand ? whole - 1000 : whole), RoundTo<int32_t>(extension)};
+    const auto tenths = RoundTo<int32_t>(static_cast<double>(Frequency) * 10);
+    const int32_t thousand = Frequency > 1000 ? 1 : 0;
+    return {tenths / 10 - thousand * 1000, tenths % 10 + thousand * 100};
 }

@@ -58,6 +58,7 @@ void cRadioPanelLogic::StartUp() {
 
 void cRadioPanelLogic::SetupChanged() {
     RegisterOffsets();
+    radiosRead_ = false;  // what was read in another mode may mean something else now
     altimeterInHg_ = RPActions->AltimeterUnit != 1;
     for (Row& row : rows_) {
         if (row.selectorPos != 0) ApplyAcceleration(row);
