@@ -1,3 +1,4 @@
+#include <cmath>
 #include <gtest/gtest.h>
 #include <memory>
 #include <vector>
@@ -31,17 +32,35 @@ TEST(NumberTest, Formats) {
     EXPECT_EQ(FormatInteger(INT64_MIN), "-9223372036854775808");
     EXPECT_EQ(FormatPlain(3.999, 3), "3.999");
     EXPECT_EQ(FormatPlain(4, 3), "4");
-    const std::pair<double, const char*> fixed[] = {{0.7805F, "0.780"},
-                                                    {-0.0004, "0.000"},
-                                                    {-0.0006, "-0.001"},
-                                                    {9.9996, "10.000"},
-                                                    {-1.5, "-1.500"},
-                                                    {1e30, "9223372036854775.807"},
-                                                    {-1e30, "-9223372036854775.808"}};
-    for (const auto& [value, text] : fixed) {
+}
+
+TEST(NumberTest, RoundsHalvesOfTheExactProductAwayFromZero) {
+    // 0.145, 0.175 and 1.15 are a little less than they seem, 0.005 and 2.35 a little more.
+    const auto fixed = [](double value, int decimals, int digits = 1) {
         std::string out = "x";
-        AppendFixed(out, value, 3);
-        EXPECT_EQ(out, std::string("x") + text);
+        AppendFixed(out, value, decimals, digits);
+        return out;
+    };
+    const std::tuple<double, int, int, const char*> cases[] = {
+        {0.7805F, 3, 1, "x0.780"},   {-0.0004, 3, 1, "x0.000"},    {-0.0006, 3, 1, "x-0.001"},
+        {118.125F, 2, 1, "x118.13"}, {-345.25F, 1, 4, "x-0345.3"}, {-0.5, 0, 3, "x-001"},
+        {0.145, 2, 1, "x0.14"},      {0.175, 2, 2, "x00.17"},      {-1.15, 1, 1, "x-1.1"},
+        {0.005, 2, 1, "x0.01"},      {2.35, 1, 1, "x2.4"},         {9.9996, 3, 1, "x10.000"}};
+    for (const auto& [value, decimals, digits, text] : cases)
+        EXPECT_EQ(fixed(value, decimals, digits), text);
+    EXPECT_EQ(fixed(1e30, 3) + fixed(-1e30, 3) + fixed(NAN, 1),
+              "x9223372036854775.807x-9223372036854775.808x0.0");
+}
+
+TEST(NumberTest, ReadsFloatsWithPointOrComma) {
+    for (const float number : {0.1F, 118.025F, 0.01F, -3.4e38F, 1e-45F, 16777216.0F}) {
+        EXPECT_EQ(ParseFloat(FormatFloat(number), -3.4e38F, 3.4e38F), number);
+    }
+    EXPECT_EQ(FormatFloat(0.1F) + FormatFloat(1000), "0.11000");
+    for (const char* text : {"2.5", " +02,50\t"}) EXPECT_EQ(ParseFloat(text, 2.5F, 2.5F), 2.5F);
+    for (const char* text : {"", ".", "1.2,3", "1,000.5", "+-1", "1 2", "5x", "1e1", "0x1", "nan",
+                             "inf", "-0.1", "100.1"}) {
+        EXPECT_EQ(ParseFloat(text, 0, 100), std::nullopt) << text;
     }
 }
 
