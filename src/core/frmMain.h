@@ -36,7 +36,7 @@ struct MainServices {
     WindowState& windows;
     const std::vector<ScreenRect>& monitorRects;
 
-    LogicServices ForLogics() const { return {session, profiles, platform.clock, platform.loop}; }
+    LogicServices ForLogics() const { return {session, profiles, platform.clock}; }
 };
 
 // The program's one permanent window, hidden until the user double-clicks its icon in the

@@ -11,16 +11,14 @@ ButtonPress::ButtonPress(Clock& clock, MessageLoop& loop, const int32_t& clickTh
     timerButton_.Tick.Connect([this] { Tick(); });
 }
 
-void ButtonPress::Down(int32_t mask) {
-    downTick_ = clock_.GetTickCount();
+void ButtonPress::Down(int32_t mask, uint32_t clock) {
+    downTick_ = clock;
     downMask_ = mask;
     timerButton_.SetEnabled(true);
 }
 
-bool ButtonPress::Up() { return Held() < clickThreshold_; }
-
 void ButtonPress::Tick() {
-    if (Held() <= clickThreshold_) return;
+    if (Held(clock_.GetTickCount()) <= clickThreshold_) return;
     timerButton_.SetEnabled(false);  // first: the listeners may let the next press in
     LongClick.Raise(downMask_);
 }

@@ -13,9 +13,10 @@ class ButtonPress {
     // `clickThreshold` (milliseconds) is read at each use.
     ButtonPress(Clock& clock, MessageLoop& loop, const int32_t& clickThreshold);
 
-    void Down(int32_t mask);
+    // The clock is that of the report that tells it.
+    void Down(int32_t mask, uint32_t clock);
     // True when the press was a short one, that is a click.
-    bool Up();
+    bool Up(uint32_t clock) const { return Held(clock) < clickThreshold_; }
     // No long click comes of the present press any more.
     void Cancel() { timerButton_.SetEnabled(false); }
 
@@ -25,7 +26,7 @@ class ButtonPress {
 
   private:
     void Tick();
-    int64_t Held() const { return static_cast<uint32_t>(clock_.GetTickCount() - downTick_); }
+    int64_t Held(uint32_t clock) const { return static_cast<uint32_t>(clock - downTick_); }
 
     Clock& clock_;
     const int32_t& clickThreshold_;

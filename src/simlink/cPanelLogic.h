@@ -2,7 +2,6 @@
 
 #include "config/ProfileStore.h"
 #include "platform/Clock.h"
-#include "platform/MessageLoop.h"
 #include "simlink/cSession.h"
 
 // What the logics work with.
@@ -10,7 +9,6 @@ struct LogicServices {
     cSession& session;
     ProfileStore& profiles;
     Clock& clock;
-    MessageLoop& loop;
 };
 
 // What the logics of all panels have in common: how the program drives them.
@@ -20,7 +18,7 @@ class cPanelLogic {
 
     // Once the panel's control is connected.
     virtual void StartUp() = 0;
-    // On every successful tick. Works on what the tick has read, and makes no exchange of its own.
+    // On every successful tick. Works on what the tick has read.
     virtual void RefreshData() = 0;
     // After the bindings or the special mode have changed.
     virtual void SetupChanged() = 0;

@@ -62,7 +62,7 @@ void ctlMultiPanel::HandleReport(const Change& change, uint32_t clock) {
     if (change.first || change.Touches(kSelectorMask)) {
         TakeSelector(change.after & kSelectorMask, change.before & kSelectorMask);
     }
-    for (const int32_t mask : kButtonOrder) CheckButton(mask, change);
+    for (const int32_t mask : kButtonOrder) CheckButton(mask, change, clock);
     CheckFlaps(MultiPanelBit::kFlapsUp, change);
     CheckFlaps(MultiPanelBit::kFlapsDown, change);
     if (change.first || change.Touches(MultiPanelBit::kAutoThrottleArm))
@@ -77,17 +77,17 @@ void ctlMultiPanel::CheckPulse(Pulses& pulses, int32_t state, uint32_t clock) {
     pulses.step.Raise(pulses.speed.Speed());
 }
 
-void ctlMultiPanel::CheckButton(int32_t mask, const Change& change) {
+void ctlMultiPanel::CheckButton(int32_t mask, const Change& change, uint32_t clock) {
     if (!change.Touches(mask)) return;
     if (change.after & mask) {
         ButtonDown.Raise(mask);
         OnScreen.ShowButton(mask, true);
-        press_.Down(mask);
+        press_.Down(mask, clock);
         return;
     }
     ButtonUp.Raise(mask);
     OnScreen.ShowButton(mask, false);
-    if (!press_.Up()) return;
+    if (!press_.Up(clock)) return;
     press_.Cancel();  // first: the click's listeners may let the next press in
     ButtonClick.Raise(mask);
 }

@@ -64,7 +64,7 @@ class ctlMultiPanel final : public cPanelDevice {
     void ReadPositions() override;
     void Connected() override { rotSpeed_.Start(); }
     void CheckPulse(Pulses& pulses, int32_t state, uint32_t clock);
-    void CheckButton(int32_t mask, const Change& change);
+    void CheckButton(int32_t mask, const Change& change, uint32_t clock);
     void CheckFlaps(int32_t mask, const Change& change);
     void TakeAutoThrottle(int32_t state);
     void TakeSelector(int32_t bits, int32_t before);

@@ -1,4 +1,5 @@
 // What the panel's events do: bound actions, and the built-in behaviour of the radios.
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -6,7 +7,6 @@
 #include "base/Number.h"
 #include "panels/radio/RadioFrequency.h"
 #include "panels/radio/cRadioPanelLogic.h"
-#include "platform/Wait.h"
 
 namespace {
 
@@ -19,7 +19,6 @@ constexpr int32_t kNGXAltimeterUnit = 69998;
 constexpr int32_t kNGXClick = 0x20000000;
 
 constexpr uint32_t kSelectorPressMs = 50;
-constexpr uint32_t kSelectorPauseMs = 25;
 
 // Goes over the end of the band to the other one, once: a fast turn may go further.
 float WithinBand(float frequency, const RadioBand& band) {
@@ -39,17 +38,31 @@ void cRadioPanelLogic::SelectorChange(int16_t Selector, int32_t NewPos, int32_t 
         session_.EngineSelected = static_cast<uint8_t>(NewPos);
     }
     ApplyAcceleration(row);
-    SendSelectorAction(RPActions->GetSelectorActions(NewPos));
+    const ActionRecord& record = RPActions->GetSelectorActions(NewPos);
+    if (record.FSEvent == ActionKind::VButton) {
+        PressForAWhile(record);
+    } else {
+        session_.Output.SendAction(record);
+    }
 }
 
-void cRadioPanelLogic::SendSelectorAction(ActionRecord record) {
-    if (record.FSEvent != ActionKind::VButton) {
-        session_.Output.SendAction(record);
-        return;
+// A tick releases it: the selector may go on meanwhile, and its next position is shown at once.
+void cRadioPanelLogic::PressForAWhile(const ActionRecord& record) {
+    const auto again = std::ranges::find(pressed_, record, &Pressed::record);
+    if (again != pressed_.end()) {
+        SetButton(record, false);
+        pressed_.erase(again);
     }
     SetButton(record, true);
-    Wait(clock_, loop_, kSelectorPressMs, kSelectorPauseMs);
-    SetButton(record, false);
+    pressed_.push_back({record, clock_.GetTickCount()});
+}
+
+void cRadioPanelLogic::ReleaseInTime() {
+    std::erase_if(pressed_, [this](const Pressed& each) {
+        const bool over = clock_.GetTickCount() - each.clock >= kSelectorPressMs;
+        if (over) SetButton(each.record, false);
+        return over;
+    });
 }
 
 cRadioPanelLogic::Row* cRadioPanelLogic::RowOf(int32_t button) {

@@ -39,7 +39,6 @@ cRadioPanelLogic::cRadioPanelLogic(const LogicServices& services, ctlRadioPanel&
       session_(services.session),
       profiles_(services.profiles),
       clock_(services.clock),
-      loop_(services.loop),
       control_(control),
       ngxUnit_(session_.OffsetTable, kNGXUnit.name),
       power_(session_.OffsetTable) {
@@ -83,6 +82,7 @@ void cRadioPanelLogic::ApplyAcceleration(const Row& row) {
 }
 
 void cRadioPanelLogic::RefreshData() {
+    ReleaseInTime();
     ReadRadios();
     for (Row& row : rows_) ShowRow(row);
     if (power_.IsOn()) {

@@ -46,7 +46,7 @@ void ctlRadioPanel::HandleReport(const Change& change, uint32_t clock) {
     for (size_t side = 0; side < kSides; ++side) {
         if (change.first || change.Touches(kRadioSelectorMasks[side])) TakeSelector(side, change);
     }
-    for (size_t side = 0; side < kSides; ++side) CheckButton(side, change);
+    for (size_t side = 0; side < kSides; ++side) CheckButton(side, change, clock);
 }
 
 void ctlRadioPanel::CheckRotary(size_t knob, int32_t state, uint32_t clock) {
@@ -71,17 +71,17 @@ void ctlRadioPanel::TakeSelector(size_t side, const Change& change) {
                          change.before & mask);
 }
 
-void ctlRadioPanel::CheckButton(size_t side, const Change& change) {
+void ctlRadioPanel::CheckButton(size_t side, const Change& change, uint32_t clock) {
     const int32_t mask = kRadioButtonBits[side];
     if (!change.Touches(mask)) return;
     const bool down = (change.after & mask) != 0;
     OnScreen.ShowButton(SideNumber(side), down);
     if (down) {
         ButtonDown.Raise(mask);
-        press_.Down(mask);
+        press_.Down(mask, clock);
         return;
     }
-    if (press_.Up()) {
+    if (press_.Up(clock)) {
         press_.Cancel();  // first: the click's listeners may let the next press in
         ButtonClick.Raise(mask);
     }

@@ -62,7 +62,7 @@ class ctlRadioPanel final : public cPanelDevice {
     void Connected() override;
     void CheckRotary(size_t knob, int32_t state, uint32_t clock);
     void TakeSelector(size_t side, const Change& change);
-    void CheckButton(size_t side, const Change& change);
+    void CheckButton(size_t side, const Change& change, uint32_t clock);
     void TakeLongClick(int32_t mask);
 
     FeatureReport<kRadioReportSize> display_;
