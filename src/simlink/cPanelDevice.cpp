@@ -39,9 +39,8 @@ bool cPanelDevice::Connect(const std::string& DevicePathName) {
 }
 
 void cPanelDevice::TakeReport(uint8_t byte0, uint8_t byte1, uint8_t byte2, uint8_t byte3) {
-    const uint32_t clock = services_.clock.GetTickCount();
+    waiting_.push_back({StateWord(byte1, byte2, byte3), services_.clock.GetTickCount()});
     RawInput.Raise(byte0, byte1, byte2, byte3);
-    waiting_.push_back({StateWord(byte1, byte2, byte3), clock});
     HandleWaiting();
 }
 

@@ -90,8 +90,9 @@ void ctlRadioPanel::CheckButton(size_t side, const Change& change, uint32_t cloc
 
 // The long click may come when the button is up again. What it then holds down has to be let go.
 void ctlRadioPanel::TakeLongClick(int32_t mask) {
+    const bool released = (LastState() & mask) == 0;
     ButtonLongClick.Raise(mask);
-    if (!(LastState() & mask)) ButtonUp.Raise(mask);
+    if (released) ButtonUp.Raise(mask);
 }
 
 void ctlRadioPanel::ReadPositions() {

@@ -14,7 +14,8 @@ struct RadioPanelDeviceTest : testing::Test {
     Form form{ui};
     cSetupHolder setup{machine.ini, machine.files, machine.registry, "C:\\Orvo"};
     VirtualDevice& device = machine.bus.Add(0x06A3, 0x0D05, "radio");
-    ctlRadioPanel panel{form, {machine.clock, machine.loop, machine.hid, machine.deckhub, setup}};
+    DeviceServices services{machine.clock, machine.loop, machine.hid, machine.deckhub, setup};
+    ctlRadioPanel panel{form, services};
     RadioPanelPicture::Side &upper = panel.OnScreen.At(1), &lower = panel.OnScreen.At(2);
     const std::string &speed1 = upper.labSpeed.Caption, &speed2 = lower.labSpeed.Caption;
     const std::string dark = "00" + std::string(44, 'f');
@@ -77,29 +78,28 @@ TEST_F(RadioPanelDeviceTest, DisplaysShowTheEndsOfTextsAndOnlyChangesAreSent) {
         {"1234567", "", ".", "0345,3", "0304050607ffffffffffffffffffff000304d503"},
         {"-9.x", "1.23456", ".6..7", "8,9:/", "ffffffd9ff0203040506ffffffd607ffd809ffff"}};
     for (const auto& [active1, standby1, active2, standby2, digits] : cases) {
-        panel.TurnOffDisplay();
         panel.WriteDisplay(active1, standby1, active2, standby2);
-        EXPECT_EQ(Play(), dark + "00" + digits + "ffff");
+        EXPECT_EQ(Play(), "00" + digits + "0000");
     }
-    panel.WriteDisplay({}, "1.23456", {}, "8,9:/");
-    EXPECT_EQ(upper.labActive.Caption.Get() + lower.labStandby.Caption.Get() + Play(), "-9.x8.9:/");
+    const std::string &label = upper.labActive.Caption, &last = lower.labStandby.Caption;
+    EXPECT_EQ(label + last, "-9.x8.9:/");
+    for (int time = 0; time < 3; ++time, panel.TurnOffDisplay())
+        panel.WriteDisplay({}, "1.23456", {}, "8,9:/");
     panel.TurnOffDisplay();
-    panel.TurnOffDisplay();
-    EXPECT_EQ(upper.labActive.Caption.Get() + lower.labStandby.Caption.Get() + Play(), dark + dark);
-    panel.WriteDisplay("-9.x", "1.23456", ".6..7", "8.9:/");
-    EXPECT_EQ(Play(), "00" + cases[2][4] + "ffff");
+    const std::string again = "00ffffffffff0203040506ffffffffffffd809ffffffff";
+    EXPECT_EQ(label + last + Play(), dark + again + dark + again + dark + dark);
 }
 
-TEST_F(RadioPanelDeviceTest, SplashLetsAZeroRunRoundAndMessagesRun) {
+TEST_F(RadioPanelDeviceTest, SplashLetsAZeroRunRoundAndTheEndIsDark) {
     machine.loop.After(1, [this] { log << machine.clock.Elapsed() << ' '; });
     panel.Splash();
     std::string wanted = "30 ";
-    for (size_t i = 0; i < 20; ++i) {
-        wanted += dark.substr(0, 42) + "0000";
-        wanted.replace(wanted.size() - 46 + 2 * (i < 10 ? 10 - i : i + 1), 2, "00");
-    }
+    for (size_t at : {10, 9, 8, 7, 6, 5, 4, 3, 2, 1, 11, 12, 13, 14, 15, 16, 17, 18, 19, 20})
+        wanted += std::string(dark).replace(2 * at, 2, "00").replace(42, 4, "0000");
     EXPECT_EQ(Play(), wanted + dark);
     EXPECT_EQ(machine.clock.Elapsed(), 1200U);
+    ctlRadioPanel(form, services).Connect("radio");
+    EXPECT_EQ(Play(), dark) << "the end of a panel";
 }
 
 TEST_F(RadioPanelDeviceTest, TwoPulsesMakeAStepAndTurnTheRing) {
