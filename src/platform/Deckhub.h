@@ -40,6 +40,9 @@ class PanelLink {
 
     // One input report, raised on the message loop's thread: Byte0 (report id), Byte1 to Byte3.
     Event<uint8_t, uint8_t, uint8_t, uint8_t> RawInput;
+    // The clock (GetTickCount) at which the report of the present RawInput came from the device,
+    // however long the loop was busy since.
+    uint32_t ReportClock = 0;
 };
 
 // Where the two come from.

@@ -1,8 +1,11 @@
 #include "simlink/ButtonPress.h"
 
+#include <utility>
+
 namespace {
 
 constexpr uint32_t kTimerButtonMs = 15;
+constexpr uint32_t kLateMs = 100;
 
 }  // namespace
 
@@ -14,11 +17,19 @@ ButtonPress::ButtonPress(Clock& clock, MessageLoop& loop, const int32_t& clickTh
 void ButtonPress::Down(int32_t mask, uint32_t clock) {
     downTick_ = clock;
     downMask_ = mask;
+    wasLong_ = false;
+    lastTick_ = clock_.GetTickCount();
+    waited_ = false;
     timerButton_.SetEnabled(true);
 }
 
 void ButtonPress::Tick() {
-    if (Held(clock_.GetTickCount()) <= clickThreshold_) return;
+    const uint32_t now = clock_.GetTickCount();
+    const bool late = now - std::exchange(lastTick_, now) > kLateMs;
+    if (Held(now) <= clickThreshold_) return;
+    // After a busy moment the report of the release may stand behind this tick.
+    if (late && !std::exchange(waited_, true)) return;
     timerButton_.SetEnabled(false);  // first: the listeners may let the next press in
+    wasLong_ = true;
     LongClick.Raise(downMask_);
 }

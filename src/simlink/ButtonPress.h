@@ -16,7 +16,7 @@ class ButtonPress {
     // The clock is that of the report that tells it.
     void Down(int32_t mask, uint32_t clock);
     // True when the press was a short one, that is a click.
-    bool Up(uint32_t clock) const { return Held(clock) < clickThreshold_; }
+    bool Up(uint32_t clock) const { return !wasLong_ && Held(clock) < clickThreshold_; }
     // No long click comes of the present press any more.
     void Cancel() { timerButton_.SetEnabled(false); }
 
@@ -32,5 +32,8 @@ class ButtonPress {
     const int32_t& clickThreshold_;
     uint32_t downTick_ = 0;
     int32_t downMask_ = 0;
+    bool wasLong_ = false;  // the present press has been told as a long one
+    uint32_t lastTick_ = 0;
+    bool waited_ = false;
     Timer timerButton_;
 };

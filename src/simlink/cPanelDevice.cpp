@@ -39,7 +39,7 @@ bool cPanelDevice::Connect(const std::string& DevicePathName) {
 }
 
 void cPanelDevice::TakeReport(uint8_t byte0, uint8_t byte1, uint8_t byte2, uint8_t byte3) {
-    waiting_.push_back({StateWord(byte1, byte2, byte3), services_.clock.GetTickCount()});
+    waiting_.push_back({StateWord(byte1, byte2, byte3), link_->ReportClock});
     RawInput.Raise(byte0, byte1, byte2, byte3);
     HandleWaiting();
 }

@@ -29,5 +29,5 @@ std::unique_ptr<PanelEnumerator> VirtualDeckhub::CreateEnumerator() {
 }
 
 std::unique_ptr<PanelLink> VirtualDeckhub::CreateLink() {
-    return std::make_unique<VirtualLink>(bus_, loop_, starts_, reading_);
+    return std::make_unique<VirtualLink>(bus_, clock_, loop_, starts_, reading_);
 }

@@ -9,7 +9,8 @@
 // Finds and reads the devices of the bus.
 class VirtualDeckhub : public Deckhub {
   public:
-    VirtualDeckhub(VirtualBus& bus, MessageLoop& loop) : bus_(bus), loop_(loop) {}
+    VirtualDeckhub(VirtualBus& bus, Clock& clock, MessageLoop& loop)
+        : bus_(bus), clock_(clock), loop_(loop) {}
 
     std::unique_ptr<PanelEnumerator> CreateEnumerator() override;
     std::unique_ptr<PanelLink> CreateLink() override;
@@ -23,6 +24,7 @@ class VirtualDeckhub : public Deckhub {
 
   private:
     VirtualBus& bus_;
+    Clock& clock_;
     MessageLoop& loop_;
     std::shared_ptr<std::vector<LinkStart>> starts_ = std::make_shared<std::vector<LinkStart>>();
     std::shared_ptr<int> reading_ = std::make_shared<int>(0);

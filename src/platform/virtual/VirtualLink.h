@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include "platform/Clock.h"
 #include "platform/Deckhub.h"
 #include "platform/MessageLoop.h"
 #include "platform/virtual/VirtualBus.h"
@@ -20,8 +21,8 @@ struct LinkStart {
 class VirtualLink : public PanelLink {
   public:
     // `starts` is the log that each start goes to.
-    VirtualLink(VirtualBus& bus, MessageLoop& loop, std::shared_ptr<std::vector<LinkStart>> starts,
-                std::shared_ptr<int> reading);
+    VirtualLink(VirtualBus& bus, Clock& clock, MessageLoop& loop,
+                std::shared_ptr<std::vector<LinkStart>> starts, std::shared_ptr<int> reading);
     ~VirtualLink() override;
 
     void StartReading() override;
@@ -29,6 +30,7 @@ class VirtualLink : public PanelLink {
 
   private:
     VirtualBus& bus_;
+    Clock& clock_;
     MessageLoop& loop_;
     std::shared_ptr<std::vector<LinkStart>> starts_;
     std::shared_ptr<int> reading_;           // how many links read, shared by all of them

@@ -24,7 +24,7 @@ struct VirtualPlatform {
     VirtualIpc ipc{clock, server};
     VirtualBus bus;
     VirtualHid hid{bus};
-    VirtualDeckhub deckhub{bus, loop};
+    VirtualDeckhub deckhub{bus, clock, loop};
     VirtualFiles files;
     VirtualIni ini{files};
     VirtualRegistry registry;

@@ -39,12 +39,15 @@ void Win32PanelLink::StartReading() {
         // The system hands over as many whole reports as fit; what is no multiple of their size is
         // one longer report.
         const size_t count = bytes.size() % kReportSize == 0 ? bytes.size() / kReportSize : 1;
+        const uint32_t clock = ::GetTickCount();
         for (size_t i = 0; i < count && bytes.size() >= kReportSize; ++i) {
             const uint8_t* report = bytes.data() + i * kReportSize;
-            loop_.Post(
-                [this, wanted, b0 = report[0], b1 = report[1], b2 = report[2], b3 = report[3]] {
-                    if (*wanted) RawInput.Raise(b0, b1, b2, b3);
-                });
+            loop_.Post([this, wanted, clock, b0 = report[0], b1 = report[1], b2 = report[2],
+                        b3 = report[3]] {
+                if (!*wanted) return;
+                ReportClock = clock;
+                RawInput.Raise(b0, b1, b2, b3);
+            });
         }
     };
     reader_ = std::make_unique<Win32PanelReader>(

@@ -134,6 +134,21 @@ TEST_F(RadioPanelDeviceTest, ClicksAndLongClicksAtTheThreshold) {
     EXPECT_EQ(upper.shpSwitch.FillColor - lower.shpSwitch.FillColor, 0xFFFFFFU - 0x0000FFU);
 }
 
+// As when the simulator answers late: what counts is when a report came, not when it is taken.
+TEST_F(RadioPanelDeviceTest, ABusyMomentLosesNoPulseAndMakesNoClickALongOne) {
+    const auto releaseWhileBusy = [this] {
+        machine.clock.Sleep(50);
+        device.SendReport({0, 0, 0, 0});
+        machine.clock.Sleep(600);
+    };
+    Play("1,0 1 +100");
+    releaseWhileBusy();
+    EXPECT_EQ(Play("+1"), "+0 1 ");
+    Play("+2000 4000 +100");
+    releaseWhileBusy();
+    EXPECT_EQ(Play("+2000 4000 +610"), "C4000 U4000 D4000 L4000 ");
+}
+
 // As an action that sends a keystroke lets in what waits.
 TEST_F(RadioPanelDeviceTest, ReportsThatComeWithinAnEventAreTakenOnce) {
     const auto letRun = [this](auto...) { machine.loop.Advance(600); };
