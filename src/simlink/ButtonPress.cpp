@@ -5,7 +5,7 @@
 namespace {
 
 constexpr uint32_t kTimerButtonMs = 15;
-constexpr uint32_t kLateMs = 100;
+constexpr uint32_t kLateMs = 2 * kTimerButtonMs;
 
 }  // namespace
 

@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "base/Number.h"
 #include "simlink/cOFFSET.h"
 
 // The offsets that every tick reads, by name, shared by all panels. Names compare without regard to

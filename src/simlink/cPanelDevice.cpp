@@ -5,6 +5,7 @@
 namespace {
 
 constexpr int32_t kReadWaitMs = 1500;
+constexpr uint32_t kHandlingMs = 1000;
 constexpr int32_t kPictureWidth = 10905;
 constexpr int32_t kPictureHeight = 2865;
 
@@ -46,22 +47,29 @@ void cPanelDevice::TakeReport(uint8_t byte0, uint8_t byte1, uint8_t byte2, uint8
 
 void cPanelDevice::GetPositions() {
     const bool within = std::exchange(handling_, true);
+    const uint32_t since = std::exchange(handlingSince_, services_.clock.GetTickCount());
     ReadPositions();
     handling_ = within;
+    handlingSince_ = since;
     HandleWaiting();
 }
 
-// One report after the other, each as a whole.
+// One report after the other, each as a whole; but a box that something opens on the way must not
+// hold the panel up for as long as it stands.
 void cPanelDevice::HandleWaiting() {
-    if (handling_) return;
-    handling_ = true;
+    const uint32_t now = services_.clock.GetTickCount();
+    if (handling_ && now - handlingSince_ < kHandlingMs) return;
+    const bool within = std::exchange(handling_, true);
+    const uint32_t since = handlingSince_;
     while (!waiting_.empty()) {
         const auto [state, clock] = waiting_.front();
         waiting_.pop_front();
         const bool first = std::exchange(firstReportPending_, false);
+        handlingSince_ = services_.clock.GetTickCount();
         HandleReport({std::exchange(lastState_, state), state, first}, clock);
     }
-    handling_ = false;
+    handling_ = within;
+    handlingSince_ = since;
 }
 
 void cPanelDevice::End() {

@@ -82,6 +82,11 @@ class cPanelDevice : public Picture {
     void Resized() override;
 
   private:
+    struct Report {
+        int32_t state;
+        uint32_t clock;
+    };
+
     void Disconnect();
     void TakeReport(uint8_t byte0, uint8_t byte1, uint8_t byte2, uint8_t byte3);
     void HandleWaiting();
@@ -90,12 +95,9 @@ class cPanelDevice : public Picture {
     const PanelKind kind_;
     std::unique_ptr<PanelLink> link_;
     uintptr_t deviceHandle_ = 0;
-    struct Report {
-        int32_t state;
-        uint32_t clock;
-    };
     std::deque<Report> waiting_;
     bool handling_ = false;
+    uint32_t handlingSince_ = 0;
     int32_t lastState_ = 0;
     bool firstReportPending_ = true;
     bool ended_ = false;

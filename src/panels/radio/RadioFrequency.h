@@ -17,8 +17,8 @@ float TuneFrequency(float Value, float Step, int32_t Steps);
 // The four digits that hold a frequency, as a number: 118.025 gives 1802.
 int32_t FrequencyDigits(float Frequency);
 
-// An ADF frequency is held in two parts: up to three digits before the point, and the tenths,
-// where 100 stands for the thousand.
+// An ADF frequency is held in two parts: the digits before the point, without the thousand if
+// there is more than that, and the tenths, where 100 stands for the thousand.
 struct AdfDigits {
     int32_t main;
     int32_t extension;

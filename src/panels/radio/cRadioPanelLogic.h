@@ -7,11 +7,15 @@
 #include <string>
 #include <vector>
 
+#include "config/ProfileStore.h"
 #include "panels/radio/RadioChannels.h"
 #include "panels/radio/RadioPanelOffsets.h"
 #include "panels/radio/cRadioPanelActionsHolder.h"
 #include "panels/radio/ctlRadioPanel.h"
+#include "platform/Clock.h"
+#include "simlink/ActionRecord.h"
 #include "simlink/MasterPower.h"
+#include "simlink/cOffsetTable.h"
 #include "simlink/cPanelLogic.h"
 #include "simlink/cSession.h"
 

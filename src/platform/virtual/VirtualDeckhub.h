@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/Clock.h"
 #include "platform/Deckhub.h"
 #include "platform/MessageLoop.h"
 #include "platform/virtual/Faults.h"

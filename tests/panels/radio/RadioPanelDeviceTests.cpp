@@ -147,6 +147,9 @@ TEST_F(RadioPanelDeviceTest, ABusyMomentLosesNoPulseAndMakesNoClickALongOne) {
     Play("+2000 4000 +100");
     releaseWhileBusy();
     EXPECT_EQ(Play("+2000 4000 +610"), "C4000 U4000 D4000 L4000 ");
+    Play("0 8000");
+    for (int time = 0; time < 5; ++time, machine.loop.RunPending()) machine.clock.Sleep(150);
+    EXPECT_EQ(Play(), "L8000 ") << "also where the loop is always late";
 }
 
 // As an action that sends a keystroke lets in what waits.
@@ -160,6 +163,16 @@ TEST_F(RadioPanelDeviceTest, ReportsThatComeWithinAnEventAreTakenOnce) {
     EXPECT_EQ(Play("44100,40100,44100 +2000"), "D4000 C4000 U4000 D4000 L4000 ");
     device.SendReport({0, 0x02, 0x41, 0});
     EXPECT_EQ(Play("g"), "s1 0 0 s2 0 0 s1 20000 40000 ");
+}
+
+TEST_F(RadioPanelDeviceTest, ABoxThatStandsWithinAnEventDoesNotHoldThePanelUp) {
+    panel.ButtonDown.Connect([this](int32_t) {
+        machine.loop.After(900, [this] { device.SendReport({0, 2, 0x40, 0}); });
+        machine.loop.After(1100, [this] { device.SendReport({0, 1, 0x40, 0}); });
+        machine.loop.Advance(2000);
+        log << "closed ";
+    });
+    EXPECT_EQ(Play("4000"), "D4000 s1 20000 0 s1 10000 20000 closed ");
 }
 
 }  // namespace

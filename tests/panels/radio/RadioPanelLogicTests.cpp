@@ -94,6 +94,8 @@ TEST_F(RadioPanelFlight, KnobStartsFromWhatTheSimulatorHas) {
     EXPECT_EQ(Do("1 +1 5 click 7 +1 outer -1 1"), "") << "nothing is known before the first tick";
     EXPECT_EQ(Do("3 inner +1 ? 7 -1 outer +1 ?"), "311e=1035 3 354=200 330=3e84 3");
     EXPECT_EQ(Do("1 inner +1 lower 1 +1"), "311a=2477 311a=2480") << "no turn is lost";
+    RadioLogic().SetupChanged();
+    EXPECT_EQ(Do("+1"), "") << "nor is anything known of a new mode";
     EXPECT_EQ(Do("5 outer +1 upper 5 +1 click"), "34c=347 356=0");
 }
 
