@@ -62,18 +62,6 @@ void Process::Kill() const {
     WaitForSingleObject(process_, 5000);
 }
 
-uint64_t Process::ProcessorTime() const {
-    FILETIME created;
-    FILETIME ended;
-    FILETIME kernel{};
-    FILETIME user{};
-    GetProcessTimes(process_, &created, &ended, &kernel, &user);
-    const auto hundredNanoseconds = [](const FILETIME& time) {
-        return static_cast<uint64_t>(time.dwHighDateTime) << 32 | time.dwLowDateTime;
-    };
-    return (hundredNanoseconds(kernel) + hundredNanoseconds(user)) / 10000;
-}
-
 std::string Process::Ask(const std::string& line, uint32_t milliseconds) {
     const std::string text = line + "\n";
     DWORD written = 0;

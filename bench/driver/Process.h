@@ -25,8 +25,6 @@ class Process {
     std::optional<DWORD> WaitForEnd(uint32_t milliseconds) const;
     // At once and without warning. Returns when it is gone.
     void Kill() const;
-    // Processor time so far, in milliseconds.
-    uint64_t ProcessorTime() const;
 
     // Writes a line and gives the next line that comes back, or an "error:" of its own when none
     // comes in time.

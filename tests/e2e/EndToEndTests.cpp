@@ -48,8 +48,7 @@ class EndToEnd : public testing::Test {
         cockpit_->StartOrvo();
         ASSERT_TRUE(cockpit_->StatusBecomes(0, kConnected, kSoonMs))
             << "batches: " << cockpit_->Simulator("batches")
-            << ", window: " << (cockpit_->MainWindow() != nullptr)
-            << ", processor ms: " << cockpit_->Orvo().ProcessorTime();
+            << ", window: " << (cockpit_->MainWindow() != nullptr);
     }
 
     void ExpectQuits() {
@@ -233,9 +232,6 @@ TEST_F(EndToEnd, APanelThatVanishesHurtsNothingElse) {
 
     cockpit_->KillSimulator();
     ASSERT_TRUE(cockpit_->StatusBecomes(0, kDisconnected, kSoonMs));
-    const uint64_t before = cockpit_->Orvo().ProcessorTime();
-    ::Sleep(2000);
-    EXPECT_LT(cockpit_->Orvo().ProcessorTime() - before, 500u) << "ms of 2000: a reader spins";
     ExpectQuits();
 }
 

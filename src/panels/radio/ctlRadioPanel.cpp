@@ -97,9 +97,13 @@ void ctlRadioPanel::TakeLongClick(int32_t mask) {
 
 void ctlRadioPanel::ReadPositions() {
     std::array<uint8_t, kRadioReportSize> report{};
-    Services().hid.GetFeature(DeviceHandle(), report);
+    const bool read = Services().hid.GetFeature(DeviceHandle(), report);
     const Change change = {0, StateWord(report[1], report[2], report[3]), false};
     for (size_t side = 0; side < kSides; ++side) TakeSelector(side, change);
+    // What was held when the session before was lost may have come up since.
+    for (const int32_t mask : kRadioButtonBits) {
+        if (read && !(change.after & mask)) ButtonUp.Raise(mask);
+    }
 }
 
 void ctlRadioPanel::WriteDisplay(std::optional<std::string_view> Active1,

@@ -25,8 +25,9 @@ class ctlRadioPanel final : public cPanelDevice {
     Event<int32_t> ButtonClick;      // at the release of a short press
     Event<int32_t> ButtonLongClick;  // when a held button passes the click threshold
     Event<int32_t> ButtonDown;
-    Event<int32_t> ButtonUp;             // at every release, after the click; and once more after
-                                         // a long click that comes too late for it
+    // At every release, after the click; once more after a long click that comes too late for it,
+    // and of buttons that are up when the positions are read.
+    Event<int32_t> ButtonUp;
     Event<int32_t, int16_t> RotaryUp;    // a clockwise step of a knob, and its speed: 1, 5, 10, 20
     Event<int32_t, int16_t> RotaryDown;  // the same, counter-clockwise
     Event<int16_t, int32_t, int32_t> SelectorChange;  // side, new and old position

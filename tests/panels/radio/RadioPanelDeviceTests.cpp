@@ -162,7 +162,7 @@ TEST_F(RadioPanelDeviceTest, ReportsThatComeWithinAnEventAreTakenOnce) {
     EXPECT_EQ(Play("40101,40100,40101,40100,40101,40100,40101,40100"), "+0 1 +0 1 ");
     EXPECT_EQ(Play("44100,40100,44100 +2000"), "D4000 C4000 U4000 D4000 L4000 ");
     device.SendReport({0, 0x02, 0x41, 0});
-    EXPECT_EQ(Play("g"), "s1 0 0 s2 0 0 s1 20000 40000 ");
+    EXPECT_EQ(Play("g"), "s1 0 0 s2 0 0 U4000 U8000 s1 20000 40000 ");
 }
 
 TEST_F(RadioPanelDeviceTest, ABoxThatStandsWithinAnEventDoesNotHoldThePanelUp) {

@@ -93,6 +93,22 @@ TEST_F(PanelLinkTest, FailedAndEmptyReadsAreTriedAgain) {
     EXPECT_EQ(seen, (Reports{{0, 1, 2, 3}, {0, 4, 5, 6}}));
 }
 
+TEST_F(PanelLinkTest, ADeviceThatIsGoneKeepsNoProcessorBusy) {
+    const auto spent = [] {
+        FILETIME created, ended, kernel, user;
+        GetProcessTimes(GetCurrentProcess(), &created, &ended, &kernel, &user);
+        return (kernel.dwLowDateTime + user.dwLowDateTime) / 10000;
+    };
+    link.StartReading();
+    Send({0, 1, 2, 3});
+    Await(1);
+    device = {};
+    const DWORD before = spent();
+    Sleep(1000);
+    EXPECT_LT(spent() - before, 200u) << "ms of 1000: the reader spins";
+    StopAtOnce();
+}
+
 TEST_F(PanelLinkTest, NothingComesAfterStopReading) {
     link.StartReading();
     Send({0, 1, 2, 3});
