@@ -11,6 +11,7 @@ constexpr int kFirstJoystick = 64;
 constexpr int kLastJoystick = 72;
 constexpr int kButtonsOfJoystick = 32;
 constexpr int32_t kControls = 0x3110;
+constexpr uint32_t kPressMs = 50;
 
 struct Qualifier {
     uint8_t bit;
@@ -26,6 +27,16 @@ bool IsVirtualButton(uint8_t joystick, uint8_t button) {
 int32_t OffsetOf(uint8_t joystick) { return kVirtualButtons + (joystick - kFirstJoystick) * 4; }
 
 }  // namespace
+
+EventOutput::EventOutput(modFSUIPC& fsuipc, KeyboardPort& keyboard, MessageLoop& loop,
+                         const bool& connected)
+    : fsuipc_(fsuipc),
+      keyboard_(keyboard),
+      loop_(loop),
+      connected_(connected),
+      timerRelease_(loop, kPressMs) {
+    timerRelease_.Tick.Connect([this] { ReleaseInTime(); });
+}
 
 void EventOutput::SetVirtualButton(uint8_t VJoystick, uint8_t VButton, bool State, bool Process) {
     if (!IsVirtualButton(VJoystick, VButton)) return;
@@ -48,6 +59,33 @@ void EventOutput::WriteButton(uint8_t joystick, uint8_t button, bool state, uint
     StoreLE32(buttons.data(), state ? before | bit : before & ~bit);
     int32_t result = 0;
     fsuipc_.FSUIPC_Write(OffsetOf(joystick), 4, buttons.data(), result);
+}
+
+// A press goes out at once: its time begins.
+void EventOutput::SetButton(const ActionRecord& record, bool down) {
+    SetVirtualButton(record.VJoystickOrKeyCode, record.VButtonOrKeyQualifiers, down, down);
+}
+
+void EventOutput::PressForAWhile(const ActionRecord& record) {
+    presses_.push_back(record);
+    if (presses_.size() > 1) return;
+    SetButton(record, true);
+    timerRelease_.SetEnabled(true);
+}
+
+void EventOutput::ReleaseInTime() {
+    if (!connected_) {
+        // Those that wait have no meaning in another session; the one that is down comes up in it.
+        presses_.resize(1);
+        return;
+    }
+    SetButton(presses_.front(), false);
+    presses_.pop_front();
+    if (presses_.empty()) {
+        timerRelease_.SetEnabled(false);
+    } else {
+        SetButton(presses_.front(), true);
+    }
 }
 
 void EventOutput::SendKeyStroke(uint8_t KeyCode, uint8_t KeyQualifiers) {

@@ -1,19 +1,21 @@
 #pragma once
 
 #include <cstdint>
+#include <deque>
 #include <optional>
 
 #include "platform/KeyboardPort.h"
 #include "platform/MessageLoop.h"
 #include "simlink/ActionRecord.h"
 #include "simlink/modFSUIPC.h"
+#include "toolkit/Timer.h"
 
 // The ways in which what the user does reaches the simulator, apart from writes of offsets.
 class EventOutput {
   public:
     // `connected` says at any time whether a session is up.
-    EventOutput(modFSUIPC& fsuipc, KeyboardPort& keyboard, MessageLoop& loop, const bool& connected)
-        : fsuipc_(fsuipc), keyboard_(keyboard), loop_(loop), connected_(connected) {}
+    EventOutput(modFSUIPC& fsuipc, KeyboardPort& keyboard, MessageLoop& loop,
+                const bool& connected);
 
     // Presses (State) or releases one virtual button. The change goes out with the next exchange,
     // or with Process at once; what waited before it has been sent by then, so that a press and a
@@ -21,6 +23,10 @@ class EventOutput {
     // other numbers. Where the simulator doesn't answer, the joystick's other buttons count as
     // released.
     void SetVirtualButton(uint8_t VJoystick, uint8_t VButton, bool State, bool Process);
+
+    // Presses a VButton record's button and releases it 50 ms later; the caller goes on meanwhile.
+    // Several are pressed one after the other.
+    void PressForAWhile(const ActionRecord& record);
 
     // Presses and releases a key with its qualifiers (1 SHIFT, 2 CTRL, 4 TAB) in one go, in the
     // window that has the focus. Lets pending messages run.
@@ -42,9 +48,13 @@ class EventOutput {
     // False when there is no use in going on.
     bool SendOnce(const ActionRecord& record);
     bool PressAndRelease(uint8_t joystick, uint8_t button);
+    void SetButton(const ActionRecord& record, bool down);
+    void ReleaseInTime();
 
     modFSUIPC& fsuipc_;
     KeyboardPort& keyboard_;
     MessageLoop& loop_;
     const bool& connected_;
+    std::deque<ActionRecord> presses_;  // the first one is down, the others wait
+    Timer timerRelease_;                // runs only while there are presses
 };

@@ -18,7 +18,7 @@ class cPanelLogic {
 
     // Once the panel's control is connected.
     virtual void StartUp() = 0;
-    // On every successful tick. Works on what the tick has read.
+    // On every successful tick. Works on what the tick has read, and makes no exchange of its own.
     virtual void RefreshData() = 0;
     // After the bindings or the special mode have changed.
     virtual void SetupChanged() = 0;

@@ -1,5 +1,4 @@
 // What the panel's events do: bound actions, and the built-in behaviour of the radios.
-#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -17,8 +16,6 @@ constexpr int32_t kNGXAltimeterUp = 16384;
 constexpr int32_t kNGXAltimeterDown = 8192;
 constexpr int32_t kNGXAltimeterUnit = 69998;
 constexpr int32_t kNGXClick = 0x20000000;
-
-constexpr uint32_t kSelectorPressMs = 50;
 
 // Goes over the end of the band to the other one, once: a fast turn may go further.
 float WithinBand(float frequency, const RadioBand& band) {
@@ -40,29 +37,10 @@ void cRadioPanelLogic::SelectorChange(int16_t Selector, int32_t NewPos, int32_t 
     ApplyAcceleration(row);
     const ActionRecord& record = RPActions->GetSelectorActions(NewPos);
     if (record.FSEvent == ActionKind::VButton) {
-        PressForAWhile(record);
+        session_.Output.PressForAWhile(record);
     } else {
         session_.Output.SendAction(record);
     }
-}
-
-// A tick releases it: the selector may go on meanwhile, and its next position is shown at once.
-void cRadioPanelLogic::PressForAWhile(const ActionRecord& record) {
-    const auto again = std::ranges::find(pressed_, record, &Pressed::record);
-    if (again != pressed_.end()) {
-        SetButton(record, false);
-        pressed_.erase(again);
-    }
-    SetButton(record, true);
-    pressed_.push_back({record, clock_.GetTickCount()});
-}
-
-void cRadioPanelLogic::ReleaseInTime() {
-    std::erase_if(pressed_, [this](const Pressed& each) {
-        const bool over = clock_.GetTickCount() - each.clock >= kSelectorPressMs;
-        if (over) SetButton(each.record, false);
-        return over;
-    });
 }
 
 cRadioPanelLogic::Row* cRadioPanelLogic::RowOf(int32_t button) {

@@ -38,7 +38,6 @@ cRadioPanelLogic::cRadioPanelLogic(const LogicServices& services, ctlRadioPanel&
     : Index(index),
       session_(services.session),
       profiles_(services.profiles),
-      clock_(services.clock),
       control_(control),
       ngxUnit_(session_.OffsetTable, kNGXUnit.name),
       power_(session_.OffsetTable) {
@@ -82,7 +81,6 @@ void cRadioPanelLogic::ApplyAcceleration(const Row& row) {
 }
 
 void cRadioPanelLogic::RefreshData() {
-    ReleaseInTime();
     ReadRadios();
     for (Row& row : rows_) ShowRow(row);
     if (power_.IsOn()) {

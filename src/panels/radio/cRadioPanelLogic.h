@@ -12,7 +12,6 @@
 #include "panels/radio/RadioPanelOffsets.h"
 #include "panels/radio/cRadioPanelActionsHolder.h"
 #include "panels/radio/ctlRadioPanel.h"
-#include "platform/Clock.h"
 #include "simlink/ActionRecord.h"
 #include "simlink/MasterPower.h"
 #include "simlink/cOffsetTable.h"
@@ -54,12 +53,6 @@ class cRadioPanelLogic final : public cPanelLogic {
         std::optional<ActionRecord> held{};  // the virtual button that a click has pressed
     };
 
-    // A virtual button that a selector has pressed, to be released soon.
-    struct Pressed {
-        ActionRecord record;
-        uint32_t clock;
-    };
-
     double Value(size_t value) const { return offsets_[value].Data(); }
     bool AdfIsTunedAtOnce() const { return RPActions->ADFMode <= 2; }
     // The Maddog's NAV radios have no standby frequency.
@@ -78,8 +71,6 @@ class cRadioPanelLogic final : public cPanelLogic {
     void ShowDmeStation(Row& row, size_t station);
     void ShowTransponder(Row& row);
 
-    void PressForAWhile(const ActionRecord& record);
-    void ReleaseInTime();
     Row* RowOf(int32_t button);
     void Press(Row& row, ActionRecord record, void (cRadioPanelLogic::*standard)(Row&));
     void Release(Row& row);
@@ -100,7 +91,6 @@ class cRadioPanelLogic final : public cPanelLogic {
 
     cSession& session_;
     ProfileStore& profiles_;
-    Clock& clock_;
     ctlRadioPanel& control_;
     std::vector<NamedOffset> offsets_;  // as kRadioOffsets
     NamedOffset ngxUnit_;
@@ -114,7 +104,6 @@ class cRadioPanelLogic final : public cPanelLogic {
     std::string transponder_;                               // the code's four digits
     uint8_t transponderDigit_ = 1;                          // 1 to 4, the one that the knob changes
     bool altimeterInHg_ = false;
-    std::vector<Pressed> pressed_;
     uint8_t adfTuned_ = 1;  // 1 or 2, the one that the knob changes where both are shown
     bool showDmeTime_ = false;
 };
