@@ -61,15 +61,11 @@ void EventOutput::WriteButton(uint8_t joystick, uint8_t button, bool state, uint
     fsuipc_.FSUIPC_Write(OffsetOf(joystick), 4, buttons.data(), result);
 }
 
-// A press goes out at once: its time begins.
-void EventOutput::SetButton(const ActionRecord& record, bool down) {
-    SetVirtualButton(record.VJoystickOrKeyCode, record.VButtonOrKeyQualifiers, down, down);
-}
-
+// Presses go out at once: their time begins.
 void EventOutput::PressForAWhile(const ActionRecord& record) {
     presses_.push_back(record);
     if (presses_.size() > 1) return;
-    SetButton(record, true);
+    SetVirtualButton(record, true, true);
     timerRelease_.SetEnabled(true);
 }
 
@@ -79,12 +75,12 @@ void EventOutput::ReleaseInTime() {
         presses_.resize(1);
         return;
     }
-    SetButton(presses_.front(), false);
+    SetVirtualButton(presses_.front(), false, false);
     presses_.pop_front();
     if (presses_.empty()) {
         timerRelease_.SetEnabled(false);
     } else {
-        SetButton(presses_.front(), true);
+        SetVirtualButton(presses_.front(), true, true);
     }
 }
 

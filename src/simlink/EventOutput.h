@@ -23,6 +23,10 @@ class EventOutput {
     // other numbers. Where the simulator doesn't answer, the joystick's other buttons count as
     // released.
     void SetVirtualButton(uint8_t VJoystick, uint8_t VButton, bool State, bool Process);
+    // The same with the button of a VButton record.
+    void SetVirtualButton(const ActionRecord& record, bool State, bool Process) {
+        SetVirtualButton(record.VJoystickOrKeyCode, record.VButtonOrKeyQualifiers, State, Process);
+    }
 
     // Presses a VButton record's button and releases it 50 ms later; the caller goes on meanwhile.
     // Several are pressed one after the other.
@@ -48,7 +52,6 @@ class EventOutput {
     // False when there is no use in going on.
     bool SendOnce(const ActionRecord& record);
     bool PressAndRelease(uint8_t joystick, uint8_t button);
-    void SetButton(const ActionRecord& record, bool down);
     void ReleaseInTime();
 
     modFSUIPC& fsuipc_;

@@ -60,12 +60,10 @@ void cMultiPanelLogic::SendSelectorAction(int32_t newPosition, int32_t oldPositi
         session_.Output.SendAction(reached);
         return;
     }
-    session_.Output.SetVirtualButton(reached.VJoystickOrKeyCode, reached.VButtonOrKeyQualifiers,
-                                     true, false);
+    session_.Output.SetVirtualButton(reached, true, false);
     const ActionRecord& left = MPActions->GetSelectorActions(oldPosition);
     if (left.FSEvent == ActionKind::VButton) {
-        session_.Output.SetVirtualButton(left.VJoystickOrKeyCode, left.VButtonOrKeyQualifiers,
-                                         false, false);
+        session_.Output.SetVirtualButton(left, false, false);
     }
 }
 
@@ -183,8 +181,7 @@ void cMultiPanelLogic::AutoThrottleChange(int16_t State) {
     const ActionRecord& record = MPActions->GetAutoThrottleActions(armed ? 1 : 0);
     if (record.FSEvent == ActionKind::VButton) {
         // The button holds the switch's position.
-        session_.Output.SetVirtualButton(record.VJoystickOrKeyCode, record.VButtonOrKeyQualifiers,
-                                         armed, false);
+        session_.Output.SetVirtualButton(record, armed, false);
         return;
     }
     Do(

@@ -73,7 +73,7 @@ void cRadioPanelLogic::Press(Row& row, ActionRecord record,
     if (record.FSEvent == ActionKind::VButton) {
         Release(row);
         row.held = record;
-        SetButton(record, true);
+        session_.Output.SetVirtualButton(record, true, false);
     } else if (record.FSEvent == ActionKind::Offset) {
         (this->*standard)(row);
     } else {
@@ -83,12 +83,8 @@ void cRadioPanelLogic::Press(Row& row, ActionRecord record,
 
 // The one that was pressed, whatever the selector and the profile say by now.
 void cRadioPanelLogic::Release(Row& row) {
-    if (const auto held = std::exchange(row.held, std::nullopt)) SetButton(*held, false);
-}
-
-void cRadioPanelLogic::SetButton(const ActionRecord& record, bool down) {
-    session_.Output.SetVirtualButton(record.VJoystickOrKeyCode, record.VButtonOrKeyQualifiers, down,
-                                     false);
+    const auto held = std::exchange(row.held, std::nullopt);
+    if (held) session_.Output.SetVirtualButton(*held, false, false);
 }
 
 void cRadioPanelLogic::ClickStandard(Row& row) {

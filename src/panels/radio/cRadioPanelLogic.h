@@ -74,7 +74,6 @@ class cRadioPanelLogic final : public cPanelLogic {
     Row* RowOf(int32_t button);
     void Press(Row& row, ActionRecord record, void (cRadioPanelLogic::*standard)(Row&));
     void Release(Row& row);
-    void SetButton(const ActionRecord& record, bool down);
     void ClickStandard(Row& row);
     void LongClickStandard(Row& row);
     void Swap(size_t channel);
