@@ -4,6 +4,7 @@
 #include <cstdint>
 
 #include "simlink/EventOutput.h"
+#include "simlink/cOFFSET.h"
 #include "simlink/cOffsetTable.h"
 #include "simlink/modFSUIPC.h"
 
@@ -20,6 +21,13 @@ struct cSession {
         : Fsuipc(channel, clock),
           OffsetTable(Fsuipc),
           Output(Fsuipc, keyboard, loop, FSConnected) {}
+
+    // Writes a value of a type of cOFFSET's: with the next exchange, or at once with Immediate.
+    void WriteOffset(int32_t offset, int32_t dataType, double value, bool Immediate) {
+        cOFFSET target(Fsuipc, offset, dataType);
+        target.SetData(value);
+        target.DirectWrite(Immediate);
+    }
 
     modFSUIPC Fsuipc;
     cOffsetTable OffsetTable;

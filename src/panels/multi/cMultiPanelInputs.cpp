@@ -83,24 +83,26 @@ void cMultiPanelLogic::TurnStandard(int step) {
     switch (selectorPosition_) {
         case 1:
             altitudeValue_ = std::clamp(altitudeValue_ + step * 100, 0, 99000);
-            WriteOffset(OffsetOf(kAltitudeRow), 4, altitudeValue_ / kFeetPerMetre * 65536);
+            session_.WriteOffset(OffsetOf(kAltitudeRow), 4, altitudeValue_ / kFeetPerMetre * 65536,
+                                 false);
             break;
         case 2:
             verticalSpeed_ =
                 static_cast<int16_t>(std::clamp(verticalSpeed_ + step * 100, -9900, 9900));
-            WriteOffset(OffsetOf(kVerticalSpeedRow), 2, verticalSpeed_);
+            session_.WriteOffset(OffsetOf(kVerticalSpeedRow), 2, verticalSpeed_, false);
             break;
         case 3:
             speedValue_ = std::max(speedValue_ + step, 0.0);
-            WriteOffset(OffsetOf(kSpeedRow), 2, speedValue_);
+            session_.WriteOffset(OffsetOf(kSpeedRow), 2, speedValue_, false);
             break;
         case 4:
             headingBug_ = OnCompass(headingBug_ + step);
-            WriteOffset(OffsetOf(kHeadingRow), 3, headingBug_ / 360.0 * 65536);
+            session_.WriteOffset(OffsetOf(kHeadingRow), 3, headingBug_ / 360.0 * 65536, false);
             break;
         case 5:
             courseValue_ = OnCompass(courseValue_ + step);
-            WriteOffset(OffsetOf(SecondCourse() ? kCourse2Row : kCourse1Row), 2, courseValue_);
+            session_.WriteOffset(OffsetOf(SecondCourse() ? kCourse2Row : kCourse1Row), 2,
+                                 courseValue_, false);
             break;
         default:
             break;
@@ -134,8 +136,8 @@ void cMultiPanelLogic::ToggleHold(int32_t button) {
     cOFFSET hold(session_.Fsuipc, OffsetOf(static_cast<size_t>(button - 1)), 4);
     hold.DirectRead(true);
     const double value = hold.Data() == 0 ? 1 : 0;
-    WriteOffset(hold.Offset, 4, value);
-    if (button == kApproachButton) WriteOffset(kGlideSlopeHold, 4, value);
+    session_.WriteOffset(hold.Offset, 4, value, false);
+    if (button == kApproachButton) session_.WriteOffset(kGlideSlopeHold, 4, value, false);
 }
 
 void cMultiPanelLogic::Trim(int16_t Direction, int16_t Speed) {
@@ -186,12 +188,5 @@ void cMultiPanelLogic::AutoThrottleChange(int16_t State) {
     }
     Do(
         record, 1, [&] { SetThrottleNGX(armed); },
-        [&] { WriteOffset(kAutoThrottleArm, 4, armed ? 1 : 0); });
-}
-
-// Goes out with the next exchange.
-void cMultiPanelLogic::WriteOffset(int32_t offset, int32_t dataType, double value) {
-    cOFFSET target(session_.Fsuipc, offset, dataType);
-    target.SetData(value);
-    target.DirectWrite(false);
+        [&] { session_.WriteOffset(kAutoThrottleArm, 4, armed ? 1 : 0, false); });
 }

@@ -73,7 +73,6 @@ class cMultiPanelLogic final : public cPanelLogic {
     void TurnStandard(int step);
     void TrimStandard(bool up, int16_t speed);
     void MoveFlapsStandard(bool up);
-    void WriteOffset(int32_t offset, int32_t dataType, double value);
 
     void RunNGXFunction(uint8_t row);
     void TurnNGX(bool up);

@@ -122,9 +122,7 @@ void cRadioPanelLogic::LongClickStandard(Row& row) {
 
 // The simulator does it.
 void cRadioPanelLogic::Swap(size_t channel) {
-    cOFFSET swap(session_.Fsuipc, kRadioSwap, 1);
-    swap.SetData(kRadioChannels[channel].swap);
-    swap.DirectWrite(false);
+    session_.WriteOffset(kRadioSwap, 1, kRadioChannels[channel].swap, false);
 }
 
 void cRadioPanelLogic::ClickAdf(const Row& row) {
@@ -232,9 +230,7 @@ void cRadioPanelLogic::TurnAltimeter(bool up) {
     if (!altimeterInHg_) qnh_ = std::trunc(qnh_);
     const float step = altimeterInHg_ ? kAltimeterStepInHg : 1;
     qnh_ += up ? step : -step;
-    cOFFSET altimeter(session_.Fsuipc, kRadioOffsets[kQnh].offset, kRadioOffsetType);
-    altimeter.SetData(qnh_ * kQnhPerHPa);
-    altimeter.DirectWrite(true);
+    session_.WriteOffset(kRadioOffsets[kQnh].offset, kRadioOffsetType, qnh_ * kQnhPerHPa, true);
 }
 
 // At once, so that the next tick reads what was tuned.
