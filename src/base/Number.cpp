@@ -58,6 +58,12 @@ std::optional<int64_t> ParseInteger(std::string_view text, int64_t low, int64_t 
     return value;
 }
 
+std::optional<int64_t> ParseDigits(std::string_view text, int64_t low, int64_t high) {
+    const auto isDigit = [](char character) { return character >= '0' && character <= '9'; };
+    if (!std::ranges::all_of(text, isDigit)) return std::nullopt;
+    return ParseInteger(text, low, high);
+}
+
 void AppendInteger(std::string& out, int64_t value, int digits) {
     char buffer[24];
     const auto magnitude =

@@ -30,6 +30,9 @@ std::optional<Integer> ParseInteger(std::string_view text) {
     return static_cast<Integer>(*value);
 }
 
+// The same, but of decimal digits alone.
+std::optional<int64_t> ParseDigits(std::string_view text, int64_t low, int64_t high);
+
 // Appends a whole number in decimal with at least `digits` digits, the sign not counted:
 // (-700, 4) gives "-0700".
 void AppendInteger(std::string& out, int64_t value, int digits = 1);

@@ -2,6 +2,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 // Text is 8-bit Windows-1252, one byte a character.
 
@@ -12,3 +13,6 @@ bool EqualNoCase(std::string_view a, std::string_view b);
 
 // Without blanks and tabs at both ends.
 std::string_view Trim(std::string_view text);
+
+// The pieces between the separators, at least one.
+std::vector<std::string_view> Split(std::string_view text, char separator);

@@ -9,16 +9,6 @@ namespace {
 
 constexpr const char* kWords[] = {"None", "Offset", "VButton", "VKey"};
 
-std::vector<std::string_view> SplitAtCommas(std::string_view text) {
-    std::vector<std::string_view> pieces;
-    for (size_t comma; (comma = text.find(',')) != std::string_view::npos;) {
-        pieces.push_back(text.substr(0, comma));
-        text.remove_prefix(comma + 1);
-    }
-    pieces.push_back(text);
-    return pieces;
-}
-
 // Reads the pieces behind the word into a record of `kind`; false if they don't make one.
 bool ReadFields(ActionKind kind, const std::vector<std::string_view>& pieces,
                 ActionRecord& record) {
@@ -39,7 +29,7 @@ bool ReadFields(ActionKind kind, const std::vector<std::string_view>& pieces,
 }  // namespace
 
 void ReadAction(std::string_view text, ActionRecord& record) {
-    const auto pieces = SplitAtCommas(text);
+    const auto pieces = Split(text, ',');
     for (int32_t kind = 0; kind < static_cast<int32_t>(std::size(kWords)); ++kind) {
         if (!EqualNoCase(pieces[0], kWords[kind])) continue;
         ActionRecord read = record;

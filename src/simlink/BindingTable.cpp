@@ -33,6 +33,10 @@ void Read(const std::string& text, Range range, float& number) {
     number = ParseFloat(text, low, high).value_or(number);
 }
 
+void Read(const std::string& text, Range /*range*/, bool& option) {
+    if (const auto number = ParseInteger<int64_t>(text)) option = *number != 0;
+}
+
 template <class Integer>
 void Read(const std::string& text, Range range, Integer& number) {
     const auto low = static_cast<int64_t>(range.low);
@@ -57,6 +61,10 @@ std::string TextOf(int32_t number) { return FormatInteger(number); }
 
 void BindingTable::Add(std::string key, ActionRecord& record, ActionKind standard) {
     rows_.push_back({std::move(key), &record, static_cast<double>(standard), {}});
+}
+
+void BindingTable::Add(std::string key, bool& option, bool standard) {
+    rows_.push_back({std::move(key), &option, static_cast<double>(standard), {}});
 }
 
 void BindingTable::Add(std::string key, int16_t& number, int16_t standard) {

@@ -21,6 +21,8 @@ class BindingTable {
     static constexpr Range kByte = {0, 255};
 
     void Add(std::string key, ActionRecord& record, ActionKind standard);
+    // In a file 0 is false and any other whole number true.
+    void Add(std::string key, bool& option, bool standard);
     void Add(std::string key, int16_t& number, int16_t standard);
     void Add(std::string key, uint8_t& number, uint8_t standard, Range range = kByte);
     void Add(std::string key, float& number, float standard, Range range);
@@ -49,7 +51,7 @@ class BindingTable {
   private:
     struct Row {
         std::string key;
-        std::variant<ActionRecord*, uint8_t*, int16_t*, float*> place;
+        std::variant<ActionRecord*, bool*, uint8_t*, int16_t*, float*> place;
         double standard;
         Range range;
         bool flag = false;

@@ -12,6 +12,7 @@ constexpr int kLastJoystick = 72;
 constexpr int kButtonsOfJoystick = 32;
 constexpr int32_t kControls = 0x3110;
 constexpr uint32_t kPressMs = 50;
+constexpr uint32_t kRepetitionMs = 1000;
 
 struct Qualifier {
     uint8_t bit;
@@ -104,6 +105,21 @@ void EventOutput::SendControl(int32_t Control, int32_t Parameter) {
     StoreLE32(&data[4], static_cast<uint32_t>(Parameter));
     int32_t result = 0;
     fsuipc_.FSUIPC_Write(kControls, static_cast<int32_t>(data.size()), data.data(), result);
+}
+
+EventOutput::Repetition::Repetition(MessageLoop& loop, int32_t control, int32_t parameter)
+    : Control(control), Parameter(parameter), timer(loop, kRepetitionMs) {}
+
+void EventOutput::SendControlTwice(int32_t Control, int32_t Parameter) {
+    SendControl(Control, Parameter);
+    const auto place = repetitions_.emplace(repetitions_.end(), loop_, Control, Parameter);
+    place->timer.Tick.Connect([this, place] { Repeat(place); });
+    place->timer.SetEnabled(true);
+}
+
+void EventOutput::Repeat(std::list<Repetition>::iterator repetition) {
+    if (connected_) SendControl(repetition->Control, repetition->Parameter);
+    repetitions_.erase(repetition);
 }
 
 void EventOutput::SendAction(ActionRecord record, int times) {

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <deque>
+#include <list>
 #include <optional>
 
 #include "platform/KeyboardPort.h"
@@ -40,6 +41,10 @@ class EventOutput {
     // the order of their calls.
     void SendControl(int32_t Control, int32_t Parameter);
 
+    // The same, and once more 1000 ms later if the session lasts: a switch of an add-on goes one
+    // position at a time, and takes its time. The caller goes on meanwhile.
+    void SendControlTwice(int32_t Control, int32_t Parameter);
+
     // Does `times` times what a VButton record (press and release) or a VKey record says, as long
     // as the simulator answers and the session lasts; no button is left down. Nothing for other
     // records. The record is a copy: its holder may be loaded anew on the way.
@@ -54,10 +59,21 @@ class EventOutput {
     bool PressAndRelease(uint8_t joystick, uint8_t button);
     void ReleaseInTime();
 
+    // The second sending of a control.
+    struct Repetition {
+        Repetition(MessageLoop& loop, int32_t control, int32_t parameter);
+
+        int32_t Control;
+        int32_t Parameter;
+        Timer timer;
+    };
+    void Repeat(std::list<Repetition>::iterator repetition);
+
     modFSUIPC& fsuipc_;
     KeyboardPort& keyboard_;
     MessageLoop& loop_;
     const bool& connected_;
     std::deque<ActionRecord> presses_;  // the first one is down, the others wait
     Timer timerRelease_;                // runs only while there are presses
+    std::list<Repetition> repetitions_;
 };

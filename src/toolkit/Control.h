@@ -11,8 +11,8 @@ class Container;
 class ControlVisitor;
 class UiBackend;
 
-// Colours are 0xBBGGRR.
-using Color = int32_t;
+// Colours are 0xBBGGRR, or those of the system by number: 0x8000000F is the face of its buttons.
+using Color = uint32_t;
 
 // Twips to the pixel, fixed.
 inline constexpr int32_t kTwipsPerPixel = 15;

@@ -22,7 +22,10 @@ RECT AreaOf(const Control& control) {
             Scaled(control.Top + control.Height)};
 }
 
-COLORREF ToColor(Color color) { return static_cast<COLORREF>(color) & 0xFFFFFF; }
+COLORREF ToColor(Color color) {
+    if (color & 0x80000000) return GetSysColor(static_cast<int>(color & 0xFF));
+    return color & 0xFFFFFF;
+}
 
 bool IsIn(HDC dc, const Control& control) {
     RECT area = DrawnArea(control);

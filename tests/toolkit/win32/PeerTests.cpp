@@ -204,7 +204,7 @@ TEST_F(PeerTest, FrameIsANativeGroupThatHandsOnWhatItsControlsTell) {
     frame.Move(0, 0, 5000, 3000);
     frame.Caption = "Profiles";
     Label label(&frame);
-    label.ForeColor = 0x0000FF;
+    label.ForeColor = 0x0000FFU;
     CommandButton button(&frame);
     button.Move(150, 1500, 900, 330);
     Count(button);
@@ -350,7 +350,7 @@ TEST_F(PeerTest, HiddenPageGivesTheKeyboardAway) {
 
 TEST_F(PeerTest, PictureTellsScreenReadersItsLabelsAndButtonsItsGround) {
     Picture picture(&form);
-    picture.BackColor = 0x302010;
+    picture.BackColor = 0x302010U;
     CommandButton button(&picture);
     Label mode(&picture);
     Label empty(&picture);
@@ -363,7 +363,7 @@ TEST_F(PeerTest, PictureTellsScreenReadersItsLabelsAndButtonsItsGround) {
     mode.Visible = false;
     EXPECT_EQ(TextOf(picture), "083");
 
-    picture.BackColor = 0x403020;
+    picture.BackColor = 0x403020U;
     const HDC dc = GetDC(WindowOf(button));
     const LRESULT brush = Tell(picture, WM_CTLCOLORBTN, reinterpret_cast<WPARAM>(dc),
                                reinterpret_cast<LPARAM>(WindowOf(button)));
@@ -417,12 +417,12 @@ TEST_F(PeerTest, KeyboardAndStackGoByTheOrderOfChildren) {
 TEST_F(PeerTest, PictureIsPaintedWhereItChangedAndOnlyWhenSeen) {
     Picture picture(&form);
     picture.Move(0, 0, 3000, 1500);
-    picture.BackColor = 0x202020;
+    picture.BackColor = 0x202020U;
     Shape lamp(&picture);
     lamp.Move(300, 300, 600, 600);
-    lamp.FillColor = 0x00FFFF;
+    lamp.FillColor = 0x00FFFFU;
     form.Load();
-    lamp.FillColor = 0x00FF00;
+    lamp.FillColor = 0x00FF00U;
     EXPECT_FALSE(GetUpdateRect(WindowOf(picture), nullptr, FALSE));
 
     form.Show();
