@@ -1,0 +1,144 @@
+// What the panel's events do: bound actions, and the built-in behaviour of the switches.
+#include <utility>
+
+#include "panels/switch/SwitchNumber.h"
+#include "panels/switch/cSwitchPanelLogic.h"
+
+namespace {
+
+using namespace SwitchNumber;
+
+// A switch that writes one value when it goes on and another when it goes off.
+struct PlainSwitch {
+    int32_t number;
+    int32_t dataType;
+    std::array<int32_t, 4> offsets;  // one, or one for each engine
+    double on;
+    double off;
+    bool cSwitchPanelActionsHolder::*single;  // the option that only the selected engine counts
+};
+constexpr PlainSwitch kPlainSwitches[] = {
+    {kBat, 1, {0x3102}, 1, 0, nullptr},
+    {kAlt, 5, {0x3B78, 0x3AB8, 0x39F8, 0x3938}, 1, 0, &cSwitchPanelActionsHolder::SingleAltSwitch},
+    {kAvionics, 1, {0x3103}, 1, 0, nullptr},
+    {kDeIce, 2, {0x08B2, 0x094A, 0x09E2, 0x0A7A}, 1, 0, &cSwitchPanelActionsHolder::SingleDeIce},
+    {kPitot, 1, {0x029C}, 1, 0, nullptr},
+    // Closes the flaps when it goes on.
+    {kCowl, 8, {0x37F0, 0x3730, 0x3670, 0x35B0}, 0, 1, &cSwitchPanelActionsHolder::SingleCowlFlaps},
+};
+
+constexpr int32_t kFuelPumpOffset = 0x3125;
+constexpr uint8_t kAllPumps = 15;
+
+constexpr std::array<int32_t, 4> kStarterOffsets = {0x0892, 0x092A, 0x09C2, 0x0A5A};
+
+constexpr int32_t kLightsWord = 0x0D0C;
+constexpr uint16_t kLightBits[] = {0x20, 0x02, 0x01, 0x10, 0x08, 0x04};  // from kPanel on
+
+constexpr int32_t kGearHandle = 0x0BE8;
+constexpr double kHandleDown = 16383;
+
+}  // namespace
+
+void cSwitchPanelLogic::RunAction(const ActionRecord& record) {
+    if (record.FSEvent == ActionKind::VButton) {
+        session_.Output.PressForAWhile(record);
+    } else {
+        session_.Output.SendAction(record);
+    }
+}
+
+void cSwitchPanelLogic::SwitchChange(int32_t Switch, bool State) {
+    const ActionRecord& record = SPActions->GetSwitchActions(Switch, State ? 1 : 0);
+    if (record.FSEvent == ActionKind::Offset) {
+        SwitchStandard(Switch, State);
+    } else {
+        RunAction(record);
+    }
+}
+
+void cSwitchPanelLogic::SwitchStandard(int32_t number, bool on) {
+    if (number == kFuelPump) SwitchFuelPumps(on);
+    if (number >= kPanel && number <= kLanding) SwitchLight(number, on);
+    for (const PlainSwitch& each : kPlainSwitches) {
+        if (each.number != number) continue;
+        const bool single = each.single && (*SPActions).*each.single;
+        WriteEngines(each.offsets, each.dataType, on ? each.on : each.off, single);
+    }
+}
+
+void cSwitchPanelLogic::WriteEngines(const EngineOffsets& offsets, int32_t dataType, double value,
+                                     bool single) {
+    if (single) {
+        session_.WriteOffset(offsets[session_.EngineSelected - 1U], dataType, value, false);
+        return;
+    }
+    for (const int32_t offset : offsets) {
+        if (offset != 0) session_.WriteOffset(offset, dataType, value, false);
+    }
+}
+
+void cSwitchPanelLogic::SwitchFuelPumps(bool on) {
+    int32_t pumps = on ? kAllPumps : 0;
+    if (SPActions->SingleFuelPump) {
+        const int32_t engine = 1 << (session_.EngineSelected - 1);
+        const int32_t now = offsets_[kFuelPumps].IntegerData();
+        pumps = on ? now | engine : now & ~engine;
+    }
+    session_.WriteOffset(kFuelPumpOffset, 1, pumps, false);
+}
+
+// The word as it is at this moment: other switches of the same report have changed it just now.
+void cSwitchPanelLogic::SwitchLight(int32_t number, bool on) {
+    if (session_.SpecialMode == kNGXMode) {
+        SwitchLightNGX(number, on);
+        return;
+    }
+    cOFFSET word(session_.Fsuipc, kLightsWord, 2);
+    if (!word.DirectRead(true)) return;
+    const int32_t bit = kLightBits[number - kPanel];
+    const int32_t lights = word.IntegerData();
+    if (((lights & bit) != 0) == on) return;
+    word.SetData(on ? lights | bit : lights & ~bit);
+    word.DirectWrite(false);
+}
+
+void cSwitchPanelLogic::SelectorChange(int32_t NewPosition, int32_t OldPosition) {
+    RunAction(SPActions->GetSwitchActions(OldPosition, 0));
+    const ActionRecord& record = SPActions->GetSwitchActions(NewPosition, 1);
+    if (record.FSEvent == ActionKind::Offset) {
+        WriteEngines(kStarterOffsets, 2, NewPosition - 1, SPActions->SingleStarterSelector);
+    } else {
+        RunAction(record);
+    }
+}
+
+void cSwitchPanelLogic::MoveGear(bool down) {
+    if (session_.SpecialMode == kNGXMode) {
+        MoveGearNGX(down);
+        return;
+    }
+    const ActionRecord& reached = SPActions->GetSwitchActions(down ? kGearDown : kGearUp, 1);
+    switch (reached.FSEvent) {
+        case ActionKind::VButton:
+            HoldGearButton(reached, SPActions->GetSwitchActions(down ? kGearUp : kGearDown, 1));
+            break;
+        case ActionKind::Offset:
+            session_.WriteOffset(kGearHandle, 4, down ? kHandleDown : 0, false);
+            break;
+        default:
+            session_.Output.SendAction(reached);
+            break;
+    }
+}
+
+// The virtual button stands for the lever's position, and the one of the other position goes up. So
+// does the one that the lever held before, if the profile has changed since.
+void cSwitchPanelLogic::HoldGearButton(const ActionRecord& reached, const ActionRecord& left) {
+    const auto before = std::exchange(held_, reached);
+    session_.Output.SetVirtualButton(reached, true, false);
+    if (left.FSEvent == ActionKind::VButton) session_.Output.SetVirtualButton(left, false, false);
+    if (before && *before != reached && *before != left) {
+        session_.Output.SetVirtualButton(*before, false, false);
+    }
+}

@@ -1,0 +1,51 @@
+#include "panels/switch/cSwitchPanelLogic.h"
+
+#include "simlink/GearLeg.h"
+
+namespace {
+
+constexpr uint8_t kFS2004 = 7;
+
+}  // namespace
+
+cSwitchPanelLogic::cSwitchPanelLogic(const LogicServices& services, ctlSwitchPanel& control,
+                                     int16_t index)
+    : Index(index), session_(services.session), profiles_(services.profiles), control_(control) {
+    for (const SwitchPanelOffset& each : kSwitchOffsets) {
+        offsets_.emplace_back(session_.OffsetTable, each.name);
+    }
+}
+
+void cSwitchPanelLogic::StartUp() {
+    SPActions = std::make_unique<cSwitchPanelActionsHolder>(profiles_);
+    SPActions->Index = Index;
+    LoadSetup();
+    RegisterOffsets();
+}
+
+void cSwitchPanelLogic::SetupChanged() { RegisterOffsets(); }
+
+void cSwitchPanelLogic::RegisterOffsets() {
+    for (const SwitchPanelOffset& each : kSwitchOffsets) {
+        session_.OffsetTable.RegisterOffset(each.offset, each.dataType, each.name);
+    }
+}
+
+// FS2004 doesn't tell whether the gear is retractable.
+bool cSwitchPanelLogic::GearShown() const {
+    return session_.GearIsRetractable ||
+           (session_.FSVersion == kFS2004 && SPActions->RetractableGear);
+}
+
+void cSwitchPanelLogic::RefreshData() {
+    std::array<Color, 3> lights{};
+    if (GearShown() && offsets_[kMasterBattery].Data() != 0) {
+        constexpr SwitchValue kLegs[] = {kGearNose, kGearLeft, kGearRight};
+        for (size_t i = 0; i < lights.size(); ++i) {
+            lights[i] = GearLamp(GearLegAt(offsets_[kLegs[i]].IntegerData()));
+        }
+    }
+    if (lights == remembered_) return;
+    control_.ChangeLights(lights[0], lights[1], lights[2]);
+    remembered_ = lights;
+}
