@@ -5,7 +5,7 @@
 set -eu
 cd "$(dirname "$0")/../.."
 
-rooms=(base platform toolkit config simlink ui panels/multi panels/radio panels/switch core app)
+rooms=(base platform toolkit config simlink ui panels/multi panels/radio panels/switch panels/bip core app)
 adapters='platform/win32|platform/virtual|toolkit/win32'
 
 # Sets `room` to the room of a path relative to src/.

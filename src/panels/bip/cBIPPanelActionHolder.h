@@ -1,0 +1,64 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "config/ProfileStore.h"
+#include "panels/bip/BIPPanelReport.h"
+#include "panels/bip/TileCatalogue.h"
+#include "simlink/Numbered.h"
+
+// What one tile is set up to show.
+struct TileRecord {
+    int32_t Function = 0;   // row of TileFunctions
+    int32_t Threshold = 0;  // percent, 0 to 100
+    ::Color Color = LampColor::kOff;
+};
+
+// What one BIP Panel's tiles show in the current profile. Tiles are numbered 0 to 23; other numbers
+// read as a tile without function, and setting them does nothing.
+class cBIPPanelActionHolder {
+  public:
+    explicit cBIPPanelActionHolder(ProfileStore& profiles) : profiles_(profiles) {}
+
+    int16_t Index = 0;  // number of the panel, from 1; names the section
+
+    int32_t GetTileFunction(int16_t Tile) const { return tiles_.Get(Tile).Function; }
+    // With the function's standard colour and threshold. Numbers that are no row are ignored.
+    void SetTileFunction(int16_t Tile, int32_t Function);
+    Color GetColor(int16_t Tile) const { return tiles_.Get(Tile).Color; }
+    void SetColor(int16_t Tile, Color color);
+    int32_t GetThreshold(int16_t Tile) const { return tiles_.Get(Tile).Threshold; }
+    // Held to 0 to 100.
+    void SetThreshold(int16_t Tile, int32_t threshold);
+
+    // What the catalogue says of the tile's function.
+    bool hasThresholdSel(int16_t Tile) const { return FunctionOf(Tile).HasThreshold; }
+    bool hasColorSel(int16_t Tile) const { return FunctionOf(Tile).HasColor; }
+    std::string_view GetName(int16_t Tile) const { return FunctionOf(Tile).Name; }
+    std::string_view GetDescription(int16_t Tile) const { return FunctionOf(Tile).Description; }
+    int32_t GetTilesGroup(int16_t Tile) const { return FunctionOf(Tile).Group; }
+    const TileFunction& FunctionOf(int16_t Tile) const {
+        return TileFunctions[static_cast<size_t>(GetTileFunction(Tile))];
+    }
+
+    void ClearTile(int16_t Tile) { tiles_.Set(Tile, {}); }
+    void ClearAllTiles();
+
+    void LoadDefaults() { ClearAllTiles(); }
+    // Defaults, then what the section of the current profile says; what makes no sense there is
+    // passed over.
+    void LoadSetup();
+    // Writes the tiles that have a function: all or, where the file can't be written, nothing.
+    void SaveSetup();
+
+  private:
+    static TileRecord Parsed(std::string_view text);
+    std::string TileText(int16_t tile) const;
+    bool Write(cInifile& ini) const;
+
+    ProfileStore& profiles_;
+    Numbered<TileRecord, 0, kBIPTiles - 1> tiles_;
+};
