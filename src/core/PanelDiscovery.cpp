@@ -20,11 +20,15 @@ bool ConnectPanel(frmMain& window, const MainServices& services, const PanelIden
         return false;
     }
     if (services.generalSetup.Splash) control.Splash();
+    // Its brightness sequence leaves LEDs of its first row set.
+    if (identity.kind == PanelKind::BIP) control.TurnOff();
     return true;
 }
 
 void StartLogics(frmMain& window, const MainServices& services, PanelKind kind) {
-    for (const auto& unit : window.Panels[kind]) StartLogic(*unit, services.ForLogics());
+    for (const auto& unit : window.Panels[kind]) {
+        StartLogic(*unit, services.ForLogics(), services.windows);
+    }
 }
 
 }  // namespace

@@ -1,10 +1,14 @@
 #include "core/PanelUnit.h"
 
 #include "core/EventForwarding.h"
+#include "panels/bip/cBIPPanelLogic.h"
+#include "panels/bip/ctlBIPPanel.h"
 #include "panels/multi/cMultiPanelLogic.h"
 #include "panels/multi/ctlMultiPanel.h"
 #include "panels/radio/cRadioPanelLogic.h"
 #include "panels/radio/ctlRadioPanel.h"
+#include "panels/switch/cSwitchPanelLogic.h"
+#include "panels/switch/ctlSwitchPanel.h"
 
 namespace {
 
@@ -24,10 +28,10 @@ void MakeControl(PanelUnit& unit, Container& parent, const DeviceServices& servi
     unit.control = std::move(control);
 }
 
-template <class Control, class Logic>
-void MakeLogic(PanelUnit& unit, const LogicServices& services) {
-    unit.logic =
-        std::make_unique<Logic>(services, static_cast<Control&>(*unit.control), unit.number);
+template <class Control, class Logic, class... More>
+void MakeLogic(PanelUnit& unit, const LogicServices& services, More&... more) {
+    unit.logic = std::make_unique<Logic>(services, static_cast<Control&>(*unit.control),
+                                         unit.number, more...);
     unit.logic->StartUp();
 }
 
@@ -47,14 +51,19 @@ std::unique_ptr<PanelUnit> MakePanelUnit(PanelKind kind, int16_t number, Contain
                 *unit, parent, services, session,
                 [](auto& control, auto find) { ForwardMultiEvents(control, find); });
             break;
-        default:
-            unit->control = std::make_unique<cPanelDevice>(parent, services, kind);
+        case PanelKind::Switch:
+            MakeControl<ctlSwitchPanel, cSwitchPanelLogic>(
+                *unit, parent, services, session,
+                [](auto& control, auto find) { ForwardSwitchEvents(control, find); });
+            break;
+        case PanelKind::BIP:
+            unit->control = std::make_unique<ctlBIPPanel>(parent, services);
             break;
     }
     return unit;
 }
 
-void StartLogic(PanelUnit& unit, const LogicServices& services) {
+void StartLogic(PanelUnit& unit, const LogicServices& services, const WindowState& windows) {
     switch (unit.kind) {
         case PanelKind::Radio:
             MakeLogic<ctlRadioPanel, cRadioPanelLogic>(unit, services);
@@ -62,7 +71,11 @@ void StartLogic(PanelUnit& unit, const LogicServices& services) {
         case PanelKind::Multi:
             MakeLogic<ctlMultiPanel, cMultiPanelLogic>(unit, services);
             break;
-        default:
+        case PanelKind::Switch:
+            MakeLogic<ctlSwitchPanel, cSwitchPanelLogic>(unit, services);
+            break;
+        case PanelKind::BIP:
+            MakeLogic<ctlBIPPanel, cBIPPanelLogic>(unit, services, windows);
             break;
     }
 }

@@ -9,6 +9,7 @@
 #include "simlink/cPanelDevice.h"
 #include "simlink/cPanelLogic.h"
 #include "simlink/cSession.h"
+#include "ui/WindowState.h"
 
 // One panel: its device object and its logic, which bear the same number.
 struct PanelUnit {
@@ -23,8 +24,8 @@ struct PanelUnit {
 std::unique_ptr<PanelUnit> MakePanelUnit(PanelKind kind, int16_t number, Container& parent,
                                          const DeviceServices& services, cSession& session);
 
-// Makes the unit's logic, if its kind has one, and starts it.
-void StartLogic(PanelUnit& unit, const LogicServices& services);
+// Makes the unit's logic and starts it.
+void StartLogic(PanelUnit& unit, const LogicServices& services, const WindowState& windows);
 
 // All panels, by kind and number.
 class PanelLists {
