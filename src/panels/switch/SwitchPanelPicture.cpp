@@ -10,6 +10,7 @@ constexpr int32_t kFirstToggle = 2700;
 constexpr int32_t kTogglePitch = 480;
 constexpr int32_t kToggleOn = 300;
 constexpr int32_t kToggleOff = 720;
+constexpr int32_t kToggleHeight = 360;
 constexpr int32_t kGearUpTop = 720;
 constexpr int32_t kGearDownTop = 1380;
 constexpr int32_t kNeedleLength = 720;
@@ -25,7 +26,8 @@ constexpr PanelCaption kCaptions[] = {
     {1890, 1080, 600, 135, "START"},   {9030, 420, 600, 135, "UP"},
     {9030, 1980, 600, 135, "DOWN"},    {9630, 330, 1140, 135, "N"},
     {9630, 1080, 570, 135, "L"},       {10200, 1080, 570, 135, "R"},
-    {8880, 180, 900, 165, "LDG GEAR"},
+    {8880, 180, 900, 165, "LDG GEAR"}, {2310, 390, 360, 135, "ON"},
+    {2310, 810, 360, 135, "OFF"},
 };
 
 // In two lines, as neighbours have no room beside each other.
@@ -57,10 +59,15 @@ void SwitchPanelPicture::PlaceToggles(Picture& panel) {
     int32_t left = kFirstToggle;
     bool upperLine = true;
     for (const char* caption : kToggleCaptions) {
+        Shape& slot = toggleSlots_.emplace_back(&panel);
+        slot.Kind = ShapeKind::RoundedRectangle;
+        slot.FillColor = kWell;
+        slot.BorderColor = kRim;
+        slot.Move(left + 75, kToggleOn + 30, 150, kToggleOff + kToggleHeight - kToggleOn - 60);
         Shape& toggle = shpToggles.emplace_back(&panel);
         toggle.Kind = ShapeKind::RoundedRectangle;
         toggle.FillColor = kPrint;
-        toggle.Move(left, kToggleOff, 300, 360);
+        toggle.Move(left, kToggleOff, 300, kToggleHeight);
         Label& label = toggleCaptions_.emplace_back(&panel);
         label.Caption = caption;
         label.Align = Alignment::Center;

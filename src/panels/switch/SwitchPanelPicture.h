@@ -32,5 +32,6 @@ class SwitchPanelPicture {
     void PlaceToggles(Picture& panel);
     void PlaceGear(Picture& panel);
 
+    std::deque<Shape> toggleSlots_;
     std::deque<Label> toggleCaptions_;
 };
