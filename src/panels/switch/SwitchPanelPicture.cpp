@@ -6,8 +6,8 @@ namespace {
 
 using namespace PanelColor;
 
-constexpr int32_t kFirstToggle = 2700;
-constexpr int32_t kTogglePitch = 480;
+constexpr int32_t kFirstToggle = 2880;
+constexpr int32_t kTogglePitch = 465;
 constexpr int32_t kToggleOn = 300;
 constexpr int32_t kToggleOff = 720;
 constexpr int32_t kToggleHeight = 360;
@@ -26,8 +26,8 @@ constexpr PanelCaption kCaptions[] = {
     {1890, 1080, 600, 135, "START"},   {9030, 420, 600, 135, "UP"},
     {9030, 1980, 600, 135, "DOWN"},    {9630, 330, 1140, 135, "N"},
     {9630, 1080, 570, 135, "L"},       {10200, 1080, 570, 135, "R"},
-    {8880, 180, 900, 165, "LDG GEAR"}, {2310, 390, 360, 135, "ON"},
-    {2310, 810, 360, 135, "OFF"},
+    {8880, 180, 900, 165, "LDG GEAR"}, {2500, 390, 360, 135, "ON"},
+    {2500, 810, 360, 135, "OFF"},
 };
 
 // In two lines, as neighbours have no room beside each other.
