@@ -19,4 +19,11 @@ struct ActionRecord {
     int16_t KeyAscii = 0;                // VKey: character of the key, to show its name
 
     bool operator==(const ActionRecord&) const = default;
+
+    // Whether both press the same virtual button.
+    bool SameButton(const ActionRecord& other) const {
+        return FSEvent == ActionKind::VButton && other.FSEvent == ActionKind::VButton &&
+               VJoystickOrKeyCode == other.VJoystickOrKeyCode &&
+               VButtonOrKeyQualifiers == other.VButtonOrKeyQualifiers;
+    }
 };

@@ -65,8 +65,11 @@ void EventOutput::WriteButton(uint8_t joystick, uint8_t button, bool state, uint
 // Presses go out at once: their time begins.
 void EventOutput::PressForAWhile(const ActionRecord& record) {
     presses_.push_back(record);
-    if (presses_.size() > 1) return;
-    SetVirtualButton(record, true, true);
+    if (presses_.size() == 1) Press();
+}
+
+void EventOutput::Press() {
+    SetVirtualButton(presses_.front(), true, true);
     timerRelease_.SetEnabled(true);
 }
 
@@ -78,11 +81,8 @@ void EventOutput::ReleaseInTime() {
     }
     SetVirtualButton(presses_.front(), false, false);
     presses_.pop_front();
-    if (presses_.empty()) {
-        timerRelease_.SetEnabled(false);
-    } else {
-        SetVirtualButton(presses_.front(), true, true);
-    }
+    timerRelease_.SetEnabled(false);
+    if (!presses_.empty()) Press();
 }
 
 void EventOutput::SendKeyStroke(uint8_t KeyCode, uint8_t KeyQualifiers) {

@@ -57,6 +57,7 @@ class EventOutput {
     // False when there is no use in going on.
     bool SendOnce(const ActionRecord& record);
     bool PressAndRelease(uint8_t joystick, uint8_t button);
+    void Press();
     void ReleaseInTime();
 
     // The second sending of a control.

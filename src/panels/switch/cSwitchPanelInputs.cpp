@@ -138,7 +138,7 @@ void cSwitchPanelLogic::HoldGearButton(const ActionRecord& reached, const Action
     const auto before = std::exchange(held_, reached);
     session_.Output.SetVirtualButton(reached, true, false);
     if (left.FSEvent == ActionKind::VButton) session_.Output.SetVirtualButton(left, false, false);
-    if (before && *before != reached && *before != left) {
+    if (before && !before->SameButton(reached) && !before->SameButton(left)) {
         session_.Output.SetVirtualButton(*before, false, false);
     }
 }
