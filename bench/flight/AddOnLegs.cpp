@@ -1,7 +1,9 @@
 #include "bench/flight/AddOnLegs.h"
 
 #include "bench/driver/Until.h"
+#include "bench/flight/BIPLeg.h"
 #include "bench/flight/RadioLeg.h"
+#include "bench/flight/SwitchLeg.h"
 
 namespace {
 
@@ -15,8 +17,11 @@ void AddOnLegs::WriteProfiles() const {
         "[Aircrafts]\r\nBench Airliner=Airliner\r\nBench Jet=Jet\r\n");
     cockpit_.WriteFile("Default.ini",
                        std::string("[MultiPanel1]\r\nLongButtonActionHDG=VButton,64,3\r\n")
-                           .append(RadioLeg::kBindings));
-    cockpit_.WriteFile("Airliner.ini", "[Common]\r\nSpecialMode=ngx\r\n");
+                           .append(RadioLeg::kBindings)
+                           .append(SwitchLeg::Bindings())
+                           .append(BIPLeg::kTiles));
+    cockpit_.WriteFile("Airliner.ini",
+                       std::string("[Common]\r\nSpecialMode=ngx\r\n").append(BIPLeg::kNGXTiles));
     cockpit_.WriteFile("Jet.ini", "[Common]\r\nSpecialMode=maddog\r\n");
 }
 
@@ -52,14 +57,16 @@ bool AddOnLegs::FlyNGX() const {
         Do(act, "radio1");
     }
     return ExpectControls(
-        "70022:16384 70022:16384 70034:536870912 70035:536870912 69998:536870912 69997:16384");
+               "70022:16384 70022:16384 70034:536870912 70035:536870912 "
+               "69998:536870912 69997:16384") &&
+           SwitchLeg(cockpit_, log_).FlyNGX() && BIPLeg(cockpit_, log_).FlyNGX();
 }
 
 bool AddOnLegs::FlyMaddog() const {
     log_.Say("-- an aircraft with the Maddog profile is loaded");
     if (!ChangeAircraft("Bench Jet", "Jet")) return false;
     Do("selector ALT");
-    if (!ExpectPanel(PanelShows("00000", "0"))) return false;
+    if (!ExpectPanel(PanelShows("00000", "0")) || !ExpectPanel("tiles dark", "bip1")) return false;
     Do("knob +2 60");
     if (!ExpectPanel(PanelShows("00200", "0"))) return false;
     Do("press REV");

@@ -8,6 +8,7 @@
 
 #include "bench/driver/Until.h"
 #include "bench/driver/Windows.h"
+#include "bench/flight/BIPLeg.h"
 #include "bench/flight/ScriptedFlight.h"
 
 namespace {
@@ -15,14 +16,19 @@ namespace {
 bool Stay(Cockpit& cockpit, const FlightLog& log) {
     cockpit.StartSimulator();
     cockpit.StartPanels();
-    cockpit.Panels("add radio");
-    cockpit.Panels("add multi");
+    for (const char* kind : {"radio", "multi", "switch", "bip"}) {
+        cockpit.Panels(std::string("add ") + kind);
+    }
+    cockpit.WriteFile("Default.ini", std::string(BIPLeg::kTiles));
     cockpit.Simulator("batches");
     cockpit.StartOrvo();
     log.Say("Orvo is up; a double click on its icon in the task bar opens the window.");
     log.Say("Type 'panel knob multi1 +1', 'panel selector multi1 HDG', 'panel show multi1',");
     log.Say("'panel upper-inner radio1 +1', 'panel press radio1 upper', 'panel show radio1',");
-    log.Say("'sim get 0x07CC 2', 'sim title NAME' and the like; 'end' or Ctrl-C ends it all.");
+    log.Say("'panel bat switch1 on', 'panel gear switch1 up', 'panel show switch1',");
+    log.Say(
+        "'panel show bip1', 'sim set 0x3366 1 1', 'sim get 0x07CC 2', 'sim title NAME' and the");
+    log.Say("like; 'end' or Ctrl-C ends it all.");
     for (std::string line; std::getline(std::cin, line) && line != "end";) {
         if (line.starts_with("sim ")) {
             log.Say(cockpit.Simulator(line.substr(4)));

@@ -7,7 +7,6 @@
 
 namespace {
 
-constexpr uint32_t kPatienceMs = 10000;
 constexpr size_t kPlaces = 5;
 // A hand takes as long to turn back. Sooner, the panel's reports still count for the old direction.
 constexpr DWORD kHandPauseMs = 300;
@@ -30,6 +29,10 @@ std::string PanelShows(const std::string& upper, const std::string& lower,
     return "upper " + Row(upper) + " lower " + Row(lower) + " lights " + lights;
 }
 
+std::string GearShows(const std::string& color) {
+    return "gear nose " + color + " left " + color + " right " + color;
+}
+
 std::string RadioShows(const RadioRow& upper, const RadioRow& lower) {
     return "upper " + Row(upper) + " lower " + Row(lower);
 }
@@ -45,8 +48,9 @@ bool FlightChecks::ExpectPanel(const std::string& shown, const std::string& pane
     return log_.Check(panel + ": " + shown, well, well ? "" : cockpit_.Panels("show " + panel));
 }
 
-bool FlightChecks::ExpectStatus(size_t panel, const std::string& text) const {
-    const bool well = cockpit_.StatusBecomes(panel, text, kPatienceMs);
+bool FlightChecks::ExpectStatus(size_t panel, const std::string& text,
+                                uint32_t milliseconds) const {
+    const bool well = cockpit_.StatusBecomes(panel, text, milliseconds);
     std::string found = "there is no status bar";
     if (const auto texts = cockpit_.Status(); texts.size() > panel) found = texts[panel];
     return log_.Check("status bar: " + text, well, found);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -16,7 +17,8 @@ class FlightChecks {
     void Do(const std::string& act, const std::string& panel = "multi1") const;
     // What the panel shows, as it tells it itself.
     bool ExpectPanel(const std::string& shown, const std::string& panel = "multi1") const;
-    bool ExpectStatus(size_t panel, const std::string& text) const;
+    bool ExpectStatus(size_t panel, const std::string& text,
+                      uint32_t milliseconds = kPatienceMs) const;
     // The profile that the window says is in use.
     bool ExpectProfile(const std::string& name) const;
     // What has reached the simulator since it was asked last: writes ("07CC:E438 ...") of these
@@ -27,6 +29,8 @@ class FlightChecks {
     bool ChangeAircraft(const std::string& title, const std::string& profile) const;
 
   protected:
+    static constexpr uint32_t kPatienceMs = 10000;
+
     Cockpit& cockpit_;
     const FlightLog log_;
 
@@ -37,6 +41,11 @@ class FlightChecks {
 // How the rows of a Multi Panel are told: right-aligned in their five places.
 std::string PanelShows(const std::string& upper, const std::string& lower,
                        const std::string& lights = "none");
+
+inline constexpr char kMultiDark[] = "upper dark lower dark lights none";
+
+// How the lights of a Switch Panel are told, all three of one colour.
+std::string GearShows(const std::string& color);
 
 // A row of a Radio Panel, and how two are told: each text right-aligned, an empty one is dark.
 struct RadioRow {

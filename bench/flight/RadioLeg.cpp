@@ -36,7 +36,7 @@ bool RadioLeg::TuneAndSwap() const {
                                       {"press lower", kCom1, kNav1}}) &&
                       ExpectWrites({"311E", "3123"}, "311E:3512 311E:4012 311E:4013 3123:02") &&
                       ExpectPanel(RadioShows(kCom1, kCom1), "radio2");
-    if (well) log_.Shot("4-radio-com-nav");
+    if (well) log_.Shot("04-radio-com-nav");
     return well;
 }
 
@@ -98,7 +98,7 @@ bool RadioLeg::SetAltimeter() const {
         Take("radio1", {{"press upper 800", {"29.97", "2.345"}, kAdf},
                         {"upper-outer -4 60", kTransponder, kAdf}}) &&
         ExpectWrites({"0330"}, "0330:603F 0330:703F 0330:6C3F 0330:683F 0330:643F 0330:603F");
-    if (well) log_.Shot("5-radio-adf-xpdr");
+    if (well) log_.Shot("05-radio-adf-xpdr");
     return well;
 }
 

@@ -1,31 +1,37 @@
 #include "bench/flight/ScriptedFlight.h"
 
 #include "bench/driver/Until.h"
+#include "bench/flight/BIPLeg.h"
 #include "bench/flight/RadioLeg.h"
 #include "bench/flight/StandardLeg.h"
+#include "bench/flight/SwitchLeg.h"
 
 namespace {
 
 // Inside the frame of the upper display, in pixels of the panel's picture.
 constexpr RECT kUpperDisplay = {204, 20, 376, 64};
-constexpr uint32_t kPatienceMs = 10000;
+constexpr uint32_t kLightShowsMs = 40000;  // one after the other
 constexpr int kGeneralTab = 0;
 constexpr int kRadioTab = 1;
 constexpr int kMultiTab = 3;
+constexpr int kSwitchTab = 5;
+constexpr int kBIPTab = 7;
 
 }  // namespace
 
 bool ScriptedFlight::Fly() {
     return Start() && FindSimulator() && OpenWindow() && FlyStandard() && FlyRadios() &&
-           FlyAddOns() && LoseSimulator() && FindSimulatorAgain() && Quit();
+           FlySwitches() && FlyTiles() && FlyAddOns() && LoseSimulator() && FindSimulatorAgain() &&
+           Quit();
 }
 
 bool ScriptedFlight::Start() {
-    log_.Say("-- the simulator, two Radio Panels, a Multi Panel and Orvo are started");
+    log_.Say("-- the simulator, two panels of each of the four kinds and Orvo are started");
     AddOnLegs(cockpit_, log_).WriteProfiles();
     cockpit_.StartSimulator();
     cockpit_.StartPanels();
-    for (const std::string name : {"radio1", "radio2", "multi1"}) {
+    for (const std::string name :
+         {"radio1", "radio2", "multi1", "multi2", "switch1", "switch2", "bip1", "bip2"}) {
         const std::string added = cockpit_.Panels("add " + name.substr(0, name.size() - 1));
         if (!log_.Check(name + " is plugged in", added == name, added)) return false;
     }
@@ -40,11 +46,14 @@ bool ScriptedFlight::Start() {
 
 bool ScriptedFlight::FindSimulator() {
     log_.Say("-- Orvo finds the simulator");
-    return ExpectStatus(0, "FSUIPC Status: Connected") &&
+    return ExpectStatus(0, "FSUIPC Status: Connected", kLightShowsMs) &&
            ExpectStatus(1, "FSUIPC Version: 3.9990") &&
            ExpectStatus(2, "Flight Simulator Version: FSX") &&
            ExpectStatus(3, "Aircraft in use: Bench Trainer") &&
-           ExpectPanel(PanelShows("05000", "0")) && RadioLeg(cockpit_, log_).ExpectStart();
+           ExpectPanel(PanelShows("05000", "0")) &&
+           ExpectPanel(PanelShows("05000", "0"), "multi2") &&
+           RadioLeg(cockpit_, log_).ExpectStart() &&
+           SwitchLeg(cockpit_, log_).ExpectLights("green") && BIPLeg(cockpit_, log_).ExpectStart();
 }
 
 bool ScriptedFlight::OpenWindow() {
@@ -57,7 +66,7 @@ bool ScriptedFlight::OpenWindow() {
         return false;
     }
     if (!ExpectProfile("Default")) return false;
-    log_.Shot("1-general");
+    log_.Shot("01-general");
     return SelectTab(kMultiTab);
 }
 
@@ -79,28 +88,36 @@ HWND ScriptedFlight::PageButton() const {
 
 bool ScriptedFlight::ExpectDark() const {
     return ExpectPanel(RadioShows({}, {}), "radio1") && ExpectPanel(RadioShows({}, {}), "radio2") &&
-           ExpectPanel("upper dark lower dark lights none");
+           ExpectPanel(kMultiDark) && ExpectPanel(kMultiDark, "multi2") &&
+           SwitchLeg(cockpit_, log_).ExpectLights("off");
 }
 
 bool ScriptedFlight::FlyStandard() {
     Do("selector HDG");
     if (!ExpectPanel(PanelShows("080", ""))) return false;
-    log_.Shot("2-heading-080");
+    log_.Shot("02-heading-080");
     display080_ = UpperDisplay();
     if (!StandardLeg(cockpit_, log_).Fly()) return false;
-    log_.Shot("3-standard");
+    log_.Shot("03-standard");
     const bool redrawn =
         display080_ != 0 && Until(kPatienceMs, [&] { return UpperDisplay() != display080_; });
     return log_.Check("the display on the screen shows another number", redrawn);
 }
 
-bool ScriptedFlight::FlyRadios() {
-    return SelectTab(kRadioTab) && RadioLeg(cockpit_, log_).Fly() && SelectTab(kMultiTab);
+bool ScriptedFlight::FlyRadios() { return SelectTab(kRadioTab) && RadioLeg(cockpit_, log_).Fly(); }
+
+bool ScriptedFlight::FlySwitches() {
+    return SelectTab(kSwitchTab) && SwitchLeg(cockpit_, log_).Fly();
 }
 
+bool ScriptedFlight::FlyTiles() { return SelectTab(kBIPTab) && BIPLeg(cockpit_, log_).Fly(); }
+
 bool ScriptedFlight::FlyAddOns() {
-    if (!AddOnLegs(cockpit_, log_).Fly()) return false;
-    log_.Shot("6-back-to-default");
+    const std::string tiles = cockpit_.Panels("show bip1");
+    if (!AddOnLegs(cockpit_, log_).Fly() || !ExpectPanel(tiles, "bip1") || !SelectTab(kMultiTab)) {
+        return false;
+    }
+    log_.Shot("09-back-to-default");
     return true;
 }
 
@@ -118,14 +135,15 @@ uint64_t ScriptedFlight::UpperDisplay() const {
 }
 
 bool ScriptedFlight::LoseSimulator() {
-    log_.Say("-- the simulator is killed");
+    log_.Say("-- the simulator is killed; the BIP Panels alone keep what they show");
+    const std::string tiles = cockpit_.Panels("show bip1");
     cockpit_.KillSimulator();
     if (!ExpectStatus(0, "FSUIPC Status: Disconnected") || !ExpectStatus(1, "FSUIPC Version:") ||
         !ExpectStatus(2, "Flight Simulator Version:") || !ExpectStatus(3, "Aircraft in use:") ||
-        !ExpectDark()) {
+        !ExpectDark() || !ExpectPanel(tiles, "bip1")) {
         return false;
     }
-    log_.Shot("7-disconnected");
+    log_.Shot("10-disconnected");
     return log_.Check("the icon has changed",
                       Until(kPatienceMs, [this] { return PictureOfTrayIcon() != connectedIcon_; }));
 }
@@ -135,25 +153,30 @@ bool ScriptedFlight::FindSimulatorAgain() {
     cockpit_.StartSimulator();
     if (!ExpectStatus(0, "FSUIPC Status: Connected") ||
         !ExpectStatus(3, "Aircraft in use: Bench Trainer") || !ExpectPanel(PanelShows("080", "")) ||
-        !RadioLeg(cockpit_, log_).ExpectStart()) {
+        !RadioLeg(cockpit_, log_).ExpectStart() || !BIPLeg(cockpit_, log_).ExpectStart()) {
         return false;
     }
-    log_.Shot("8-connected-again");
+    log_.Shot("11-connected-again");
     if (!log_.Check("the display on the screen shows the first number again",
                     Until(kPatienceMs, [this] { return UpperDisplay() == display080_; }))) {
         return false;
     }
-    return log_.Check("the icon is back",
+    log_.Say("-- the gear lights come back with their next change");
+    const SwitchLeg switches(cockpit_, log_);
+    if (!switches.ExpectLights("off")) return false;
+    Do("gear up", "switch2");
+    return switches.ExpectLights("red") &&
+           log_.Check("the icon is back",
                       Until(kPatienceMs, [this] { return PictureOfTrayIcon() == connectedIcon_; }));
 }
 
 bool ScriptedFlight::Quit() {
     log_.Say("-- the user quits");
     if (!SelectTab(kGeneralTab)) return false;
-    log_.Shot("9-general");
+    log_.Shot("12-general");
     if (!log_.Check("Quit and OK end the program", cockpit_.QuitByUser())) return false;
     const auto code = cockpit_.Orvo().WaitForEnd(0);
     return log_.Check("it has ended in order", code == 0u,
                       code ? "exit code " + std::to_string(*code) : "it runs on") &&
-           ExpectDark();
+           ExpectDark() && ExpectPanel("tiles dark", "bip1") && ExpectPanel("tiles dark", "bip2");
 }

@@ -6,8 +6,8 @@
 #include "bench/flight/AddOnLegs.h"
 #include "bench/flight/FlightChecks.h"
 
-// The flight that proves the road from the panels to the simulator and back, in each mode of the
-// Multi Panel, and what comes before and after.
+// The flight that proves the road from the panels to the simulator and back, in each special mode
+// and with two panels of each kind, and what comes before and after.
 class ScriptedFlight : private FlightChecks {
   public:
     using FlightChecks::FlightChecks;
@@ -21,6 +21,8 @@ class ScriptedFlight : private FlightChecks {
     bool OpenWindow();
     bool FlyStandard();
     bool FlyRadios();
+    bool FlySwitches();
+    bool FlyTiles();
     bool FlyAddOns();
     bool LoseSimulator();
     bool FindSimulatorAgain();
@@ -30,6 +32,7 @@ class ScriptedFlight : private FlightChecks {
     bool SelectTab(int tab) const;
     // The button of the page that is open, which tells it from the others.
     HWND PageButton() const;
+    // All but the BIP Panels.
     bool ExpectDark() const;
     // Picture of the Multi Panel's upper display in the window, once it has come to rest.
     uint64_t UpperDisplay() const;

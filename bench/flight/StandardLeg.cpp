@@ -24,6 +24,18 @@ bool StandardLeg::TurnAllPositions() const {
     return true;
 }
 
+bool StandardLeg::UseSecondPanel() const {
+    log_.Say("-- the second Multi Panel stands elsewhere, and turns the same aircraft");
+    Do("selector HDG", "multi2");
+    if (!ExpectPanel(PanelShows("083", ""), "multi2")) return false;
+    Do("knob +2 60", "multi2");
+    if (!ExpectPanel(PanelShows("085", ""), "multi2") || !ExpectPanel(PanelShows("089", ""))) {
+        return false;
+    }
+    Do("knob -2 60", "multi2");
+    return ExpectPanel(PanelShows("083", ""), "multi2");
+}
+
 bool StandardLeg::PressButtons() const {
     log_.Say("-- a click turns heading hold on; a long one presses the button of the profile");
     Do("press HDG");

@@ -4,8 +4,10 @@
 #include <string>
 
 #include "config/IniKey.h"
+#include "panels/bip/cBIPPanelActionHolder.h"
 #include "panels/multi/cMultiPanelActionsHolder.h"
 #include "panels/radio/cRadioPanelActionsHolder.h"
+#include "panels/switch/cSwitchPanelActionsHolder.h"
 #include "platform/virtual/VirtualPlatform.h"
 
 namespace {
@@ -55,9 +57,24 @@ void CheckLists(const std::string& text) {
     }
 }
 
+// What can't be selected can't be loaded.
+void CheckTiles(const cBIPPanelActionHolder& loaded, const cBIPPanelActionHolder& again) {
+    for (int16_t tile = 0; tile < kBIPTiles; ++tile) {
+        const int32_t function = loaded.GetTileFunction(tile);
+        Require(function == 0 || !loaded.GetName(tile).empty());
+        Require(loaded.hasColorSel(tile) == (loaded.GetColor(tile) != LampColor::kOff));
+        Require(loaded.GetThreshold(tile) >= 0 && loaded.GetThreshold(tile) <= 100);
+        Require(loaded.hasThresholdSel(tile) || loaded.GetThreshold(tile) == 0);
+        Require(again.GetTileFunction(tile) == function);
+        Require(again.GetColor(tile) == loaded.GetColor(tile));
+        Require(again.GetThreshold(tile) == loaded.GetThreshold(tile));
+    }
+}
+
 // Two holders say the same when they make the same file.
 template <class Holder>
-void CheckBindings(const std::string& section, const std::string& text) {
+void CheckBindings(const std::string& section, const std::string& text,
+                   void (*check)(const Holder& loaded, const Holder& again) = nullptr) {
     VirtualPlatform machine;
     machine.files.Put("C:\\Orvo\\Default.ini", section + text);
     ProfileStore profiles(machine.ini, machine.files, "C:\\Orvo");
@@ -66,6 +83,7 @@ void CheckBindings(const std::string& section, const std::string& text) {
     holder.LoadSetup();
     holder.SaveSetup();
     again.LoadSetup();
+    if (check) check(holder, again);
     profiles.CurrentProfile = "Loaded";
     holder.SaveSetup();
     profiles.CurrentProfile = "Again";
@@ -83,5 +101,12 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     if (size > kLongestBindings) return 0;
     CheckBindings<cMultiPanelActionsHolder>("[MultiPanel1]\n", text);
     CheckBindings<cRadioPanelActionsHolder>("[RadioPanel1]\n", text);
+    CheckBindings<cSwitchPanelActionsHolder>("[SwitchPanel1]\n", text);
+    // Else hardly a tile would have a function.
+    const std::string function =
+        size < 2 ? "T0="
+                 : "T" + std::to_string(data[0] % 32) + "=" +
+                       std::string(TileFunctions[data[1] % kTileFunctions].Key.Text());
+    CheckBindings<cBIPPanelActionHolder>("[BIPPanel1]\n" + function, text, CheckTiles);
     return 0;
 }

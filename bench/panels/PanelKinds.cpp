@@ -7,15 +7,17 @@
 namespace {
 
 constexpr PanelKind kKinds[] = {
-    {"radio", 0x0D05, 23, 0x810000},
-    {"multi", 0x0D06, 13, 0x010000},
-    {"switch", 0x0D67, 2, 0},
-    {"bip", 0x0B4E, 7, 0},
+    {"radio", 0x0D05, 23, 0x810000, 0},
+    {"multi", 0x0D06, 13, 0x010000, 0},
+    {"switch", 0x0D67, 2, 0x002008, 0},
+    {"bip", 0x0B4E, 7, 0, 0xB8},
 };
 
 constexpr uint32_t kSelector = 0x1F0000;
 constexpr uint32_t kUpper = 0x7F0000;
 constexpr uint32_t kLower = 0x803F00;
+constexpr uint32_t kEngines = 0x00E003;
+constexpr uint32_t kGear = 0x00000C;
 
 constexpr PanelControl kControls[] = {
     {"multi", "selector", PanelAct::Set, "ALT", 0x010000, kSelector},
@@ -64,6 +66,40 @@ constexpr PanelControl kControls[] = {
     {"radio", "lower-inner", PanelAct::Turn, "-", 0x000020, 0x000020},
     {"radio", "lower-outer", PanelAct::Turn, "+", 0x000040, 0x000040},
     {"radio", "lower-outer", PanelAct::Turn, "-", 0x000080, 0x000080},
+    {"switch", "selector", PanelAct::Set, "OFF", 0x002000, kEngines},
+    {"switch", "selector", PanelAct::Set, "R", 0x004000, kEngines},
+    {"switch", "selector", PanelAct::Set, "L", 0x008000, kEngines},
+    {"switch", "selector", PanelAct::Set, "BOTH", 0x000001, kEngines},
+    {"switch", "selector", PanelAct::Set, "START", 0x000002, kEngines},
+    {"switch", "bat", PanelAct::Set, "on", 0x010000, 0x010000},
+    {"switch", "bat", PanelAct::Set, "off", 0, 0x010000},
+    {"switch", "alt", PanelAct::Set, "on", 0x020000, 0x020000},
+    {"switch", "alt", PanelAct::Set, "off", 0, 0x020000},
+    {"switch", "avionics", PanelAct::Set, "on", 0x040000, 0x040000},
+    {"switch", "avionics", PanelAct::Set, "off", 0, 0x040000},
+    {"switch", "fuelpump", PanelAct::Set, "on", 0x080000, 0x080000},
+    {"switch", "fuelpump", PanelAct::Set, "off", 0, 0x080000},
+    {"switch", "deice", PanelAct::Set, "on", 0x100000, 0x100000},
+    {"switch", "deice", PanelAct::Set, "off", 0, 0x100000},
+    {"switch", "pitot", PanelAct::Set, "on", 0x200000, 0x200000},
+    {"switch", "pitot", PanelAct::Set, "off", 0, 0x200000},
+    {"switch", "cowl", PanelAct::Set, "on", 0x400000, 0x400000},
+    {"switch", "cowl", PanelAct::Set, "off", 0, 0x400000},
+    {"switch", "panel", PanelAct::Set, "on", 0x800000, 0x800000},
+    {"switch", "panel", PanelAct::Set, "off", 0, 0x800000},
+    {"switch", "beacon", PanelAct::Set, "on", 0x000100, 0x000100},
+    {"switch", "beacon", PanelAct::Set, "off", 0, 0x000100},
+    {"switch", "nav", PanelAct::Set, "on", 0x000200, 0x000200},
+    {"switch", "nav", PanelAct::Set, "off", 0, 0x000200},
+    {"switch", "strobe", PanelAct::Set, "on", 0x000400, 0x000400},
+    {"switch", "strobe", PanelAct::Set, "off", 0, 0x000400},
+    {"switch", "taxi", PanelAct::Set, "on", 0x000800, 0x000800},
+    {"switch", "taxi", PanelAct::Set, "off", 0, 0x000800},
+    {"switch", "landing", PanelAct::Set, "on", 0x001000, 0x001000},
+    {"switch", "landing", PanelAct::Set, "off", 0, 0x001000},
+    {"switch", "gear", PanelAct::Set, "up", 0x000004, kGear},
+    {"switch", "gear", PanelAct::Set, "down", 0x000008, kGear},
+    {"switch", "gear", PanelAct::Set, "between", 0, kGear},
 };
 
 }  // namespace

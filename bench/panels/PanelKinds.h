@@ -11,6 +11,7 @@ struct PanelKind {
     uint16_t productId;
     uint8_t featureSize;  // bytes that reading the positions gives
     uint32_t startState;
+    uint8_t shownReport;  // id of the feature reports that can be seen on it
 };
 
 inline constexpr uint16_t kPanelVendor = 0x06A3;

@@ -11,6 +11,8 @@ namespace {
 
 constexpr std::string_view kMultiLights[] = {"AP", "HDG", "NAV", "IAS", "ALT", "VS", "APR", "REV"};
 constexpr size_t kRow = 5;
+constexpr size_t kTiles = 24;
+constexpr size_t kTilesInRow = 8;
 
 // What one place of a row shows. A code that the panel doesn't have is a question mark.
 std::string MultiPlace(uint8_t code) {
@@ -52,6 +54,31 @@ std::string DescribeRadio(std::string_view report) {
     return "upper " + row(0) + ' ' + row(1) + " lower " + row(2) + ' ' + row(3);
 }
 
+// A lamp with a green and a red LED.
+std::string LampWord(bool green, bool red) {
+    if (green) return red ? "yellow" : "green";
+    return red ? "red" : "off";
+}
+
+std::string DescribeSwitch(std::string_view report) {
+    const auto lamp = [&](int bit) {
+        return LampWord((report[1] >> bit & 1) != 0, (report[1] >> (bit + 3) & 1) != 0);
+    };
+    return "gear nose " + lamp(0) + " left " + lamp(1) + " right " + lamp(2);
+}
+
+std::string DescribeBIP(std::string_view report) {
+    std::string text;
+    for (size_t tile = 0; tile < kTiles; ++tile) {
+        const size_t row = tile / kTilesInRow;
+        const size_t bit = tile % kTilesInRow;
+        const std::string lamp =
+            LampWord((report[1 + row] >> bit & 1) != 0, (report[4 + row] >> bit & 1) != 0);
+        if (lamp != "off") text += ' ' + std::to_string(tile) + ' ' + lamp;
+    }
+    return text.empty() ? "tiles dark" : "tiles" + text;
+}
+
 constexpr struct {
     std::string_view kind;
     size_t size;
@@ -59,6 +86,8 @@ constexpr struct {
 } kWords[] = {
     {"radio", 23, DescribeRadio},
     {"multi", 13, DescribeMulti},
+    {"switch", 2, DescribeSwitch},
+    {"bip", 7, DescribeBIP},
 };
 
 }  // namespace

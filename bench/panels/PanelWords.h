@@ -4,5 +4,5 @@
 #include <string_view>
 
 // What a person sees on a panel of this kind after a feature report, in words; the report in
-// hexadecimal for a kind that has none.
+// hexadecimal for a size that this kind doesn't have.
 std::string DescribeFeature(std::string_view kind, const std::string& report);

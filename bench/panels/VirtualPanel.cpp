@@ -36,9 +36,9 @@ std::vector<uint8_t> VirtualPanel::Positions() const {
 
 void VirtualPanel::TakeFeature(std::span<const uint8_t> report) {
     const std::lock_guard hold(lock_);
-    last_.assign(report.begin(), report.end());
     if (features_.size() == kLogLimit) features_.pop_front();
-    features_.push_back(last_);
+    features_.emplace_back(report.begin(), report.end());
+    if (!report.empty() && report[0] == kind_.shownReport) shown_ = features_.back();
 }
 
 std::vector<std::string> VirtualPanel::TakeFeatures() {
@@ -49,5 +49,5 @@ std::vector<std::string> VirtualPanel::TakeFeatures() {
 
 std::string VirtualPanel::Show() const {
     const std::lock_guard hold(lock_);
-    return last_.empty() ? "untouched" : DescribeFeature(kind_.name, last_);
+    return shown_.empty() ? "untouched" : DescribeFeature(kind_.name, shown_);
 }

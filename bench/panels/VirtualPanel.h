@@ -32,7 +32,7 @@ class VirtualPanel {
     void TakeFeature(std::span<const uint8_t> report);
     // All since the last call, the latest 10,000.
     std::vector<std::string> TakeFeatures();
-    // What a person sees; "untouched" before the first feature report.
+    // What a person sees; "untouched" before the first feature report that shows anything.
     std::string Show() const;
 
   private:
@@ -41,5 +41,5 @@ class VirtualPanel {
     mutable std::mutex lock_;
     uint32_t state_;
     std::deque<std::string> features_;
-    std::string last_;
+    std::string shown_;  // the latest of them that can be seen
 };

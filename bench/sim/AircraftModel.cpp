@@ -32,11 +32,20 @@ constexpr Radio kRadios[] = {
     {1, 0x0352, 0x3120},  // NAV2
 };
 
-// What the radios begin with; frequencies and codes have four BCD digits.
+// A switch of the cockpit, and the power that follows it.
+constexpr struct {
+    uint32_t offset;
+    uint32_t power;
+} kMasters[] = {
+    {0x3102, 0x281C},  // battery
+    {0x3103, 0x2E80},  // avionics
+};
+
+// What the aircraft begins with; frequencies and codes have four BCD digits.
 constexpr struct {
     uint32_t offset;
     uint16_t value;
-} kRadioStart[] = {
+} kStart[] = {
     {0x034E, 0x1810}, {0x311A, 0x1952},  // COM1 118.10, 119.525
     {0x3118, 0x2150}, {0x311C, 0x2345},  // COM2 121.50, 123.45
     {0x0350, 0x1050}, {0x311E, 0x1230},  // NAV1 110.50, 112.30
@@ -48,6 +57,12 @@ constexpr struct {
     {0x0306, 1234},   {0x0308, 1250},    // DME2 123.4 miles, 125.0 knots,
     {0x030A, 35539},                     // 3553.9 seconds
     {0x0330, 16212},  {0x0354, 0x1200},  // 1013.25 hPa, code 1200
+    {0x060C, 1},                         // gear that can be retracted
+    {0x08B8, 9360},   {0x08BA, 15000},   // oil of engine 1 at 80 degrees and 50 psi
+    {0x08F8, 1500},                      // fuel at 10 psi
+    {0x0B76, 0x40},   {0x0B7E, 0x40},    // tanks half full: centre, left
+    {0x0B96, 0x40},                      // right
+    {0x1240, 60000},  {0x1264, 30000},   // fuel capacity and quantity
 };
 
 template <class T>
@@ -71,8 +86,10 @@ AircraftModel::AircraftModel(OffsetServer& space)
           [this](uint32_t offset, std::span<const uint8_t> bytes) { TakeWrite(offset, bytes); })) {
     space_.SetVersion(0x39990005, 8);
     SetTitle("Bench Trainer");
-    space_.Set<int32_t>(0x281C, 1);  // battery
-    space_.Set<int32_t>(0x2E80, 1);  // avionics
+    for (const auto& master : kMasters) {
+        space_.Set<uint8_t>(master.offset, 1);
+        space_.Set<int32_t>(master.power, 1);
+    }
     space_.Set<uint16_t>(0x07CC, RoundTo<uint16_t>(80 * 65536.0 / 360));
     space_.Set<int32_t>(0x07D4, RoundTo<int32_t>(5000 / 3.28084 * 65536));
     space_.Set<int16_t>(0x07E2, 120);
@@ -81,7 +98,8 @@ AircraftModel::AircraftModel(OffsetServer& space)
     space_.Set<uint16_t>(0x0C5E, 270);
     space_.Set<int32_t>(kGearHandle, kGearDown);
     gear_ = kGearDown;
-    for (const auto& start : kRadioStart) space_.Set<uint16_t>(start.offset, start.value);
+    space_.Set<double>(0x0B18, 5);  // suction
+    for (const auto& start : kStart) space_.Set<uint16_t>(start.offset, start.value);
     MoveTo(0);
 }
 
@@ -111,6 +129,11 @@ void AircraftModel::TakeWrite(uint32_t offset, std::span<const uint8_t> bytes) {
     if (offset == kControl && bytes.size() == kControlSize) {
         Append(controls_, {static_cast<int32_t>(LoadLE32(&bytes[0])),
                            static_cast<int32_t>(LoadLE32(&bytes[4]))});
+    }
+    for (const auto& master : kMasters) {
+        if (offset == master.offset) {
+            space_.Set<int32_t>(master.power, space_.Get<uint8_t>(offset));
+        }
     }
     if (offset <= kRadioSwap && offset + bytes.size() > kRadioSwap) SwapRadios();
 }

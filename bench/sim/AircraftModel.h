@@ -9,8 +9,8 @@
 
 #include "platform/virtual/OffsetServer.h"
 
-// A small aircraft behind the offsets: what is written stays, the gear travels, radios swap, and
-// what the client wrote is kept in a log.
+// A small aircraft behind the offsets: what is written stays, the gear travels, radios swap, power
+// follows its switches, and what the client wrote is kept in a log.
 class AircraftModel {
   public:
     struct Write {

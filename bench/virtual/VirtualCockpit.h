@@ -4,10 +4,14 @@
 #include <string>
 
 #include "core/modMain.h"
+#include "panels/bip/cBIPPanelLogic.h"
+#include "panels/bip/ctlBIPPanel.h"
 #include "panels/multi/cMultiPanelLogic.h"
 #include "panels/multi/ctlMultiPanel.h"
 #include "panels/radio/cRadioPanelLogic.h"
 #include "panels/radio/ctlRadioPanel.h"
+#include "panels/switch/cSwitchPanelLogic.h"
+#include "panels/switch/ctlSwitchPanel.h"
 #include "platform/virtual/VirtualPlatform.h"
 #include "toolkit/HeadlessUi.h"
 
@@ -81,6 +85,18 @@ struct VirtualCockpit {
     }
     cRadioPanelLogic& RadioLogic(int number = 1) {
         return static_cast<cRadioPanelLogic&>(*Unit(PanelKind::Radio, number).logic);
+    }
+    ctlSwitchPanel& Switch(int number = 1) {
+        return static_cast<ctlSwitchPanel&>(*Unit(PanelKind::Switch, number).control);
+    }
+    cSwitchPanelLogic& SwitchLogic(int number = 1) {
+        return static_cast<cSwitchPanelLogic&>(*Unit(PanelKind::Switch, number).logic);
+    }
+    ctlBIPPanel& BIP(int number = 1) {
+        return static_cast<ctlBIPPanel&>(*Unit(PanelKind::BIP, number).control);
+    }
+    cBIPPanelLogic& BIPLogic(int number = 1) {
+        return static_cast<cBIPPanelLogic&>(*Unit(PanelKind::BIP, number).logic);
     }
     // The rows of the picture: "upper|lower".
     std::string Shown(int number = 1) {

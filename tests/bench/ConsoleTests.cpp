@@ -4,6 +4,7 @@
 
 #include "bench/console/Command.h"
 #include "bench/panels/PanelWords.h"
+#include "bench/panels/VirtualPanel.h"
 #include "bench/sim/SimConsole.h"
 
 namespace {
@@ -27,6 +28,20 @@ TEST(ConsoleTest, TellsADisplayOfTheRadioPanelInItsFivePlaces) {
     report += std::string(7, '\xFF');
     EXPECT_EQ(DescribeFeature("radio", report),
               R"(upper "118.10" "   . . ." lower "???.29." dark)");
+}
+
+TEST(ConsoleTest, TellsLampsOfTwoColorsBehindReportsThatShowNothing) {
+    EXPECT_EQ(DescribeFeature("switch", {"\0\x2B", 2}), "gear nose yellow left green right red");
+    VirtualPanel panel(*FindPanelKind("bip"), 1);
+    const auto show = [&](std::initializer_list<uint8_t> report) {
+        panel.TakeFeature({report.begin(), report.size()});
+        return panel.Show();
+    };
+    EXPECT_EQ(show({0xB2, 0x01, 0, 0, 0, 0, 0}), "untouched");
+    constexpr char kTiles[] = "tiles 0 green 9 red 23 yellow";
+    EXPECT_EQ(show({0xB8, 0x01, 0, 0x80, 0, 0x02, 0x80}), kTiles);
+    EXPECT_EQ(show({0xB2, 0x64}), kTiles);
+    EXPECT_EQ(show({0xB8, 0, 0, 0, 0, 0, 0}), "tiles dark");
 }
 
 }  // namespace

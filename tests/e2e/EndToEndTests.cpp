@@ -23,7 +23,6 @@ constexpr uint32_t kSoonMs = 10000;
 constexpr uint32_t kAfterSilenceMs = 40000;
 constexpr char kConnected[] = "FSUIPC Status: Connected";
 constexpr char kDisconnected[] = "FSUIPC Status: Disconnected";
-constexpr char kDark[] = "upper dark lower dark lights none";
 
 class EndToEnd : public testing::Test {
   protected:
@@ -157,6 +156,43 @@ TEST_F(EndToEnd, TheRadioPanelTunesAndSwapsAndDoesWhatTheProfileSays) {
     ExpectQuits();
 }
 
+TEST_F(EndToEnd, SwitchesMoveTheAircraftAndTilesTellOfIt) {
+    cockpit_->WriteIni("[GeneralSetup]\r\nSplash=0\r\n");
+    cockpit_->WriteFile("Default.ini",
+                        "[SwitchPanel1]\r\nSwitchTAXIOn=VButton,64,2\r\n"
+                        "[BIPPanel1]\r\nT0=COMBINED_GEAR\r\nT9=LEFT_FUEL_LOW,Red,51\r\n");
+    StartConnected({"switch1", "bip1"});
+    const FlightChecks flight(*cockpit_, FlightLog(false));
+    const auto expect = [&](const char* gear, const char* tiles) {
+        return flight.ExpectPanel(GearShows(gear), "switch1") && flight.ExpectPanel(tiles, "bip1");
+    };
+    ASSERT_TRUE(expect("green", "tiles 0 green 9 red"));
+    const std::string first = cockpit_->Panels("reports bip1");
+    EXPECT_TRUE(first.starts_with("B200 B2000000000000 B200 B2000000000000 B205 B20A B20F "))
+        << first;
+    EXPECT_TRUE(first.ends_with(" B264 B8000000000000 B8010000000000 B8010000000200")) << first;
+
+    // The first of them is told as a change of all switches, avionics among them.
+    for (const char* act : {"bat on", "avionics on", "landing on", "taxi on"}) {
+        flight.Do(act, "switch1");
+    }
+    EXPECT_TRUE(flight.ExpectWrites({"3102", "3103", "0BE8", "0D0C", "3340"},
+                                    "3102:01 3103:00 0BE8:FF3F0000 3103:01 0D0C:0400 "
+                                    "3340:02000000 3340:00000000"));
+    ASSERT_TRUE(expect("green", "tiles 0 green 9 red"));
+    for (const char* panel : {"switch1", "bip1"}) {
+        cockpit_->Panels(std::string("reports ") + panel);
+    }
+    flight.Do("gear up", "switch1");
+    EXPECT_TRUE(flight.ExpectWrites({"0BE8"}, "0BE8:00000000"));
+    EXPECT_TRUE(expect("off", "tiles 9 red"));
+    EXPECT_EQ(cockpit_->Panels("reports switch1"), "0038 0000");
+    EXPECT_EQ(cockpit_->Panels("reports bip1"), "B8000000010200 B8000000000200");
+    ExpectQuits();
+    EXPECT_EQ(cockpit_->Panels("reports switch1"), "0000");
+    EXPECT_EQ(cockpit_->Panels("reports bip1"), "B8000000000000");
+}
+
 TEST_F(EndToEnd, OldFileBecomesTheDefaultProfile) {
     constexpr char kBox[] = "  ORVO  - Configuration file conversion request";
     const std::string old = "[MultiPanel1]\r\nButtonActionHDG=VButton,64,1\r\n";
@@ -206,7 +242,7 @@ TEST_F(EndToEnd, AutoQuitLeavesWithTheSimulator) {
     StartConnected();
     cockpit_->KillSimulator();
     EXPECT_EQ(cockpit_->Orvo().WaitForEnd(kAfterSilenceMs), 0u);
-    EXPECT_EQ(cockpit_->Panels("show multi1"), kDark);
+    EXPECT_EQ(cockpit_->Panels("show multi1"), kMultiDark);
     const std::string saved = cockpit_->ReadFile("Orvo.ini").value_or("");
     EXPECT_TRUE(saved.starts_with("[GeneralSetup]\r\nAutoQuit=1\r\nOrvoPriority=")) << saved;
 }
@@ -218,7 +254,7 @@ TEST_F(EndToEnd, AutoQuitEndsTheQuitBoxToo) {
     EXPECT_TRUE(Until(kSoonMs, [&] { return cockpit_->Box(" ORVO - Quit request") != nullptr; }));
     cockpit_->KillSimulator();
     EXPECT_EQ(cockpit_->Orvo().WaitForEnd(kAfterSilenceMs), 0u);
-    EXPECT_EQ(cockpit_->Panels("show multi1"), kDark);
+    EXPECT_EQ(cockpit_->Panels("show multi1"), kMultiDark);
 }
 
 TEST_F(EndToEnd, APanelThatVanishesHurtsNothingElse) {
@@ -280,7 +316,7 @@ TEST_F(EndToEnd, TheTickKeepsItsPaceUnderAMessageBox) {
 TEST_F(EndToEnd, ASilentServerEndsTheSession) {
     StartConnected();
     cockpit_->Simulator("silent");
-    EXPECT_TRUE(cockpit_->PanelBecomes("multi1", kDark, kAfterSilenceMs));
+    EXPECT_TRUE(cockpit_->PanelBecomes("multi1", kMultiDark, kAfterSilenceMs));
     cockpit_->Simulator("normal");
     EXPECT_TRUE(cockpit_->StatusBecomes(0, kConnected, kAfterSilenceMs));
     ExpectQuits();
