@@ -20,7 +20,7 @@ bool ConnectPanel(frmMain& window, const MainServices& services, const PanelIden
         return false;
     }
     if (services.generalSetup.Splash) control.Splash();
-    // Its brightness sequence leaves LEDs of its first row set.
+    // Else the next report of its tiles would light what the brightness has left in the buffer.
     if (identity.kind == PanelKind::BIP) control.TurnOff();
     return true;
 }

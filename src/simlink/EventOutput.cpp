@@ -41,12 +41,14 @@ EventOutput::EventOutput(modFSUIPC& fsuipc, KeyboardPort& keyboard, MessageLoop&
 
 void EventOutput::SetVirtualButton(uint8_t VJoystick, uint8_t VButton, bool State, bool Process) {
     if (!IsVirtualButton(VJoystick, VButton)) return;
-    WriteButton(VJoystick, VButton, State, ReadButtons(VJoystick).value_or(0));
+    const auto before = ReadButtons(VJoystick);
+    WriteButton(VJoystick, VButton, State, before.value_or(0));
     int32_t result = 0;
-    if (Process) fsuipc_.FSUIPC_Process(result);
+    if (Process && before) fsuipc_.FSUIPC_Process(result);
 }
 
 std::optional<uint32_t> EventOutput::ReadButtons(uint8_t joystick) {
+    if (!fsuipc_.Answers()) return std::nullopt;
     std::array<uint8_t, 4> buttons{};
     int32_t result = 0;
     fsuipc_.FSUIPC_Read(OffsetOf(joystick), 4, buttons.data(), result);
@@ -62,12 +64,21 @@ void EventOutput::WriteButton(uint8_t joystick, uint8_t button, bool state, uint
     fsuipc_.FSUIPC_Write(OffsetOf(joystick), 4, buttons.data(), result);
 }
 
-// Presses go out at once: their time begins.
+void EventOutput::RunAction(const ActionRecord& record) {
+    if (record.FSEvent == ActionKind::VButton) {
+        PressForAWhile(record);
+    } else {
+        SendAction(record);
+    }
+}
+
 void EventOutput::PressForAWhile(const ActionRecord& record) {
+    if (!IsVirtualButton(record.VJoystickOrKeyCode, record.VButtonOrKeyQualifiers)) return;
     presses_.push_back(record);
     if (presses_.size() == 1) Press();
 }
 
+// It goes out at once: its time begins.
 void EventOutput::Press() {
     SetVirtualButton(presses_.front(), true, true);
     timerRelease_.SetEnabled(true);
@@ -107,8 +118,8 @@ void EventOutput::SendControl(int32_t Control, int32_t Parameter) {
     fsuipc_.FSUIPC_Write(kControls, static_cast<int32_t>(data.size()), data.data(), result);
 }
 
-EventOutput::Repetition::Repetition(MessageLoop& loop, int32_t control, int32_t parameter)
-    : Control(control), Parameter(parameter), timer(loop, kRepetitionMs) {}
+EventOutput::Repetition::Repetition(MessageLoop& loop, int32_t controlNumber, int32_t mouse)
+    : control(controlNumber), parameter(mouse), timer(loop, kRepetitionMs) {}
 
 void EventOutput::SendControlTwice(int32_t Control, int32_t Parameter) {
     SendControl(Control, Parameter);
@@ -118,7 +129,7 @@ void EventOutput::SendControlTwice(int32_t Control, int32_t Parameter) {
 }
 
 void EventOutput::Repeat(std::list<Repetition>::iterator repetition) {
-    if (connected_) SendControl(repetition->Control, repetition->Parameter);
+    if (connected_) SendControl(repetition->control, repetition->parameter);
     repetitions_.erase(repetition);
 }
 

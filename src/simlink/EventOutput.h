@@ -29,9 +29,9 @@ class EventOutput {
         SetVirtualButton(record.VJoystickOrKeyCode, record.VButtonOrKeyQualifiers, State, Process);
     }
 
-    // Presses a VButton record's button and releases it 50 ms later; the caller goes on meanwhile.
-    // Several are pressed one after the other.
-    void PressForAWhile(const ActionRecord& record);
+    // Does once what a record says: sends a keystroke, or presses a virtual button and releases it
+    // 50 ms later. The caller goes on meanwhile; several buttons are pressed one after the other.
+    void RunAction(const ActionRecord& record);
 
     // Presses and releases a key with its qualifiers (1 SHIFT, 2 CTRL, 4 TAB) in one go, in the
     // window that has the focus. Lets pending messages run.
@@ -57,15 +57,16 @@ class EventOutput {
     // False when there is no use in going on.
     bool SendOnce(const ActionRecord& record);
     bool PressAndRelease(uint8_t joystick, uint8_t button);
+    void PressForAWhile(const ActionRecord& record);
     void Press();
     void ReleaseInTime();
 
     // The second sending of a control.
     struct Repetition {
-        Repetition(MessageLoop& loop, int32_t control, int32_t parameter);
+        Repetition(MessageLoop& loop, int32_t controlNumber, int32_t mouse);
 
-        int32_t Control;
-        int32_t Parameter;
+        int32_t control;
+        int32_t parameter;
         Timer timer;
     };
     void Repeat(std::list<Repetition>::iterator repetition);

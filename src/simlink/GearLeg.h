@@ -6,10 +6,13 @@
 
 enum class GearLeg : uint8_t { Up, Moving, Down };
 
-// A leg by its position: 0 is up, 16383 down and locked, anything else on the way.
+// Of the lever and of a leg, where 0 is up.
+inline constexpr int32_t kGearDownPosition = 16383;
+
+// A leg by its position: up, down and locked, anything else on the way.
 constexpr GearLeg GearLegAt(int32_t position) {
     if (position == 0) return GearLeg::Up;
-    return position == 16383 ? GearLeg::Down : GearLeg::Moving;
+    return position == kGearDownPosition ? GearLeg::Down : GearLeg::Moving;
 }
 
 // What a gear lamp shows of a leg.

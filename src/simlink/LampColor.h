@@ -2,8 +2,8 @@
 
 #include "toolkit/Control.h"
 
-// What a lamp with a green and a red LED shows, as the pictures of the panels paint it. Yellow is
-// both LEDs; any other number is none.
+// What a lamp with a green and a red LED shows, on the panel and, when it is lit, in the picture.
+// Yellow is both LEDs; any other number is none.
 namespace LampColor {
 inline constexpr Color kOff = 0;
 inline constexpr Color kGreen = 0x00FF00;

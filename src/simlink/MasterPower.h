@@ -2,7 +2,7 @@
 
 #include "simlink/cOffsetTable.h"
 
-// The aircraft's battery and avionics switches: without both a panel is dark.
+// The aircraft's battery and avionics switches: while either is off a panel is dark.
 class MasterPower {
   public:
     explicit MasterPower(cOffsetTable& table)

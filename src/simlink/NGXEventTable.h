@@ -4,6 +4,10 @@
 #include <cstddef>
 #include <cstdint>
 
+// Parameters of the add-on's controls: what the mouse does to a switch or button.
+inline constexpr int32_t kNGXLeftClick = 0x20000000;
+inline constexpr auto kNGXRightClick = static_cast<int32_t>(0x80000000);
+
 // Functions of the NGX add-on: entries 0 to 22 are the controls that run them, entries 23 to 45 the
 // offsets of their lamps in the same order, 0 for a function without a lamp.
 inline constexpr size_t kNGXRows = 23;

@@ -133,9 +133,9 @@ int32_t cOFFSET::Bcd(const uint8_t* bytes) {
 
 void cOFFSET::SetBcd(int32_t Value) { StoreLE16(word_.data(), DecimalToBCD(Value)); }
 
-bool cOFFSET::DirectWrite(bool Immediate) {
-    const bool queued = fsuipc_.FSUIPC_Write(Offset, TransferLenght(), DataPtr(), dwResult);
-    return Immediate ? fsuipc_.FSUIPC_Process(dwResult) && queued : queued;
+void cOFFSET::DirectWrite(bool Immediate) {
+    fsuipc_.FSUIPC_Write(Offset, TransferLenght(), DataPtr(), dwResult);
+    if (Immediate) fsuipc_.FSUIPC_Process(dwResult);
 }
 
 bool cOFFSET::DirectRead(bool Immediate) {

@@ -58,9 +58,9 @@ class cOFFSET {
     // Four digits into type 3; 0 to 9999, values beyond are held to that.
     void SetBcd(int32_t Value);
 
-    // Queue a transfer; with Immediate the batch is sent at once, and what was read is there. False
-    // when it couldn't be queued, or the simulator hasn't answered.
-    bool DirectWrite(bool Immediate);
+    // Queue a transfer; with Immediate the batch is sent at once, and what was read is there. A
+    // read gives false when it couldn't be queued, or the simulator hasn't answered.
+    void DirectWrite(bool Immediate);
     bool DirectRead(bool Immediate);
 
   private:

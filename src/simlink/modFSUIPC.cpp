@@ -174,7 +174,8 @@ bool modFSUIPC::FSUIPC_Process(int32_t& result) {
     StoreLE32(view_ + next_, 0);
     next_ = 0;
     uintptr_t reply = 0;
-    bool done = SendBatch(reply, result);
+    answers_ = SendBatch(reply, result);
+    bool done = answers_;
     if (done && reply != 1) {
         result = kFsuipcBadReply;
         done = false;

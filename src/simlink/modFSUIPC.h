@@ -59,6 +59,10 @@ class modFSUIPC {
     // is taken as far as it goes.
     bool FSUIPC_Process(int32_t& result);
 
+    // False when the last exchange ran out of time. The next one may take as long again, so what
+    // can do without leaves it to the tick, which ends the session if need be.
+    bool Answers() const { return answers_; }
+
     bool IsOpen() const { return view_ != nullptr; }
 
     int32_t FSUIPC_Version = 0;      // BCD version in the high word
@@ -90,4 +94,5 @@ class modFSUIPC {
     uint8_t* view_ = nullptr;
     uint32_t next_ = 0;  // bytes of records in the batch
     std::vector<Record> records_;
+    bool answers_ = true;
 };

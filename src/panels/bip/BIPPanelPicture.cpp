@@ -29,7 +29,7 @@ BIPPanelPicture::BIPPanelPicture(Picture& panel) : body_(panel, {}, {}) {
         Shape& face = shpTile.emplace_back(&panel);
         face.Kind = ShapeKind::RoundedRectangle;
         face.FillColor = kTileOff;
-        face.Move(TileLeft(tile), RowTop(tile) + 60, kTileWidth, kRowHeight - 75);
+        face.Move(TileLeft(tile), RowTop(tile) + 45, kTileWidth, kRowHeight - 60);
         size_t line = 0;
         for (auto* labels : {&lblTileR1, &lblTileR2, &lblTileR3}) {
             Label& label = labels->emplace_back(&panel);

@@ -5,8 +5,7 @@
 
 namespace {
 
-// Parameters: what the mouse does to the add-on's switches and knobs.
-constexpr int32_t kMouseClick = 0x20000000;
+// Parameters: what the mouse's wheel does to the add-on's knobs.
 constexpr int32_t kWheelUp = 16384;
 constexpr int32_t kWheelDown = 8192;
 
@@ -28,7 +27,7 @@ constexpr Knob kSecondCourse = {70041};
 }  // namespace
 
 void cMultiPanelLogic::RunNGXFunction(uint8_t row) {
-    session_.Output.SendControl(NGXEventTable[row], kMouseClick);
+    session_.Output.SendControl(NGXEventTable[row], kNGXLeftClick);
 }
 
 // One click of the wheel, however fast the knob is turned.
@@ -57,6 +56,6 @@ void cMultiPanelLogic::MoveFlapsNGX(bool up) {
 void cMultiPanelLogic::SetThrottleNGX(bool armed) {
     const double addOn = Value(kThrottleArmRow);
     if (armed ? addOn == 0 : addOn == 1) {
-        session_.Output.SendControl(kAutoThrottleSwitch, kMouseClick);
+        session_.Output.SendControl(kAutoThrottleSwitch, kNGXLeftClick);
     }
 }

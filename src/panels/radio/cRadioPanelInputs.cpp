@@ -6,6 +6,7 @@
 #include "base/Number.h"
 #include "panels/radio/RadioFrequency.h"
 #include "panels/radio/cRadioPanelLogic.h"
+#include "simlink/NGXEventTable.h"
 
 namespace {
 
@@ -15,7 +16,6 @@ constexpr int32_t kNGXAltimeterKnob = 69997;
 constexpr int32_t kNGXAltimeterUp = 16384;
 constexpr int32_t kNGXAltimeterDown = 8192;
 constexpr int32_t kNGXAltimeterUnit = 69998;
-constexpr int32_t kNGXClick = 0x20000000;
 
 // Goes over the end of the band to the other one, once: a fast turn may go further.
 float WithinBand(float frequency, const RadioBand& band) {
@@ -35,12 +35,7 @@ void cRadioPanelLogic::SelectorChange(int16_t Selector, int32_t NewPos, int32_t 
         session_.EngineSelected = static_cast<uint8_t>(NewPos);
     }
     ApplyAcceleration(row);
-    const ActionRecord& record = RPActions->GetSelectorActions(NewPos);
-    if (record.FSEvent == ActionKind::VButton) {
-        session_.Output.PressForAWhile(record);
-    } else {
-        session_.Output.SendAction(record);
-    }
+    session_.Output.RunAction(RPActions->GetSelectorActions(NewPos));
 }
 
 cRadioPanelLogic::Row* cRadioPanelLogic::RowOf(int32_t button) {
@@ -140,7 +135,7 @@ void cRadioPanelLogic::ClickAdf(const Row& row) {
 void cRadioPanelLogic::ToggleAltimeterUnit() {
     if (RPActions->AltimeterUnit != 0) return;
     if (session_.SpecialMode == kNGXMode) {
-        session_.Output.SendControl(kNGXAltimeterUnit, kNGXClick);
+        session_.Output.SendControl(kNGXAltimeterUnit, kNGXLeftClick);
     } else {
         altimeterInHg_ = !altimeterInHg_;
     }

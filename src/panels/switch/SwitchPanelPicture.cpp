@@ -30,7 +30,6 @@ constexpr PanelCaption kCaptions[] = {
     {2500, 810, 360, 135, "OFF"},
 };
 
-// In two lines, as neighbours have no room beside each other.
 constexpr const char* kToggleCaptions[] = {"BAT",    "ALT",  "AVIONICS", "FUEL PUMP", "DE-ICE",
                                            "PITOT",  "COWL", "PANEL",    "BEACON",    "NAV",
                                            "STROBE", "TAXI", "LANDING"};
@@ -55,6 +54,7 @@ SwitchPanelPicture::SwitchPanelPicture(Picture& panel)
     PlaceGear(panel);
 }
 
+// Captions stand in two lines, as neighbours have no room beside each other.
 void SwitchPanelPicture::PlaceToggles(Picture& panel) {
     int32_t left = kFirstToggle;
     bool upperLine = true;

@@ -10,8 +10,6 @@
 
 // The Switch Panel on the screen. Co-ordinates are twips within the picture.
 class SwitchPanelPicture {
-    const PanelBody body_;
-
   public:
     explicit SwitchPanelPicture(Picture& panel);
 
@@ -20,9 +18,13 @@ class SwitchPanelPicture {
     // `toggle` is the place in kSwitchToggleBits.
     void ShowToggle(size_t toggle, bool on);
     void ShowGear(bool down);
-    // `light` is the place in kGearLightBits. What is no LampColor is white.
+    // `light` is the place in kGearLightBits. What lights nothing is white.
     void ShowLight(size_t light, Color color);
 
+  private:
+    const PanelBody body_;
+
+  public:
     Line lineSelector;
     std::deque<Shape> shpToggles;     // BAT to LANDING
     Shape picGear;                    // the lever

@@ -3,21 +3,21 @@
 #include <cstdint>
 
 #include "config/ProfileStore.h"
+#include "panels/switch/SwitchNumber.h"
 #include "simlink/ActionRecord.h"
 #include "simlink/BindingTable.h"
 #include "simlink/Numbered.h"
 
-// What one Switch Panel's switches do in the current profile. Switches and positions are numbered 1
-// to 20: the selector's OFF, R, L, BOTH/ALL and START, then BAT, ALT, AVIONICS, FUEL PUMP, DE-ICE,
-// PITOT, COWL, PANEL, BEACON, NAV, STROBE, TAXI and LANDING, the lever's UP and DOWN. State is 1
-// for going on, or reaching the position, and 0 for going off, or leaving it. Numbers that the
-// panel doesn't have read as nothing, and setting them does nothing.
+// What one Switch Panel's switches do in the current profile. Switches and positions have the
+// numbers of SwitchNumber. State is 1 for going on, or reaching the position, and 0 for going off,
+// or leaving it. Numbers that the panel doesn't have read as nothing, and setting them does
+// nothing.
 class cSwitchPanelActionsHolder {
   public:
     explicit cSwitchPanelActionsHolder(ProfileStore& profiles);
 
-    int16_t Index = 0;             // number of the panel, from 1; names the section
-    bool RetractableGear = false;  // of the aircraft, for simulators that can't tell
+    int16_t Index = 0;            // number of the panel, from 1; names the section
+    bool RetractableGear = true;  // of the aircraft, for simulators that can't tell
     // Whether these act on the selected engine only.
     bool SingleStarterSelector = false;
     bool SingleFuelPump = false;
@@ -40,5 +40,7 @@ class cSwitchPanelActionsHolder {
     BindingTable Keys();
 
     ProfileStore& profiles_;
-    Numbered<Numbered<ActionRecord, 1, 20>, 0, 1> actions_;  // by state
+    // By state.
+    Numbered<Numbered<ActionRecord, SwitchNumber::kSelectorOff, SwitchNumber::kGearDown>, 0, 1>
+        actions_;
 };

@@ -3,6 +3,7 @@
 
 #include "panels/switch/SwitchNumber.h"
 #include "panels/switch/cSwitchPanelLogic.h"
+#include "simlink/GearLeg.h"
 
 namespace {
 
@@ -15,7 +16,8 @@ struct PlainSwitch {
     std::array<int32_t, 4> offsets;  // one, or one for each engine
     double on;
     double off;
-    bool cSwitchPanelActionsHolder::*single;  // the option that only the selected engine counts
+    // The option to act on the selected engine alone, if it has one.
+    bool cSwitchPanelActionsHolder::*single;
 };
 constexpr PlainSwitch kPlainSwitches[] = {
     {kBat, 1, {0x3102}, 1, 0, nullptr},
@@ -27,7 +29,6 @@ constexpr PlainSwitch kPlainSwitches[] = {
     {kCowl, 8, {0x37F0, 0x3730, 0x3670, 0x35B0}, 0, 1, &cSwitchPanelActionsHolder::SingleCowlFlaps},
 };
 
-constexpr int32_t kFuelPumpOffset = 0x3125;
 constexpr uint8_t kAllPumps = 15;
 
 constexpr std::array<int32_t, 4> kStarterOffsets = {0x0892, 0x092A, 0x09C2, 0x0A5A};
@@ -36,28 +37,19 @@ constexpr int32_t kLightsWord = 0x0D0C;
 constexpr uint16_t kLightBits[] = {0x20, 0x02, 0x01, 0x10, 0x08, 0x04};  // from kPanel on
 
 constexpr int32_t kGearHandle = 0x0BE8;
-constexpr double kHandleDown = 16383;
 
 }  // namespace
-
-void cSwitchPanelLogic::RunAction(const ActionRecord& record) {
-    if (record.FSEvent == ActionKind::VButton) {
-        session_.Output.PressForAWhile(record);
-    } else {
-        session_.Output.SendAction(record);
-    }
-}
 
 void cSwitchPanelLogic::SwitchChange(int32_t Switch, bool State) {
     const ActionRecord& record = SPActions->GetSwitchActions(Switch, State ? 1 : 0);
     if (record.FSEvent == ActionKind::Offset) {
-        SwitchStandard(Switch, State);
+        SwitchBuiltIn(Switch, State);
     } else {
-        RunAction(record);
+        session_.Output.RunAction(record);
     }
 }
 
-void cSwitchPanelLogic::SwitchStandard(int32_t number, bool on) {
+void cSwitchPanelLogic::SwitchBuiltIn(int32_t number, bool on) {
     if (number == kFuelPump) SwitchFuelPumps(on);
     if (number >= kPanel && number <= kLanding) SwitchLight(number, on);
     for (const PlainSwitch& each : kPlainSwitches) {
@@ -85,17 +77,18 @@ void cSwitchPanelLogic::SwitchFuelPumps(bool on) {
         const int32_t now = offsets_[kFuelPumps].IntegerData();
         pumps = on ? now | engine : now & ~engine;
     }
-    session_.WriteOffset(kFuelPumpOffset, 1, pumps, false);
+    session_.WriteOffset(kSwitchOffsets[kFuelPumps].offset, 1, pumps, false);
 }
 
-// The word as it is at this moment: other switches of the same report have changed it just now.
+// The word as it is at this moment: other switches of the same report have changed it just now. One
+// that can't be had isn't written, as the other lights would go out.
 void cSwitchPanelLogic::SwitchLight(int32_t number, bool on) {
     if (session_.SpecialMode == kNGXMode) {
         SwitchLightNGX(number, on);
         return;
     }
     cOFFSET word(session_.Fsuipc, kLightsWord, 2);
-    if (!word.DirectRead(true)) return;
+    if (!session_.Fsuipc.Answers() || !word.DirectRead(true)) return;
     const int32_t bit = kLightBits[number - kPanel];
     const int32_t lights = word.IntegerData();
     if (((lights & bit) != 0) == on) return;
@@ -104,15 +97,16 @@ void cSwitchPanelLogic::SwitchLight(int32_t number, bool on) {
 }
 
 void cSwitchPanelLogic::SelectorChange(int32_t NewPosition, int32_t OldPosition) {
-    RunAction(SPActions->GetSwitchActions(OldPosition, 0));
+    session_.Output.RunAction(SPActions->GetSwitchActions(OldPosition, 0));
     const ActionRecord& record = SPActions->GetSwitchActions(NewPosition, 1);
     if (record.FSEvent == ActionKind::Offset) {
         WriteEngines(kStarterOffsets, 2, NewPosition - 1, SPActions->SingleStarterSelector);
     } else {
-        RunAction(record);
+        session_.Output.RunAction(record);
     }
 }
 
+// In the NGX the add-on's lever moves, whatever the bindings say.
 void cSwitchPanelLogic::MoveGear(bool down) {
     if (session_.SpecialMode == kNGXMode) {
         MoveGearNGX(down);
@@ -124,7 +118,7 @@ void cSwitchPanelLogic::MoveGear(bool down) {
             HoldGearButton(reached, SPActions->GetSwitchActions(down ? kGearUp : kGearDown, 1));
             break;
         case ActionKind::Offset:
-            session_.WriteOffset(kGearHandle, 4, down ? kHandleDown : 0, false);
+            session_.WriteOffset(kGearHandle, 4, down ? kGearDownPosition : 0, false);
             break;
         default:
             session_.Output.SendAction(reached);
@@ -133,7 +127,7 @@ void cSwitchPanelLogic::MoveGear(bool down) {
 }
 
 // The virtual button stands for the lever's position, and the one of the other position goes up. So
-// does the one that the lever held before, if the profile has changed since.
+// does one that the lever holds from a profile before this one.
 void cSwitchPanelLogic::HoldGearButton(const ActionRecord& reached, const ActionRecord& left) {
     const auto before = std::exchange(held_, reached);
     session_.Output.SetVirtualButton(reached, true, false);

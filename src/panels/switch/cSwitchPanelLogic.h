@@ -42,8 +42,7 @@ class cSwitchPanelLogic final : public cPanelLogic {
     void RegisterOffsets();
     bool GearShown() const;
 
-    void RunAction(const ActionRecord& record);
-    void SwitchStandard(int32_t number, bool on);
+    void SwitchBuiltIn(int32_t number, bool on);
     void WriteEngines(const EngineOffsets& offsets, int32_t dataType, double value, bool single);
     void SwitchFuelPumps(bool on);
     void SwitchLight(int32_t number, bool on);

@@ -1,14 +1,13 @@
-// Built-in behaviour of the light switches and the gear lever in the NGX mode: the add-on's own
-// switches are clicked, each from the position in which it stands.
+// What the light switches and the gear lever do in the NGX mode: the add-on's own are clicked, the
+// lights' from the position in which they stand.
 #include <algorithm>
 
 #include "panels/switch/SwitchNumber.h"
 #include "panels/switch/cSwitchPanelLogic.h"
+#include "simlink/NGXEventTable.h"
 
 namespace {
 
-constexpr int32_t kLeftClick = 0x20000000;
-constexpr auto kRightClick = static_cast<int32_t>(0x80000000);
 constexpr int32_t kGearLever = 70087;
 
 using namespace SwitchNumber;
@@ -33,14 +32,14 @@ struct Move {
     bool twice = false;
 };
 constexpr Move kMoves[] = {
-    {kPanel, true, 0, kLeftClick, true},   {kPanel, true, 1, kLeftClick},
-    {kPanel, false, 2, kRightClick},       {kPanel, false, 0, kLeftClick},
-    {kBeacon, true, 0, kLeftClick},        {kBeacon, false, 1, kLeftClick},
-    {kNav, true, 1, kLeftClick},           {kNav, false, 0, kRightClick},
-    {kStrobe, true, 0, kRightClick, true}, {kStrobe, true, 1, kRightClick},
-    {kStrobe, false, 2, kLeftClick},       {kTaxi, true, 0, kLeftClick},
-    {kTaxi, false, 1, kLeftClick},         {kLanding, true, 0, kLeftClick},
-    {kLanding, false, 0, kRightClick},
+    {kPanel, true, 0, kNGXLeftClick, true},   {kPanel, true, 1, kNGXLeftClick},
+    {kPanel, false, 2, kNGXRightClick},       {kPanel, false, 0, kNGXLeftClick},
+    {kBeacon, true, 0, kNGXLeftClick},        {kBeacon, false, 1, kNGXLeftClick},
+    {kNav, true, 1, kNGXLeftClick},           {kNav, false, 0, kNGXRightClick},
+    {kStrobe, true, 0, kNGXRightClick, true}, {kStrobe, true, 1, kNGXRightClick},
+    {kStrobe, false, 2, kNGXLeftClick},       {kTaxi, true, 0, kNGXLeftClick},
+    {kTaxi, false, 1, kNGXLeftClick},         {kLanding, true, 0, kNGXLeftClick},
+    {kLanding, false, 0, kNGXRightClick},
 };
 
 }  // namespace
@@ -49,7 +48,9 @@ void cSwitchPanelLogic::SwitchLightNGX(int32_t number, bool on) {
     const auto* const addOn = std::ranges::find(kAddOnSwitches, number, &AddOnSwitch::number);
     if (addOn == std::end(kAddOnSwitches)) return;
     cOFFSET position(session_.Fsuipc, addOn->positionOffset, 1);
-    if (addOn->positionOffset != 0 && !position.DirectRead(true)) return;
+    if (addOn->positionOffset != 0) {
+        if (!session_.Fsuipc.Answers() || !position.DirectRead(true)) return;
+    }
     for (const Move& move : kMoves) {
         if (move.number != number || move.on != on || move.from != position.IntegerData()) continue;
         if (move.twice) {
@@ -60,11 +61,11 @@ void cSwitchPanelLogic::SwitchLightNGX(int32_t number, bool on) {
     }
 }
 
-// The lever has a position between the two, on the way down one click more.
+// Down takes two clicks, up one.
 void cSwitchPanelLogic::MoveGearNGX(bool down) {
     if (down) {
-        session_.Output.SendControlTwice(kGearLever, kLeftClick);
+        session_.Output.SendControlTwice(kGearLever, kNGXLeftClick);
     } else {
-        session_.Output.SendControl(kGearLever, kRightClick);
+        session_.Output.SendControl(kGearLever, kNGXRightClick);
     }
 }
