@@ -142,6 +142,19 @@ TEST_F(SessionTest, LostSessionDarkensThePanelAndIsFoundAgain) {
     EXPECT_EQ(program->Session.OffsetTable.Shape(), shape) << "no entry twice";
 }
 
+TEST_F(SessionTest, LostSessionTurnsGearLightsOffAndLeavesTiles) {
+    VirtualDevice &lights = Plug(PanelKind::Switch), &tiles = Plug(PanelKind::BIP);
+    PutProfile("Default", "[BIPPanel1]\r\nT0=NAV,Green\r\n");
+    for (const uint32_t gear : {0x060C, 0x0BEC}) machine.server.Set<int32_t>(gear, 16383);
+    Start();
+    EXPECT_EQ(tiles.featureReports.back(), (VirtualDevice::Report{0xB8, 0, 0, 0, 0, 0, 0}));
+    Connect();
+    Tick();
+    LoseSimulator();
+    EXPECT_EQ(lights.featureReports, (Reports{{0, 1}, {0, 0}}));
+    EXPECT_EQ(tiles.featureReports.back(), (VirtualDevice::Report{0xB8, 1, 0, 0, 0, 0, 0}));
+}
+
 TEST_F(SessionTest, ServersThatMisbehaveEndTheSessionAndNothingElse) {
     ASSERT_TRUE(Start());
     machine.ipc.AddWindow("UIPCMAIN");

@@ -153,4 +153,16 @@ TEST_F(StartTest, SetupRequestReloadsTheBindingsAndReregisters) {
     EXPECT_NE(program->Session.OffsetTable.Shape(), shape);
 }
 
+TEST_F(StartTest, SetupRequestOfASwitchPanelOnlyReloads) {
+    for (const PanelKind kind : {PanelKind::Switch, PanelKind::BIP}) Plug(kind);
+    Start();
+    cOffsetTable& table = program->Session.OffsetTable;
+    for (const char* name : {"FUELPUMPS", "MASTERAVIONICS"}) table.UnregisterOffset(name);
+    SwitchLogic().SPActions->RetractableGear = false;
+    Switch().cmdSetup.Press();
+    BIP().cmdSetup.Press();
+    EXPECT_TRUE(SwitchLogic().SPActions->RetractableGear);
+    EXPECT_LT(table.OffsetRegistered("FUELPUMPS"), table.OffsetRegistered("MASTERAVIONICS"));
+}
+
 }  // namespace
