@@ -26,7 +26,7 @@ struct DeviceServices {
 
 // What the device objects of all panels have in common: the link that brings the panel's reports,
 // the device file that takes its lights and displays, and the picture on the main window's page. It
-// knows bytes and nothing of the simulator. By itself it serves a panel whose controls do nothing.
+// knows bytes and nothing of the simulator.
 class cPanelDevice : public Picture {
   public:
     cPanelDevice(Container& parent, const DeviceServices& services, PanelKind kind);
@@ -37,11 +37,11 @@ class cPanelDevice : public Picture {
     bool Connect(const std::string& DevicePathName);
 
     // The start-up show. Lets pending messages run.
-    virtual void Splash() {}
+    virtual void Splash() = 0;
     // Reports the positions of the selectors as if they had just been moved.
     void GetPositions();
     // Darkens displays and lights.
-    virtual void TurnOff() {}
+    virtual void TurnOff() = 0;
 
     // Turns the output off, stops the link and closes the device; only the first call does
     // anything, and what is written later goes nowhere. Lets pending messages run, so a final class

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 #include <map>
+#include <set>
 
 #include "bench/virtual/VirtualCockpit.h"
 
@@ -7,8 +8,12 @@ namespace {
 
 // Whichever kind of panel was there first, the others read its entry.
 TEST(SharedOffsetsTest, PanelsAgreeOnTheNamesThatTheyShare) {
-    std::vector<std::string> names = {"MASTERBATTERY", "MASTERAVIONICS"};
-    for (const auto& each : kTileOffsets) names.emplace_back(each.name);
+    std::set<std::string> names = {"MASTERBATTERY", "MASTERAVIONICS", kNGXUnit.name};
+    const auto add = [&](const auto& table) {
+        for (const auto& each : table) names.insert(each.name);
+    };
+    add(kTileOffsets), add(kSwitchOffsets), add(kRadioOffsets);
+    names.insert(kMultiPanelNames.begin(), kMultiPanelNames.end());
     for (const std::string mode : {"", "maddog", "ngx"}) {
         std::map<std::string, std::array<int32_t, 3>> entries;
         int shared = 0;

@@ -1,5 +1,6 @@
 #include "panels/bip/BIPPanelPicture.h"
 
+#include <array>
 #include <cstdint>
 #include <vector>
 

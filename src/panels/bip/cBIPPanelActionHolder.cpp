@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <vector>
 
 #include "base/Number.h"
 #include "base/Text.h"
@@ -52,9 +53,11 @@ void cBIPPanelActionHolder::ClearAllTiles() {
     for (int16_t tile = 0; tile < kBIPTiles; ++tile) ClearTile(tile);
 }
 
+std::string cBIPPanelActionHolder::Section() const { return "BIPPanel" + FormatInteger(Index); }
+
 void cBIPPanelActionHolder::LoadSetup() {
     LoadDefaults();
-    const cInifile ini = profiles_.OpenProfile("BIPPanel" + FormatInteger(Index));
+    const cInifile ini = profiles_.OpenProfile(Section());
     for (const auto& [key, value] : ini.Entries()) {
         const auto tile = TileOf(key);
         if (tile && !value.empty()) tiles_.Set(*tile, Parsed(value));
@@ -89,7 +92,7 @@ void cBIPPanelActionHolder::SaveSetup() {
 }
 
 bool cBIPPanelActionHolder::Write(cInifile& ini) const {
-    ini.Section = "BIPPanel" + FormatInteger(Index);
+    ini.Section = Section();
     std::vector<std::string> keys;
     int32_t count = 0;
     ini.EnumerateCurrentSection(keys, count);
@@ -98,8 +101,7 @@ bool cBIPPanelActionHolder::Write(cInifile& ini) const {
         const auto tile = TileOf(key);
         if (!tile || key == KeyOf(*tile)) continue;
         ini.Key = key;
-        ini.DeleteKey();
-        if (!ini.Success()) return false;
+        if (!DeleteIfThere(ini, keys)) return false;
     }
     for (int16_t tile = 0; tile < kBIPTiles; ++tile) {
         ini.Key = KeyOf(tile);

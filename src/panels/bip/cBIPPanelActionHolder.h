@@ -3,7 +3,6 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "config/ProfileStore.h"
 #include "panels/bip/BIPPanelReport.h"
@@ -55,6 +54,7 @@ class cBIPPanelActionHolder {
     void SaveSetup();
 
   private:
+    std::string Section() const;
     static TileRecord Parsed(std::string_view text);
     std::string TileText(int16_t tile) const;
     bool Write(cInifile& ini) const;

@@ -1,5 +1,7 @@
 #include "panels/bip/cBIPPanelLogic.h"
 
+#include "base/Number.h"
+
 cBIPPanelLogic::cBIPPanelLogic(const LogicServices& services, ctlBIPPanel& control, int16_t index,
                                const WindowState& windows)
     : Index(index),

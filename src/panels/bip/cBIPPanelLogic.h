@@ -1,6 +1,5 @@
 #pragma once
 
-#include <array>
 #include <cstdint>
 #include <memory>
 #include <optional>
@@ -21,7 +20,7 @@
 // control alone.
 class cBIPPanelLogic final : public cPanelLogic {
   public:
-    // `windows` says while the setup window has the tiles.
+    // `windows` says whether the setup window has the tiles.
     cBIPPanelLogic(const LogicServices& services, ctlBIPPanel& control, int16_t index,
                    const WindowState& windows);
 

@@ -1,5 +1,6 @@
 #include "toolkit/win32/LabelPeer.h"
 
+#include "toolkit/win32/Colors.h"
 #include "toolkit/win32/FontCache.h"
 
 namespace {
@@ -25,8 +26,8 @@ LabelPeer::LabelPeer(Label& label, FontCache& fonts)
 }
 
 HBRUSH LabelPeer::OnColor(HDC dc) {
-    const auto color = static_cast<COLORREF>(label_.ForeColor.Get());
-    SetTextColor(dc, color == 0 ? GetSysColor(COLOR_BTNTEXT) : color);
+    const Color color = label_.ForeColor;
+    SetTextColor(dc, color == 0 ? GetSysColor(COLOR_BTNTEXT) : ToColor(color));
     SetBkMode(dc, TRANSPARENT);
     return GetSysColorBrush(COLOR_BTNFACE);
 }

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "toolkit/win32/Canvas.h"
+#include "toolkit/win32/Colors.h"
 #include "toolkit/win32/GdiHandle.h"
 #include "toolkit/win32/SevenSegment.h"
 #include "toolkit/win32/Units.h"
@@ -20,11 +21,6 @@ int PenWidth(int32_t twips) { return twips <= 0 ? 0 : std::max(1, Scaled(twips))
 RECT AreaOf(const Control& control) {
     return {Scaled(control.Left), Scaled(control.Top), Scaled(control.Left + control.Width),
             Scaled(control.Top + control.Height)};
-}
-
-COLORREF ToColor(Color color) {
-    if (color & 0x80000000) return GetSysColor(static_cast<int>(color & 0xFF));
-    return color & 0xFFFFFF;
 }
 
 bool IsIn(HDC dc, const Control& control) {

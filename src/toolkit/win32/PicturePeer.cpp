@@ -1,6 +1,7 @@
 #include "toolkit/win32/PicturePeer.h"
 
 #include "toolkit/win32/Canvas.h"
+#include "toolkit/win32/Colors.h"
 #include "toolkit/win32/Painter.h"
 
 PicturePeer::PicturePeer(Picture& picture, FontCache& fonts)
@@ -27,7 +28,7 @@ void PicturePeer::FollowMore() {
     InvalidateRect(Window(), nullptr, FALSE);
     if (!ground_ || groundColor_ != picture_.BackColor) {
         groundColor_ = picture_.BackColor;
-        ground_.reset(CreateSolidBrush(static_cast<COLORREF>(groundColor_)));
+        ground_.reset(CreateSolidBrush(ToColor(groundColor_)));
     }
     ContainerPeer::FollowMore();
 }

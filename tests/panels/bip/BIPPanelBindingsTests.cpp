@@ -40,6 +40,9 @@ TEST_F(BIPPanelBindingsTest, WhatAHandWroteWrongCostsOnlyItsOwnTile) {
         EXPECT_EQ(Alone(holder), first + read) << each;
         EXPECT_EQ(Saved(holder), first + (each.back() == '!' ? written : read));
     }
+    auto twice = LoadedFrom("t07=NO_SUCH\r\nT07=NAV\r\n");
+    twice.ClearTile(7);
+    EXPECT_EQ(Saved(twice), head) << "it doesn't come back";
     auto holder = LoadedFrom("T3=VAC_LOW,Red,5\r\n");
     holder.SetColor(3, 0);
     EXPECT_EQ(Alone(holder), head + "T3=VAC_LOW,5\r\n") << "a colour without a word";

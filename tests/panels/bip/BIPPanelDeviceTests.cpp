@@ -58,6 +58,8 @@ TEST_F(BIPPanelDeviceTest, EachTileHasItsBitsAndOnlyChangesAreSent) {
         EXPECT_EQ(Sent(), Reports(2, Report())) << "the whole panel is told in any case";
         for (const Shape& each : BIP().OnScreen.shpTile) EXPECT_EQ(each.FillColor, face);
     }
+    for (const int16_t none : {int16_t{-1}, kBIPTiles})
+        BIP().TurnTile(none, 0x0000FF), BIP().SetTileLabel(none, "A");
     for (const Color second : {0x0000FF, 0x0000FF, 0x00FFFF})
         BIP().TurnAllTiles(std::array<Color, 24>{0x00FF00, second});
     EXPECT_EQ(Sent(), (Reports{{0xB8, 1, 0, 0, 2, 0, 0}, {0xB8, 3, 0, 0, 2, 0, 0}}));
