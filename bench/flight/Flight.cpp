@@ -26,9 +26,8 @@ bool Stay(Cockpit& cockpit, const FlightLog& log) {
     log.Say("Type 'panel knob multi1 +1', 'panel selector multi1 HDG', 'panel show multi1',");
     log.Say("'panel upper-inner radio1 +1', 'panel press radio1 upper', 'panel show radio1',");
     log.Say("'panel bat switch1 on', 'panel gear switch1 up', 'panel show switch1',");
-    log.Say(
-        "'panel show bip1', 'sim set 0x3366 1 1', 'sim get 0x07CC 2', 'sim title NAME' and the");
-    log.Say("like; 'end' or Ctrl-C ends it all.");
+    log.Say("'panel show bip1', 'sim set 0x3366 1 1', 'sim get 0x07CC 2', 'sim title NAME'");
+    log.Say("and the like; 'end' or Ctrl-C ends it all.");
     for (std::string line; std::getline(std::cin, line) && line != "end";) {
         if (line.starts_with("sim ")) {
             log.Say(cockpit.Simulator(line.substr(4)));

@@ -103,10 +103,11 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     CheckBindings<cRadioPanelActionsHolder>("[RadioPanel1]\n", text);
     CheckBindings<cSwitchPanelActionsHolder>("[SwitchPanel1]\n", text);
     // Else hardly a tile would have a function.
-    const std::string function =
-        size < 2 ? "T0="
-                 : "T" + std::to_string(data[0] % 32) + "=" +
-                       std::string(TileFunctions[data[1] % kTileFunctions].Key.Text());
-    CheckBindings<cBIPPanelActionHolder>("[BIPPanel1]\n" + function, text, CheckTiles);
+    std::string tiles = "[BIPPanel1]\n";
+    if (size >= 2) {
+        tiles.append("T").append(std::to_string(data[0] % 32)).append("=");
+        tiles.append(TileFunctions[data[1] % kTileFunctions].Key.Text()).append(",");
+    }
+    CheckBindings<cBIPPanelActionHolder>(tiles, text.substr(size >= 2 ? 2 : 0), CheckTiles);
     return 0;
 }

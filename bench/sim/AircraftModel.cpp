@@ -131,9 +131,8 @@ void AircraftModel::TakeWrite(uint32_t offset, std::span<const uint8_t> bytes) {
                            static_cast<int32_t>(LoadLE32(&bytes[4]))});
     }
     for (const auto& master : kMasters) {
-        if (offset == master.offset) {
-            space_.Set<int32_t>(master.power, space_.Get<uint8_t>(offset));
-        }
+        if (offset > master.offset || offset + bytes.size() <= master.offset) continue;
+        space_.Set<int32_t>(master.power, space_.Get<uint8_t>(master.offset));
     }
     if (offset <= kRadioSwap && offset + bytes.size() > kRadioSwap) SwapRadios();
 }
