@@ -41,8 +41,9 @@ void cSwitchPanelLogic::RefreshData() {
     std::array<Color, 3> lights{};
     if (GearShown() && offsets_[kMasterBattery].Data() != 0) {
         constexpr SwitchValue kLegs[] = {kGearNose, kGearLeft, kGearRight};
-        for (size_t i = 0; i < lights.size(); ++i) {
-            lights[i] = GearLamp(GearLegAt(offsets_[kLegs[i]].IntegerData()));
+        size_t light = 0;
+        for (const SwitchValue leg : kLegs) {
+            lights[light++] = GearLamp(GearLegAt(offsets_[leg].IntegerData()));
         }
     }
     if (lights == remembered_) return;

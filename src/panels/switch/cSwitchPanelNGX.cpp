@@ -26,20 +26,20 @@ constexpr AddOnSwitch kAddOnSwitches[] = {
 // Positions that aren't named leave the switch as it is.
 struct Move {
     int32_t number;
-    bool on;
+    int32_t state;  // 1 going on, 0 going off
     int32_t from;
     int32_t click;
     bool twice = false;
 };
 constexpr Move kMoves[] = {
-    {kPanel, true, 0, kNGXLeftClick, true},   {kPanel, true, 1, kNGXLeftClick},
-    {kPanel, false, 2, kNGXRightClick},       {kPanel, false, 0, kNGXLeftClick},
-    {kBeacon, true, 0, kNGXLeftClick},        {kBeacon, false, 1, kNGXLeftClick},
-    {kNav, true, 1, kNGXLeftClick},           {kNav, false, 0, kNGXRightClick},
-    {kStrobe, true, 0, kNGXRightClick, true}, {kStrobe, true, 1, kNGXRightClick},
-    {kStrobe, false, 2, kNGXLeftClick},       {kTaxi, true, 0, kNGXLeftClick},
-    {kTaxi, false, 1, kNGXLeftClick},         {kLanding, true, 0, kNGXLeftClick},
-    {kLanding, false, 0, kNGXRightClick},
+    {kPanel, 1, 0, kNGXLeftClick, true},   {kPanel, 1, 1, kNGXLeftClick},
+    {kPanel, 0, 2, kNGXRightClick},        {kPanel, 0, 0, kNGXLeftClick},
+    {kBeacon, 1, 0, kNGXLeftClick},        {kBeacon, 0, 1, kNGXLeftClick},
+    {kNav, 1, 1, kNGXLeftClick},           {kNav, 0, 0, kNGXRightClick},
+    {kStrobe, 1, 0, kNGXRightClick, true}, {kStrobe, 1, 1, kNGXRightClick},
+    {kStrobe, 0, 2, kNGXLeftClick},        {kTaxi, 1, 0, kNGXLeftClick},
+    {kTaxi, 0, 1, kNGXLeftClick},          {kLanding, 1, 0, kNGXLeftClick},
+    {kLanding, 0, 0, kNGXRightClick},
 };
 
 }  // namespace
@@ -51,8 +51,10 @@ void cSwitchPanelLogic::SwitchLightNGX(int32_t number, bool on) {
     if (addOn->positionOffset != 0) {
         if (!session_.Fsuipc.Answers() || !position.DirectRead(true)) return;
     }
+    const int32_t state = on ? 1 : 0;
     for (const Move& move : kMoves) {
-        if (move.number != number || move.on != on || move.from != position.IntegerData()) continue;
+        if (move.number != number || move.state != state || move.from != position.IntegerData())
+            continue;
         if (move.twice) {
             session_.Output.SendControlTwice(addOn->control, move.click);
         } else {
