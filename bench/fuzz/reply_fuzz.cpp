@@ -4,7 +4,7 @@
 #include <cstdlib>
 
 #include "platform/virtual/VirtualPlatform.h"
-#include "simlink/cSession.h"
+#include "simlink/channel/cSession.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     VirtualPlatform machine;

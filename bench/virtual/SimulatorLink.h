@@ -1,13 +1,15 @@
 #pragma once
 
 #include "platform/virtual/VirtualPlatform.h"
-#include "simlink/cSession.h"
+#include "simlink/actions/EventOutput.h"
+#include "simlink/channel/cSession.h"
 
 // A virtual machine with the simulator's window on it, and a client of its channel.
 struct SimulatorLink {
     VirtualPlatform machine;
-    cSession session{machine.ipc, machine.clock, machine.keyboard, machine.loop};
+    cSession session{machine.ipc, machine.clock};
     modFSUIPC& fsuipc = session.Fsuipc;
+    EventOutput output{fsuipc, machine.keyboard, machine.loop, session.FSConnected};
     int32_t result = -1;
 
     bool Open(const char* windowClass = "UIPCMAIN") {

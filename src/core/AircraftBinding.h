@@ -6,7 +6,7 @@
 #include "config/ProfileStore.h"
 #include "config/cSetupHolder.h"
 #include "core/PanelUnit.h"
-#include "simlink/cSession.h"
+#include "simlink/channel/cSession.h"
 #include "toolkit/ComboBox.h"
 #include "ui/WindowState.h"
 

@@ -5,10 +5,10 @@
 #include <memory>
 #include <vector>
 
-#include "simlink/PanelIdentity.h"
-#include "simlink/cPanelDevice.h"
-#include "simlink/cPanelLogic.h"
-#include "simlink/cSession.h"
+#include "simlink/channel/cSession.h"
+#include "simlink/devices/PanelIdentity.h"
+#include "simlink/devices/cPanelDevice.h"
+#include "simlink/devices/cPanelLogic.h"
 #include "ui/WindowState.h"
 
 // One panel: its device object and its logic, which bear the same number.

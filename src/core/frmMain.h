@@ -13,7 +13,9 @@
 #include "core/AircraftBinding.h"
 #include "core/PanelUnit.h"
 #include "platform/Platform.h"
-#include "simlink/cSession.h"
+#include "platform/Timer.h"
+#include "simlink/actions/EventOutput.h"
+#include "simlink/channel/cSession.h"
 #include "toolkit/ComboBox.h"
 #include "toolkit/CommandButton.h"
 #include "toolkit/Container.h"
@@ -22,7 +24,6 @@
 #include "toolkit/Picture.h"
 #include "toolkit/StatusBar.h"
 #include "toolkit/TabStrip.h"
-#include "toolkit/Timer.h"
 #include "ui/WindowState.h"
 #include "ui/ctlTrayArea.h"
 
@@ -31,12 +32,13 @@ struct MainServices {
     const Platform& platform;
     UiBackend& ui;
     cSession& session;
+    EventOutput& output;
     cSetupHolder& generalSetup;
     ProfileStore& profiles;
     WindowState& windows;
     const std::vector<ScreenRect>& monitorRects;
 
-    LogicServices ForLogics() const { return {session, profiles, platform.clock}; }
+    LogicServices ForLogics() const { return {session, output, profiles, platform.clock}; }
 };
 
 // The program's one permanent window, hidden until the user double-clicks its icon in the

@@ -9,7 +9,8 @@ modMain::modMain(const Platform& platform, UiBackend& ui)
     : GeneralSetup(platform.ini, platform.files, platform.registry,
                    platform.process.ProgramFolder()),
       Profiles(platform.ini, platform.files, platform.process.ProgramFolder()),
-      Session(platform.ipc, platform.clock, platform.keyboard, platform.loop),
+      Session(platform.ipc, platform.clock),
+      Output(Session.Fsuipc, platform.keyboard, platform.loop, Session.FSConnected),
       platform_(platform),
       ui_(ui) {}
 
@@ -26,8 +27,8 @@ bool modMain::Main() {
     Profiles.LoadProfileList();
     Profiles.LoadAircraftList();
 
-    const MainServices services = {platform_, ui_,     Session,      GeneralSetup,
-                                   Profiles,  Windows, monitorRects_};
+    const MainServices services = {platform_,    ui_,      Session, Output,
+                                   GeneralSetup, Profiles, Windows, monitorRects_};
     window_ = std::make_unique<frmMain>(services);
     window_->LoadForm();
     platform_.loop.RunPending();

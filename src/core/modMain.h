@@ -7,7 +7,8 @@
 #include "config/cSetupHolder.h"
 #include "core/frmMain.h"
 #include "platform/Platform.h"
-#include "simlink/cSession.h"
+#include "simlink/actions/EventOutput.h"
+#include "simlink/channel/cSession.h"
 #include "toolkit/UiBackend.h"
 #include "ui/WindowState.h"
 
@@ -23,6 +24,7 @@ class modMain {
     cSetupHolder GeneralSetup;
     ProfileStore Profiles;
     cSession Session;
+    EventOutput Output;
     WindowState Windows;
 
     // None before it is loaded, that is when another instance runs.

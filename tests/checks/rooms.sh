@@ -5,7 +5,8 @@
 set -eu
 cd "$(dirname "$0")/../.."
 
-rooms=(base platform toolkit config simlink ui panels/multi panels/radio panels/switch panels/bip core app)
+rooms=(base platform toolkit config simlink/channel simlink/actions simlink/devices ui
+    panels/multi panels/radio panels/switch panels/bip core app)
 adapters='platform/win32|platform/virtual|toolkit/win32'
 
 # Sets `room` to the room of a path relative to src/.
@@ -13,7 +14,7 @@ room_of() {
     local first=${1%%/*} rest=${1#*/}
     room=$first
     case $1 in
-        panels/* | platform/win32/* | platform/virtual/* | toolkit/win32/*) room+=/${rest%%/*} ;;
+        panels/* | simlink/* | platform/win32/* | platform/virtual/* | toolkit/win32/*) room+=/${rest%%/*} ;;
     esac
 }
 

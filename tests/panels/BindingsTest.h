@@ -5,7 +5,7 @@
 
 #include "config/ProfileStore.h"
 #include "platform/virtual/VirtualPlatform.h"
-#include "simlink/ActionRecord.h"
+#include "simlink/actions/ActionRecord.h"
 
 using Names = std::vector<std::string>;
 

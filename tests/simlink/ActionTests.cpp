@@ -4,16 +4,14 @@
 #include "base/Bytes.h"
 #include "base/Number.h"
 #include "bench/virtual/SimulatorLink.h"
-#include "simlink/ActionText.h"
-#include "simlink/KeyStrokeText.h"
+#include "simlink/actions/ActionText.h"
+#include "simlink/actions/KeyStrokeText.h"
 
 namespace {
 
 using enum ActionKind;
 
-struct ActionTest : testing::Test, SimulatorLink {
-    EventOutput& output = session.Output;
-};
+struct ActionTest : testing::Test, SimulatorLink {};
 
 TEST_F(ActionTest, WholeTextsAreTakenAndOthersLeaveTheRecord) {
     const std::pair<const char*, const char*> whole[] = {{"none", "None"},

@@ -5,7 +5,7 @@
 
 #include "base/Bytes.h"
 #include "bench/virtual/SimulatorLink.h"
-#include "simlink/EventOutput.h"
+#include "simlink/actions/EventOutput.h"
 
 namespace {
 
@@ -132,7 +132,7 @@ TEST_F(FsuipcTest, ClosedAndEmptyChannelsSendNothing) {
 TEST_F(FsuipcTest, OneBatchCarriesWritesBeforeReads) {
     ASSERT_TRUE(Open());
     const uint8_t value[] = {1, 2, 3, 4};
-    session.Output.SendControl(65615, -2);
+    output.SendControl(65615, -2);
     fsuipc.FSUIPC_Write(0x200, 4, value, result);
     fsuipc.FSUIPC_Read(0x200, 4, data.data(), result);
     fsuipc.FSUIPC_Read(0x200, 2, nullptr, result);

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "platform/Timer.h"
 #include "platform/virtual/VirtualLoop.h"
 #include "toolkit/ComboBox.h"
 #include "toolkit/CommandButton.h"
@@ -7,7 +8,6 @@
 #include "toolkit/HeadlessUi.h"
 #include "toolkit/Picture.h"
 #include "toolkit/TabStrip.h"
-#include "toolkit/Timer.h"
 
 namespace {
 

@@ -7,7 +7,7 @@
 #include <string_view>
 
 #include "panels/bip/TileOffsets.h"
-#include "simlink/LampColor.h"
+#include "simlink/devices/LampColor.h"
 
 // The functions that a tile of the BIP Panel can have: what the user sees of each, what it reads of
 // the simulator, and when it lights its tile. One table, the same for all panels.

@@ -7,7 +7,7 @@
 #include "config/ProfileStore.h"
 #include "panels/bip/BIPPanelReport.h"
 #include "panels/bip/TileCatalogue.h"
-#include "simlink/Numbered.h"
+#include "simlink/actions/Numbered.h"
 
 // What one tile is set up to show.
 struct TileRecord {

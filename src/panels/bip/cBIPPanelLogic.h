@@ -8,11 +8,11 @@
 #include "panels/bip/TileCatalogue.h"
 #include "panels/bip/cBIPPanelActionHolder.h"
 #include "panels/bip/ctlBIPPanel.h"
-#include "simlink/GearLeg.h"
-#include "simlink/MasterPower.h"
-#include "simlink/cOffsetTable.h"
-#include "simlink/cPanelLogic.h"
-#include "simlink/cSession.h"
+#include "simlink/channel/MasterPower.h"
+#include "simlink/channel/cOffsetTable.h"
+#include "simlink/channel/cSession.h"
+#include "simlink/devices/GearLeg.h"
+#include "simlink/devices/cPanelLogic.h"
 #include "ui/WindowState.h"
 
 // Behaviour of one BIP Panel: judges the functions of its tiles at every tick, and gives the tiles

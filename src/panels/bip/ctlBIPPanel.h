@@ -7,8 +7,8 @@
 
 #include "panels/bip/BIPPanelPicture.h"
 #include "panels/bip/BIPPanelReport.h"
-#include "simlink/LampColor.h"
-#include "simlink/cPanelDevice.h"
+#include "simlink/devices/LampColor.h"
+#include "simlink/devices/cPanelDevice.h"
 
 // Device object of one BIP Panel: gives its 24 tiles their colours and captions, on the panel and
 // in the picture. The panel has no input. Colours are LampColors; any other number lights nothing.

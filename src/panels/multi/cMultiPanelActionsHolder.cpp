@@ -3,7 +3,7 @@
 #include <string>
 
 #include "base/Number.h"
-#include "simlink/NGXEventTable.h"
+#include "simlink/channel/NGXEventTable.h"
 
 namespace {
 

@@ -3,9 +3,9 @@
 #include <cstdint>
 
 #include "config/ProfileStore.h"
-#include "simlink/ActionRecord.h"
-#include "simlink/BindingTable.h"
-#include "simlink/Numbered.h"
+#include "simlink/actions/ActionRecord.h"
+#include "simlink/actions/BindingTable.h"
+#include "simlink/actions/Numbered.h"
 
 // What one Multi Panel's controls do in the current profile. Positions are those of the selector, 1
 // ALT to 5 CRS, buttons 1 AP to 8 REV. Numbers that the panel doesn't have read as nothing, and

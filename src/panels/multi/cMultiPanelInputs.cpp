@@ -32,7 +32,7 @@ constexpr int32_t OffsetOf(size_t row) {
 template <class NGX, class Standard>
 void cMultiPanelLogic::Do(const ActionRecord& record, int times, NGX ngx, Standard standard) {
     if (record.FSEvent != ActionKind::Offset) {
-        session_.Output.SendAction(record, times);
+        output_.SendAction(record, times);
     } else if (session_.SpecialMode == kNGXMode) {
         ngx();
     } else {
@@ -57,13 +57,13 @@ void cMultiPanelLogic::SelectorChange(int32_t NewPosition, int32_t OldPosition) 
 void cMultiPanelLogic::SendSelectorAction(int32_t newPosition, int32_t oldPosition) {
     const ActionRecord& reached = MPActions->GetSelectorActions(newPosition);
     if (reached.FSEvent != ActionKind::VButton) {
-        session_.Output.SendAction(reached);
+        output_.SendAction(reached);
         return;
     }
-    session_.Output.SetVirtualButton(reached, true, false);
+    output_.SetVirtualButton(reached, true, false);
     const ActionRecord& left = MPActions->GetSelectorActions(oldPosition);
     if (left.FSEvent == ActionKind::VButton) {
-        session_.Output.SetVirtualButton(left, false, false);
+        output_.SetVirtualButton(left, false, false);
     }
 }
 
@@ -183,7 +183,7 @@ void cMultiPanelLogic::AutoThrottleChange(int16_t State) {
     const ActionRecord& record = MPActions->GetAutoThrottleActions(armed ? 1 : 0);
     if (record.FSEvent == ActionKind::VButton) {
         // The button holds the switch's position.
-        session_.Output.SetVirtualButton(record, armed, false);
+        output_.SetVirtualButton(record, armed, false);
         return;
     }
     Do(

@@ -4,7 +4,7 @@
 #include <algorithm>
 
 #include "base/Number.h"
-#include "simlink/NGXEventTable.h"
+#include "simlink/channel/NGXEventTable.h"
 
 namespace {
 
@@ -26,6 +26,7 @@ cMultiPanelLogic::cMultiPanelLogic(const LogicServices& services, ctlMultiPanel&
                                    int16_t index)
     : Index(index),
       session_(services.session),
+      output_(services.output),
       profiles_(services.profiles),
       clock_(services.clock),
       control_(control),

@@ -9,9 +9,9 @@
 #include "panels/multi/MultiPanelOffsets.h"
 #include "panels/multi/cMultiPanelActionsHolder.h"
 #include "panels/multi/ctlMultiPanel.h"
-#include "simlink/MasterPower.h"
-#include "simlink/cPanelLogic.h"
-#include "simlink/cSession.h"
+#include "simlink/channel/MasterPower.h"
+#include "simlink/channel/cSession.h"
+#include "simlink/devices/cPanelLogic.h"
 
 // Behaviour of one Multi Panel: shows the autopilot's values and lights on the panel's control, and
 // turns its events into what the bindings say. StartUp comes before all else. Selector positions
@@ -90,6 +90,7 @@ class cMultiPanelLogic final : public cPanelLogic {
     void TurnMaddogSpeed(int32_t step);
 
     cSession& session_;
+    EventOutput& output_;
     ProfileStore& profiles_;
     Clock& clock_;
     ctlMultiPanel& control_;

@@ -56,7 +56,7 @@ void cMultiPanelLogic::ShowMaddogPosition() {
 }
 
 void cMultiPanelLogic::SM_MADDOG_ButtonClick(int32_t Button) {
-    EventOutput& output = session_.Output;
+    EventOutput& output = output_;
     switch (Button) {
         case 1:
             ToggleMaddogAutopilot();
@@ -87,20 +87,20 @@ void cMultiPanelLogic::SM_MADDOG_ButtonLongClick(int32_t Button) {
     } else if (Button == 8) {
         ToggleMaddogMach();
     } else if (const int32_t control = ControlOf(kLongClickControls, Button)) {
-        session_.Output.SendControl(control, 1);
+        output_.SendControl(control, 1);
     }
 }
 
 void cMultiPanelLogic::ToggleMaddogAutopilot() {
     maddog_.autopilotOn = !maddog_.autopilotOn;
-    session_.Output.SendControl(69666, maddog_.autopilotOn ? 1 : 0);
+    output_.SendControl(69666, maddog_.autopilotOn ? 1 : 0);
 }
 
 void cMultiPanelLogic::ToggleMaddogMach() {
     maddog_.machMode = !maddog_.machMode;
     const int lights = maddog_.machMode ? panelLights_ | kMachLight : panelLights_ & ~kMachLight;
     panelLights_ = static_cast<uint8_t>(lights);
-    session_.Output.SendControl(69655, maddog_.machMode ? 1 : 0);
+    output_.SendControl(69655, maddog_.machMode ? 1 : 0);
     if (selectorPosition_ != 3) return;
     control_.WriteDisplay(maddog_.machMode ? FormatInteger(maddog_.mach, 4)
                                            : FormatInteger(maddog_.speed, 3));
@@ -108,7 +108,7 @@ void cMultiPanelLogic::ToggleMaddogMach() {
 
 void cMultiPanelLogic::SM_MADDOG_Rotary(int16_t Direction, int16_t Speed) {
     const int32_t step = Direction == 1 ? Speed : -Speed;
-    EventOutput& output = session_.Output;
+    EventOutput& output = output_;
     switch (selectorPosition_) {
         case 1:
             maddog_.altitude = std::clamp(maddog_.altitude + step * 100, 0, 99000);
@@ -142,7 +142,7 @@ void cMultiPanelLogic::SM_MADDOG_Rotary(int16_t Direction, int16_t Speed) {
 }
 
 void cMultiPanelLogic::TurnMaddogSpeed(int32_t step) {
-    EventOutput& output = session_.Output;
+    EventOutput& output = output_;
     if (maddog_.machMode) {
         maddog_.mach = std::clamp(maddog_.mach + step, 500, 900);
         control_.WriteDisplay(FormatInteger(maddog_.mach, 4));
@@ -156,5 +156,5 @@ void cMultiPanelLogic::TurnMaddogSpeed(int32_t step) {
 }
 
 void cMultiPanelLogic::SM_MADDOG_AutoThrottle(int16_t State) {
-    session_.Output.SendControl(69665, State != 0 ? 1 : 0);
+    output_.SendControl(69665, State != 0 ? 1 : 0);
 }

@@ -1,7 +1,7 @@
 // Built-in behaviour of the panel's controls in the NGX mode: the add-on takes commands as controls
 // of the simulator.
 #include "panels/multi/cMultiPanelLogic.h"
-#include "simlink/NGXEventTable.h"
+#include "simlink/channel/NGXEventTable.h"
 
 namespace {
 
@@ -27,7 +27,7 @@ constexpr Knob kSecondCourse = {70041};
 }  // namespace
 
 void cMultiPanelLogic::RunNGXFunction(uint8_t row) {
-    session_.Output.SendControl(NGXEventTable[row], kNGXLeftClick);
+    output_.SendControl(NGXEventTable[row], kNGXLeftClick);
 }
 
 // One click of the wheel, however fast the knob is turned.
@@ -36,26 +36,26 @@ void cMultiPanelLogic::TurnNGX(bool up) {
     if (position == 0 || position >= std::size(kKnobs)) return;
     const bool second = selectorPosition_ == kCoursePosition && SecondCourse();
     const Knob& knob = second ? kSecondCourse : kKnobs[position];
-    session_.Output.SendControl(knob.control, up != knob.reversed ? kWheelUp : kWheelDown);
+    output_.SendControl(knob.control, up != knob.reversed ? kWheelUp : kWheelDown);
 }
 
 void cMultiPanelLogic::TrimNGX(bool up, int16_t speed) {
     if (MPActions->ReverseTrim != 0) up = !up;
     for (int i = 0; i < speed; ++i) {
-        session_.Output.SendControl(up ? kTrimUp : kTrimDown, 0);
+        output_.SendControl(up ? kTrimUp : kTrimDown, 0);
         clock_.Sleep(kTrimPauseMs);
     }
 }
 
 void cMultiPanelLogic::MoveFlapsNGX(bool up) {
     if (MPActions->ReverseFlaps != 0) up = !up;
-    session_.Output.SendControl(up ? kFlapsUp : kFlapsDown, 0);
+    output_.SendControl(up ? kFlapsUp : kFlapsDown, 0);
 }
 
 // The control only turns the add-on's switch over, so it goes out where the two differ.
 void cMultiPanelLogic::SetThrottleNGX(bool armed) {
     const double addOn = Value(kThrottleArmRow);
     if (armed ? addOn == 0 : addOn == 1) {
-        session_.Output.SendControl(kAutoThrottleSwitch, kNGXLeftClick);
+        output_.SendControl(kAutoThrottleSwitch, kNGXLeftClick);
     }
 }

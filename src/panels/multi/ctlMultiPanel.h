@@ -6,11 +6,11 @@
 
 #include "panels/multi/MultiPanelPicture.h"
 #include "panels/multi/MultiPanelReport.h"
-#include "simlink/ButtonPress.h"
-#include "simlink/FeatureReport.h"
-#include "simlink/PulsePair.h"
-#include "simlink/SpeedSampler.h"
-#include "simlink/cPanelDevice.h"
+#include "simlink/devices/ButtonPress.h"
+#include "simlink/devices/FeatureReport.h"
+#include "simlink/devices/PulsePair.h"
+#include "simlink/devices/SpeedSampler.h"
+#include "simlink/devices/cPanelDevice.h"
 
 // Device object of one Multi Panel: turns its reports into events, writes its displays and lights,
 // and mirrors all of it in the picture. Buttons are told by their mask, selector positions by their

@@ -3,9 +3,9 @@
 #include <cstdint>
 
 #include "config/ProfileStore.h"
-#include "simlink/ActionRecord.h"
-#include "simlink/BindingTable.h"
-#include "simlink/Numbered.h"
+#include "simlink/actions/ActionRecord.h"
+#include "simlink/actions/BindingTable.h"
+#include "simlink/actions/Numbered.h"
 
 // What one Radio Panel's controls do in the current profile. Positions are those of the selectors,
 // 1 COM1 to 7 XPDR; both rows share them. Rings are 0 inner and 1 outer, directions 1 clockwise and

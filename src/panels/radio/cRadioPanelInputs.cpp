@@ -6,7 +6,7 @@
 #include "base/Number.h"
 #include "panels/radio/RadioFrequency.h"
 #include "panels/radio/cRadioPanelLogic.h"
-#include "simlink/NGXEventTable.h"
+#include "simlink/channel/NGXEventTable.h"
 
 namespace {
 
@@ -35,7 +35,7 @@ void cRadioPanelLogic::SelectorChange(int16_t Selector, int32_t NewPos, int32_t 
         session_.EngineSelected = static_cast<uint8_t>(NewPos);
     }
     ApplyAcceleration(row);
-    session_.Output.RunAction(RPActions->GetSelectorActions(NewPos));
+    output_.RunAction(RPActions->GetSelectorActions(NewPos));
 }
 
 cRadioPanelLogic::Row* cRadioPanelLogic::RowOf(int32_t button) {
@@ -68,18 +68,18 @@ void cRadioPanelLogic::Press(Row& row, ActionRecord record,
     if (record.FSEvent == ActionKind::VButton) {
         Release(row);
         row.held = record;
-        session_.Output.SetVirtualButton(record, true, false);
+        output_.SetVirtualButton(record, true, false);
     } else if (record.FSEvent == ActionKind::Offset) {
         (this->*standard)(row);
     } else {
-        session_.Output.SendAction(record);
+        output_.SendAction(record);
     }
 }
 
 // The one that was pressed, whatever the selector and the profile say by now.
 void cRadioPanelLogic::Release(Row& row) {
     const auto held = std::exchange(row.held, std::nullopt);
-    if (held) session_.Output.SetVirtualButton(*held, false, false);
+    if (held) output_.SetVirtualButton(*held, false, false);
 }
 
 void cRadioPanelLogic::ClickStandard(Row& row) {
@@ -135,7 +135,7 @@ void cRadioPanelLogic::ClickAdf(const Row& row) {
 void cRadioPanelLogic::ToggleAltimeterUnit() {
     if (RPActions->AltimeterUnit != 0) return;
     if (session_.SpecialMode == kNGXMode) {
-        session_.Output.SendControl(kNGXAltimeterUnit, kNGXLeftClick);
+        output_.SendControl(kNGXAltimeterUnit, kNGXLeftClick);
     } else {
         altimeterInHg_ = !altimeterInHg_;
     }
@@ -148,7 +148,7 @@ void cRadioPanelLogic::Rotary(int16_t Rotary, int16_t Direction, uint8_t Side, u
     if (record.FSEvent == ActionKind::Offset) {
         TurnStandard(row, Rotary != 0, Direction != 0, Speed);
     } else {
-        session_.Output.SendAction(record, Speed);
+        output_.SendAction(record, Speed);
     }
 }
 
@@ -180,7 +180,7 @@ void cRadioPanelLogic::TuneChannel(size_t channel, bool outer, int32_t steps) {
     frequency = WithinBand(frequency, radio.band);
     if (ActiveOnly(channel)) {
         const auto number = RoundTo<int32_t>(static_cast<double>(frequency) * 100 - 10000);
-        session_.Output.SendControl(radio.maddogControl, DecimalToBCD(number));
+        output_.SendControl(radio.maddogControl, DecimalToBCD(number));
         return;
     }
     WriteBCD(kRadioOffsets[StandbyOf(channel)].offset, FrequencyDigits(frequency));
@@ -219,7 +219,7 @@ void cRadioPanelLogic::TurnTransponderDigit(bool up) {
 
 void cRadioPanelLogic::TurnAltimeter(bool up) {
     if (session_.SpecialMode == kNGXMode) {
-        session_.Output.SendControl(kNGXAltimeterKnob, up ? kNGXAltimeterUp : kNGXAltimeterDown);
+        output_.SendControl(kNGXAltimeterKnob, up ? kNGXAltimeterUp : kNGXAltimeterDown);
         return;
     }
     if (!altimeterInHg_) qnh_ = std::trunc(qnh_);

@@ -37,6 +37,7 @@ cRadioPanelLogic::cRadioPanelLogic(const LogicServices& services, ctlRadioPanel&
                                    int16_t index)
     : Index(index),
       session_(services.session),
+      output_(services.output),
       profiles_(services.profiles),
       control_(control),
       ngxUnit_(session_.OffsetTable, kNGXUnit.name),

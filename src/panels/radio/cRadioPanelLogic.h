@@ -12,11 +12,11 @@
 #include "panels/radio/RadioPanelOffsets.h"
 #include "panels/radio/cRadioPanelActionsHolder.h"
 #include "panels/radio/ctlRadioPanel.h"
-#include "simlink/ActionRecord.h"
-#include "simlink/MasterPower.h"
-#include "simlink/cOffsetTable.h"
-#include "simlink/cPanelLogic.h"
-#include "simlink/cSession.h"
+#include "simlink/actions/ActionRecord.h"
+#include "simlink/channel/MasterPower.h"
+#include "simlink/channel/cOffsetTable.h"
+#include "simlink/channel/cSession.h"
+#include "simlink/devices/cPanelLogic.h"
 
 // Behaviour of one Radio Panel: shows the radios' values on the panel's control, and turns its
 // events into what the bindings say. StartUp comes before all else. Sides are 1 the upper row and 2
@@ -89,6 +89,7 @@ class cRadioPanelLogic final : public cPanelLogic {
     void WriteBCD(int32_t offset, int32_t digits);
 
     cSession& session_;
+    EventOutput& output_;
     ProfileStore& profiles_;
     ctlRadioPanel& control_;
     std::vector<NamedOffset> offsets_;  // as kRadioOffsets

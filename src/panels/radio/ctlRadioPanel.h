@@ -7,11 +7,11 @@
 
 #include "panels/radio/RadioPanelPicture.h"
 #include "panels/radio/RadioPanelReport.h"
-#include "simlink/ButtonPress.h"
-#include "simlink/FeatureReport.h"
-#include "simlink/PulsePair.h"
-#include "simlink/SpeedSampler.h"
-#include "simlink/cPanelDevice.h"
+#include "simlink/devices/ButtonPress.h"
+#include "simlink/devices/FeatureReport.h"
+#include "simlink/devices/PulsePair.h"
+#include "simlink/devices/SpeedSampler.h"
+#include "simlink/devices/cPanelDevice.h"
 
 // Device object of one Radio Panel: turns its reports into events, writes its four displays, and
 // mirrors all of it in the picture. Sides are 1 upper and 2 lower. Buttons are told by their mask,

@@ -1,6 +1,6 @@
 #include "panels/switch/SwitchPanelPicture.h"
 
-#include "simlink/LampColor.h"
+#include "simlink/devices/LampColor.h"
 
 namespace {
 

@@ -4,9 +4,9 @@
 
 #include "config/ProfileStore.h"
 #include "panels/switch/SwitchNumber.h"
-#include "simlink/ActionRecord.h"
-#include "simlink/BindingTable.h"
-#include "simlink/Numbered.h"
+#include "simlink/actions/ActionRecord.h"
+#include "simlink/actions/BindingTable.h"
+#include "simlink/actions/Numbered.h"
 
 // What one Switch Panel's switches do in the current profile. Switches and positions have the
 // numbers of SwitchNumber. State is 1 for going on, or reaching the position, and 0 for going off,

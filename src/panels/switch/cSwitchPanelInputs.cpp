@@ -3,7 +3,7 @@
 
 #include "panels/switch/SwitchNumber.h"
 #include "panels/switch/cSwitchPanelLogic.h"
-#include "simlink/GearLeg.h"
+#include "simlink/devices/GearLeg.h"
 
 namespace {
 
@@ -45,7 +45,7 @@ void cSwitchPanelLogic::SwitchChange(int32_t Switch, bool State) {
     if (record.FSEvent == ActionKind::Offset) {
         SwitchBuiltIn(Switch, State);
     } else {
-        session_.Output.RunAction(record);
+        output_.RunAction(record);
     }
 }
 
@@ -97,12 +97,12 @@ void cSwitchPanelLogic::SwitchLight(int32_t number, bool on) {
 }
 
 void cSwitchPanelLogic::SelectorChange(int32_t NewPosition, int32_t OldPosition) {
-    session_.Output.RunAction(SPActions->GetSwitchActions(OldPosition, 0));
+    output_.RunAction(SPActions->GetSwitchActions(OldPosition, 0));
     const ActionRecord& record = SPActions->GetSwitchActions(NewPosition, 1);
     if (record.FSEvent == ActionKind::Offset) {
         WriteEngines(kStarterOffsets, 2, NewPosition - 1, SPActions->SingleStarterSelector);
     } else {
-        session_.Output.RunAction(record);
+        output_.RunAction(record);
     }
 }
 
@@ -121,7 +121,7 @@ void cSwitchPanelLogic::MoveGear(bool down) {
             session_.WriteOffset(kGearHandle, 4, down ? kGearDownPosition : 0, false);
             break;
         default:
-            session_.Output.SendAction(reached);
+            output_.SendAction(reached);
             break;
     }
 }
@@ -130,9 +130,9 @@ void cSwitchPanelLogic::MoveGear(bool down) {
 // does one that the lever holds from a profile before this one.
 void cSwitchPanelLogic::HoldGearButton(const ActionRecord& reached, const ActionRecord& left) {
     const auto before = std::exchange(held_, reached);
-    session_.Output.SetVirtualButton(reached, true, false);
-    if (left.FSEvent == ActionKind::VButton) session_.Output.SetVirtualButton(left, false, false);
+    output_.SetVirtualButton(reached, true, false);
+    if (left.FSEvent == ActionKind::VButton) output_.SetVirtualButton(left, false, false);
     if (before && !before->SameButton(reached) && !before->SameButton(left)) {
-        session_.Output.SetVirtualButton(*before, false, false);
+        output_.SetVirtualButton(*before, false, false);
     }
 }

@@ -1,6 +1,6 @@
 #include "panels/switch/cSwitchPanelLogic.h"
 
-#include "simlink/GearLeg.h"
+#include "simlink/devices/GearLeg.h"
 
 namespace {
 
@@ -10,7 +10,11 @@ constexpr uint8_t kFS2004 = 7;
 
 cSwitchPanelLogic::cSwitchPanelLogic(const LogicServices& services, ctlSwitchPanel& control,
                                      int16_t index)
-    : Index(index), session_(services.session), profiles_(services.profiles), control_(control) {
+    : Index(index),
+      session_(services.session),
+      output_(services.output),
+      profiles_(services.profiles),
+      control_(control) {
     for (const SwitchPanelOffset& each : kSwitchOffsets) {
         offsets_.emplace_back(session_.OffsetTable, each.name);
     }

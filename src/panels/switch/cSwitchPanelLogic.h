@@ -9,10 +9,10 @@
 #include "panels/switch/SwitchPanelOffsets.h"
 #include "panels/switch/cSwitchPanelActionsHolder.h"
 #include "panels/switch/ctlSwitchPanel.h"
-#include "simlink/ActionRecord.h"
-#include "simlink/cOffsetTable.h"
-#include "simlink/cPanelLogic.h"
-#include "simlink/cSession.h"
+#include "simlink/actions/ActionRecord.h"
+#include "simlink/channel/cOffsetTable.h"
+#include "simlink/channel/cSession.h"
+#include "simlink/devices/cPanelLogic.h"
 
 // Behaviour of one Switch Panel: shows the gear on the panel's lights, and turns its events into
 // what the bindings say. StartUp comes before all else. Switches are numbered as in the holder;
@@ -52,6 +52,7 @@ class cSwitchPanelLogic final : public cPanelLogic {
     void MoveGearNGX(bool down);
 
     cSession& session_;
+    EventOutput& output_;
     ProfileStore& profiles_;
     ctlSwitchPanel& control_;
     std::vector<NamedOffset> offsets_;  // as kSwitchOffsets

@@ -4,7 +4,7 @@
 
 #include "panels/switch/SwitchNumber.h"
 #include "panels/switch/cSwitchPanelLogic.h"
-#include "simlink/NGXEventTable.h"
+#include "simlink/channel/NGXEventTable.h"
 
 namespace {
 
@@ -56,9 +56,9 @@ void cSwitchPanelLogic::SwitchLightNGX(int32_t number, bool on) {
         if (move.number != number || move.state != state || move.from != position.IntegerData())
             continue;
         if (move.twice) {
-            session_.Output.SendControlTwice(addOn->control, move.click);
+            output_.SendControlTwice(addOn->control, move.click);
         } else {
-            session_.Output.SendControl(addOn->control, move.click);
+            output_.SendControl(addOn->control, move.click);
         }
     }
 }
@@ -66,8 +66,8 @@ void cSwitchPanelLogic::SwitchLightNGX(int32_t number, bool on) {
 // Down takes two clicks, up one.
 void cSwitchPanelLogic::MoveGearNGX(bool down) {
     if (down) {
-        session_.Output.SendControlTwice(kGearLever, kNGXLeftClick);
+        output_.SendControlTwice(kGearLever, kNGXLeftClick);
     } else {
-        session_.Output.SendControl(kGearLever, kNGXRightClick);
+        output_.SendControl(kGearLever, kNGXRightClick);
     }
 }

@@ -6,8 +6,8 @@
 
 #include "panels/switch/SwitchPanelPicture.h"
 #include "panels/switch/SwitchPanelReport.h"
-#include "simlink/LampColor.h"
-#include "simlink/cPanelDevice.h"
+#include "simlink/devices/LampColor.h"
+#include "simlink/devices/cPanelDevice.h"
 
 // Device object of one Switch Panel: turns its reports into events, writes its gear lights, and
 // mirrors all of it in the picture. Switches and positions are told by their bits of the state

@@ -1,4 +1,4 @@
-#include "simlink/cPanelDevice.h"
+#include "simlink/devices/cPanelDevice.h"
 
 #include <utility>
 

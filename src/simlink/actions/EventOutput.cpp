@@ -1,4 +1,4 @@
-#include "simlink/EventOutput.h"
+#include "simlink/actions/EventOutput.h"
 
 #include <array>
 

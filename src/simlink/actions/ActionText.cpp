@@ -1,4 +1,4 @@
-#include "simlink/ActionText.h"
+#include "simlink/actions/ActionText.h"
 
 #include <vector>
 

@@ -6,8 +6,8 @@
 #include <vector>
 
 #include "config/ProfileStore.h"
-#include "simlink/ActionRecord.h"
-#include "simlink/Numbered.h"
+#include "simlink/actions/ActionRecord.h"
+#include "simlink/actions/Numbered.h"
 
 // The keys of one panel's section in a profile file, each tied to the place in the panel's bindings
 // that it fills. One such table drives defaults, loading and saving. The places must outlive it.

@@ -1,4 +1,4 @@
-#include "toolkit/Timer.h"
+#include "platform/Timer.h"
 
 void Timer::SetInterval(uint32_t milliseconds) {
     if (milliseconds == interval_) return;

@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-#include "simlink/ActionRecord.h"
+#include "simlink/actions/ActionRecord.h"
 
 // The form in which an action stands in a profile file: "None", "Offset", "VButton,64,3" or
 // "VKey,65,3,65". Words are read without regard to case.

@@ -3,24 +3,20 @@
 #include <array>
 #include <cstdint>
 
-#include "simlink/EventOutput.h"
-#include "simlink/cOFFSET.h"
-#include "simlink/cOffsetTable.h"
-#include "simlink/modFSUIPC.h"
+#include "simlink/channel/cOFFSET.h"
+#include "simlink/channel/cOffsetTable.h"
+#include "simlink/channel/modFSUIPC.h"
 
 // Values of SpecialMode: which aircraft's own autopilot the panels work against.
 inline constexpr uint8_t kStandardMode = 0;
 inline constexpr uint8_t kMaddogMode = 1;
 inline constexpr uint8_t kNGXMode = 2;
 
-// What is known of the simulator, the ways to it, and what all panels work with. It outlives the
+// What is known of the simulator, the way to it, and what all panels work with. It outlives the
 // single connection, as the panels' logics go on with the same offsets when the simulator comes
 // back.
 struct cSession {
-    cSession(IpcChannel& channel, Clock& clock, KeyboardPort& keyboard, MessageLoop& loop)
-        : Fsuipc(channel, clock),
-          OffsetTable(Fsuipc),
-          Output(Fsuipc, keyboard, loop, FSConnected) {}
+    cSession(IpcChannel& channel, Clock& clock) : Fsuipc(channel, clock), OffsetTable(Fsuipc) {}
 
     // Writes a value of a type of cOFFSET's: with the next exchange, or at once with Immediate.
     void WriteOffset(int32_t offset, int32_t dataType, double value, bool Immediate) {
@@ -32,7 +28,6 @@ struct cSession {
     modFSUIPC Fsuipc;
     cOffsetTable OffsetTable;
     bool FSConnected = false;
-    EventOutput Output;
     uint8_t FSVersion = 0;  // the simulator's number
     uint8_t SpecialMode = kStandardMode;
     uint8_t EngineSelected = 1;

@@ -2,11 +2,13 @@
 
 #include "config/ProfileStore.h"
 #include "platform/Clock.h"
-#include "simlink/cSession.h"
+#include "simlink/actions/EventOutput.h"
+#include "simlink/channel/cSession.h"
 
 // What the logics work with.
 struct LogicServices {
     cSession& session;
+    EventOutput& output;
     ProfileStore& profiles;
     Clock& clock;
 };

@@ -1,4 +1,4 @@
-#include "simlink/modFSUIPC.h"
+#include "simlink/channel/modFSUIPC.h"
 
 #include <cstring>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "simlink/cOffsetTable.h"
+#include "simlink/channel/cOffsetTable.h"
 
 // The aircraft's battery and avionics switches: while either is off a panel is dark.
 class MasterPower {

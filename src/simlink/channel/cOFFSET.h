@@ -5,7 +5,7 @@
 #include <string_view>
 
 #include "base/Number.h"
-#include "simlink/modFSUIPC.h"
+#include "simlink/channel/modFSUIPC.h"
 
 // One typed value at one offset of the simulator, with its own storage, into which a read copies
 // the simulator's bytes as they are. The address of the storage stays valid for the object's life.

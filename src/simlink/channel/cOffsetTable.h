@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "base/Number.h"
-#include "simlink/cOFFSET.h"
+#include "simlink/channel/cOFFSET.h"
 
 // The offsets that every tick reads, by name, shared by all panels. Names compare without regard to
 // case; the order is that of registering. Entries stay until they are unregistered.

@@ -1,4 +1,4 @@
-#include "simlink/cOffsetTable.h"
+#include "simlink/channel/cOffsetTable.h"
 
 #include <algorithm>
 

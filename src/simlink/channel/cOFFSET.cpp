@@ -1,4 +1,4 @@
-#include "simlink/cOFFSET.h"
+#include "simlink/channel/cOFFSET.h"
 
 #include <algorithm>
 

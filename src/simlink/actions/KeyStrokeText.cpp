@@ -1,4 +1,4 @@
-#include "simlink/KeyStrokeText.h"
+#include "simlink/actions/KeyStrokeText.h"
 
 #include "base/Number.h"
 #include "base/Text.h"

@@ -11,7 +11,7 @@
 #include "platform/Deckhub.h"
 #include "platform/HidPort.h"
 #include "platform/MessageLoop.h"
-#include "simlink/PanelIdentity.h"
+#include "simlink/devices/PanelIdentity.h"
 #include "toolkit/CommandButton.h"
 #include "toolkit/Picture.h"
 

@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-#include "simlink/LampColor.h"
+#include "simlink/devices/LampColor.h"
 
 enum class GearLeg : uint8_t { Up, Moving, Down };
 

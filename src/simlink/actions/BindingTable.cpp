@@ -1,11 +1,11 @@
-#include "simlink/BindingTable.h"
+#include "simlink/actions/BindingTable.h"
 
 #include <algorithm>
 #include <limits>
 
 #include "base/Number.h"
 #include "config/IniSave.h"
-#include "simlink/ActionText.h"
+#include "simlink/actions/ActionText.h"
 
 namespace {
 

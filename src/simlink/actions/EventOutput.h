@@ -7,9 +7,9 @@
 
 #include "platform/KeyboardPort.h"
 #include "platform/MessageLoop.h"
-#include "simlink/ActionRecord.h"
-#include "simlink/modFSUIPC.h"
-#include "toolkit/Timer.h"
+#include "platform/Timer.h"
+#include "simlink/actions/ActionRecord.h"
+#include "simlink/channel/modFSUIPC.h"
 
 // The ways in which what the user does reaches the simulator, apart from writes of offsets.
 class EventOutput {

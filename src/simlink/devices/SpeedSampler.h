@@ -4,7 +4,7 @@
 #include <cstdint>
 
 #include "base/Event.h"
-#include "toolkit/Timer.h"
+#include "platform/Timer.h"
 
 // The speed factor of a knob or wheel: how fast it is turned, from the pulses of a period. The
 // periods follow each other as long as there is something to sample; a control at rest wakes

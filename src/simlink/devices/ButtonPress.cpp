@@ -1,4 +1,4 @@
-#include "simlink/ButtonPress.h"
+#include "simlink/devices/ButtonPress.h"
 
 #include <utility>
 

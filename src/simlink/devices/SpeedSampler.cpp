@@ -1,4 +1,4 @@
-#include "simlink/SpeedSampler.h"
+#include "simlink/devices/SpeedSampler.h"
 
 SpeedSampler::SpeedSampler(MessageLoop& loop, uint32_t periodMs, Thresholds thresholds)
     : thresholds_(thresholds), timer_(loop, periodMs) {

@@ -4,7 +4,7 @@
 
 #include "base/Event.h"
 #include "platform/Clock.h"
-#include "toolkit/Timer.h"
+#include "platform/Timer.h"
 
 // Tells short presses of a panel's buttons from long ones. All buttons of a panel share one: a
 // press of a second button while the first is held restarts the time and takes its place.
