@@ -29,8 +29,8 @@ std::span<uint8_t, 5> Digits(std::array<uint8_t, kMultiReportSize>& report, size
 
 ctlMultiPanel::ctlMultiPanel(Container& parent, const DeviceServices& services)
     : cPanelDevice(parent, services, PanelKind::Multi),
-      rotSpeed_(services.loop, kSpeedPeriodMs, kKnobThresholds),
-      trimSpeed_(services.loop, kSpeedPeriodMs, kTrimThresholds),
+      rotSpeed_(services.clock, services.loop, kSpeedPeriodMs, kKnobThresholds),
+      trimSpeed_(services.clock, services.loop, kSpeedPeriodMs, kTrimThresholds),
       pulses_{{
           {MultiPanelBit::kKnobClockwisePulse, PulsePair(kKnobWindowMs), rotSpeed_, RotaryUp,
            &MultiPanelPicture::KnobClockwise},
@@ -43,7 +43,10 @@ ctlMultiPanel::ctlMultiPanel(Container& parent, const DeviceServices& services)
       }},
       press_(services.clock, services.loop, services.generalSetup.ClickThreshold) {
     std::fill_n(display_.bytes.begin() + kMultiUpperDigits, 10, kMultiBlank);
-    press_.LongClick.Connect([this](int32_t mask) { ButtonLongClick.Raise(mask); });
+    press_.LongClick.Connect([this](int32_t mask) {
+        Tell(ButtonLongClick, mask);
+        TellWaiting();
+    });
     rotSpeed_.Sampled.Connect(
         [this](int16_t speed) { OnScreen.ShowSpeed(OnScreen.labSpeed, speed); });
     trimSpeed_.Sampled.Connect(
@@ -71,25 +74,25 @@ void ctlMultiPanel::HandleReport(const Change& change, uint32_t clock) {
 
 void ctlMultiPanel::CheckPulse(Pulses& pulses, int32_t state, uint32_t clock) {
     const bool bit = (state & pulses.bit) != 0;
-    if (bit) pulses.speed.Pulse();
+    if (bit) pulses.speed.Pulse(clock);
     if (!pulses.pair.Report(bit, clock)) return;
     (OnScreen.*pulses.show)();
-    pulses.step.Raise(pulses.speed.Speed());
+    Tell(pulses.step, pulses.speed.SpeedAt(clock));
 }
 
 void ctlMultiPanel::CheckButton(int32_t mask, const Change& change, uint32_t clock) {
     if (!change.Touches(mask)) return;
     if (change.after & mask) {
-        ButtonDown.Raise(mask);
+        Tell(ButtonDown, mask);
         OnScreen.ShowButton(mask, true);
         press_.Down(mask, clock);
         return;
     }
-    ButtonUp.Raise(mask);
+    Tell(ButtonUp, mask);
     OnScreen.ShowButton(mask, false);
     if (!press_.Up(clock)) return;
-    press_.Cancel();  // first: the click's listeners may let the next press in
-    ButtonClick.Raise(mask);
+    press_.Cancel();
+    Tell(ButtonClick, mask);
 }
 
 void ctlMultiPanel::CheckFlaps(int32_t mask, const Change& change) {
@@ -98,23 +101,23 @@ void ctlMultiPanel::CheckFlaps(int32_t mask, const Change& change) {
         OnScreen.ShowFlaps(0);
     } else if (mask == MultiPanelBit::kFlapsUp) {
         OnScreen.ShowFlaps(1);
-        FlapsUp.Raise();
+        Tell(FlapsUp);
     } else {
         OnScreen.ShowFlaps(-1);
-        FlapsDown.Raise();
+        Tell(FlapsDown);
     }
 }
 
 void ctlMultiPanel::TakeAutoThrottle(int32_t state) {
     const bool armed = (state & MultiPanelBit::kAutoThrottleArm) != 0;
     OnScreen.ShowAutoThrottle(armed);
-    AutoThrottleChange.Raise(armed);
+    Tell(AutoThrottleChange, armed);
 }
 
 void ctlMultiPanel::TakeSelector(int32_t bits, int32_t before) {
     OnScreen.ShowSelector(bits);
-    SelectorChange.Raise(bits, before);
-    WriteDisplay();  // a report that is waiting goes out
+    Tell(SelectorChange, bits, before);
+    Then([this] { WriteDisplay(); });  // a report that is waiting goes out
 }
 
 void ctlMultiPanel::ReadPositions() {

@@ -18,8 +18,8 @@ constexpr int SideNumber(size_t side) { return static_cast<int>(side) + 1; }
 
 ctlRadioPanel::ctlRadioPanel(Container& parent, const DeviceServices& services)
     : cPanelDevice(parent, services, PanelKind::Radio),
-      rotSpeed_{SpeedSampler(services.loop, kSpeedPeriodMs, kThresholds),
-                SpeedSampler(services.loop, kSpeedPeriodMs, kThresholds)},
+      rotSpeed_{SpeedSampler(services.clock, services.loop, kSpeedPeriodMs, kThresholds),
+                SpeedSampler(services.clock, services.loop, kSpeedPeriodMs, kThresholds)},
       press_(services.clock, services.loop, services.generalSetup.ClickThreshold) {
     std::fill_n(display_.bytes.begin() + RadioFirstByte(0), kRadioDisplays * kRadioDigits,
                 kRadioDark);
@@ -55,10 +55,10 @@ void ctlRadioPanel::CheckRotary(size_t knob, int32_t state, uint32_t clock) {
     const auto check = [&](int32_t bit, PulsePair& pair, int16_t degrees,
                            Event<int32_t, int16_t>& step) {
         const bool set = (state & bit) != 0;
-        if (set) speed.Pulse();
+        if (set) speed.Pulse(clock);
         if (!pair.Report(set, clock)) return;
         OnScreen.TurnRotary(rotary, degrees);
-        step.Raise(rotary, speed.Speed());
+        Tell(step, rotary, speed.SpeedAt(clock));
     };
     check(kRadioKnobBits[knob].clockwise, rings_[knob].up, kTurnDegrees, RotaryUp);
     check(kRadioKnobBits[knob].counterClockwise, rings_[knob].down, -kTurnDegrees, RotaryDown);
@@ -67,8 +67,8 @@ void ctlRadioPanel::CheckRotary(size_t knob, int32_t state, uint32_t clock) {
 void ctlRadioPanel::TakeSelector(size_t side, const Change& change) {
     const int32_t mask = kRadioSelectorMasks[side];
     OnScreen.ShowSelector(SideNumber(side), change.after & mask);
-    SelectorChange.Raise(static_cast<int16_t>(SideNumber(side)), change.after & mask,
-                         change.before & mask);
+    Tell(SelectorChange, static_cast<int16_t>(SideNumber(side)), change.after & mask,
+         change.before & mask);
 }
 
 void ctlRadioPanel::CheckButton(size_t side, const Change& change, uint32_t clock) {
@@ -77,22 +77,23 @@ void ctlRadioPanel::CheckButton(size_t side, const Change& change, uint32_t cloc
     const bool down = (change.after & mask) != 0;
     OnScreen.ShowButton(SideNumber(side), down);
     if (down) {
-        ButtonDown.Raise(mask);
+        Tell(ButtonDown, mask);
         press_.Down(mask, clock);
         return;
     }
     if (press_.Up(clock)) {
-        press_.Cancel();  // first: the click's listeners may let the next press in
-        ButtonClick.Raise(mask);
+        press_.Cancel();
+        Tell(ButtonClick, mask);
     }
-    ButtonUp.Raise(mask);
+    Tell(ButtonUp, mask);
 }
 
 // The long click may come when the button is up again. What it then holds down has to be let go.
 void ctlRadioPanel::TakeLongClick(int32_t mask) {
     const bool released = (LastState() & mask) == 0;
-    ButtonLongClick.Raise(mask);
-    if (released) ButtonUp.Raise(mask);
+    Tell(ButtonLongClick, mask);
+    if (released) Tell(ButtonUp, mask);
+    TellWaiting();
 }
 
 void ctlRadioPanel::ReadPositions() {
@@ -102,7 +103,7 @@ void ctlRadioPanel::ReadPositions() {
     for (size_t side = 0; side < kSides; ++side) TakeSelector(side, change);
     // What was held when the session before was lost may have come up since.
     for (const int32_t mask : kRadioButtonBits) {
-        if (read && !(change.after & mask)) ButtonUp.Raise(mask);
+        if (read && !(change.after & mask)) Tell(ButtonUp, mask);
     }
 }
 

@@ -10,8 +10,8 @@ ctlSwitchPanel::~ctlSwitchPanel() { End(); }
 void ctlSwitchPanel::HandleReport(const Change& change, uint32_t /*clock*/) {
     if (change.first || change.Touches(kSwitchSelectorMask)) {
         OnScreen.ShowSelector(change.after & kSwitchSelectorMask);
-        SelectorChange.Raise(change.after & kSwitchSelectorMask,
-                             change.before & kSwitchSelectorMask);
+        Tell(SelectorChange, change.after & kSwitchSelectorMask,
+             change.before & kSwitchSelectorMask);
     }
     for (size_t toggle = 0; toggle < kSwitchToggleBits.size(); ++toggle) {
         CheckSwitch(toggle, change);
@@ -24,7 +24,7 @@ void ctlSwitchPanel::CheckSwitch(size_t toggle, const Change& change) {
     if (!change.first && !change.Touches(bit)) return;
     const bool on = (change.after & bit) != 0;
     OnScreen.ShowToggle(toggle, on);
-    SwitchChange.Raise(bit, on);
+    Tell(SwitchChange, bit, on);
 }
 
 // A lever that leaves its position hasn't reached another one yet.
@@ -33,7 +33,7 @@ void ctlSwitchPanel::CheckGear(bool down, const Change& change) {
     const bool reached = (change.after & bit) != 0 && (change.first || !(change.before & bit));
     if (!reached) return;
     OnScreen.ShowGear(down);
-    (down ? GearDown : GearUp).Raise();
+    Tell(down ? GearDown : GearUp);
 }
 
 void ctlSwitchPanel::ChangeLights(std::optional<Color> GearN, std::optional<Color> GearL,

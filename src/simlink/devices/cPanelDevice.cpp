@@ -5,19 +5,23 @@
 namespace {
 
 constexpr int32_t kReadWaitMs = 1500;
-constexpr uint32_t kHandlingMs = 1000;
+constexpr uint32_t kMostTellingMs = 1000;
 constexpr int32_t kPictureWidth = 10905;
 constexpr int32_t kPictureHeight = 2865;
 
 }  // namespace
 
 cPanelDevice::cPanelDevice(Container& parent, const DeviceServices& services, PanelKind kind)
-    : Picture(&parent), services_(services), kind_(kind) {
+    : Picture(&parent),
+      services_(services),
+      kind_(kind),
+      timerWaiting_(services.loop, kMostTellingMs) {
     Move(0, 0, kPictureWidth, kPictureHeight);
     cmdSetup.Caption = "Setup";
     cmdSetup.ToolTip = "Click to open the setup form for this panel";
     cmdSetup.Move(9780, 2460, 1005, 330);
     cmdSetup.Click.Connect([this] { SetupRequest.Raise(); });
+    timerWaiting_.Tick.Connect([this] { TellWaiting(); });
 }
 
 cPanelDevice::~cPanelDevice() { Disconnect(); }
@@ -40,36 +44,49 @@ bool cPanelDevice::Connect(const std::string& DevicePathName) {
 }
 
 void cPanelDevice::TakeReport(uint8_t byte0, uint8_t byte1, uint8_t byte2, uint8_t byte3) {
-    waiting_.push_back({StateWord(byte1, byte2, byte3), link_->ReportClock});
+    reports_.push_back({StateWord(byte1, byte2, byte3), link_->ReportClock});
     RawInput.Raise(byte0, byte1, byte2, byte3);
-    HandleWaiting();
+    TellWaiting();
 }
 
 void cPanelDevice::GetPositions() {
-    const bool within = std::exchange(handling_, true);
-    const uint32_t since = std::exchange(handlingSince_, services_.clock.GetTickCount());
     ReadPositions();
-    handling_ = within;
-    handlingSince_ = since;
-    HandleWaiting();
+    TellWaiting();
 }
 
-// One report after the other, each as a whole; but a box that something opens on the way must not
-// hold the panel up for as long as it stands.
-void cPanelDevice::HandleWaiting() {
-    const uint32_t now = services_.clock.GetTickCount();
-    if (handling_ && now - handlingSince_ < kHandlingMs) return;
-    const bool within = std::exchange(handling_, true);
-    const uint32_t since = handlingSince_;
-    while (!waiting_.empty()) {
-        const auto [state, clock] = waiting_.front();
-        waiting_.pop_front();
+// One after the other; but a box that a listener opens must not hold the panel up for as long as it
+// stands.
+void cPanelDevice::TellWaiting() {
+    const uint32_t told = services_.clock.GetTickCount() - tellingSince_;
+    if (telling_ && told < kMostTellingMs) {
+        timerWaiting_.SetInterval(kMostTellingMs - told);
+        timerWaiting_.SetEnabled(true);
+        return;
+    }
+    timerWaiting_.SetEnabled(false);
+    const bool within = std::exchange(telling_, true);
+    const uint32_t since = tellingSince_;
+    for (std::function<void()> act; NextAct(act);) {
+        tellingSince_ = services_.clock.GetTickCount();
+        act();
+    }
+    timerWaiting_.SetEnabled(false);
+    telling_ = within;
+    tellingSince_ = since;
+}
+
+// A report is looked at when all that came before it is told.
+bool cPanelDevice::NextAct(std::function<void()>& act) {
+    while (acts_.empty() && !reports_.empty()) {
+        const auto [state, clock] = reports_.front();
+        reports_.pop_front();
         const bool first = std::exchange(firstReportPending_, false);
-        handlingSince_ = services_.clock.GetTickCount();
         HandleReport({std::exchange(lastState_, state), state, first}, clock);
     }
-    handling_ = within;
-    handlingSince_ = since;
+    if (acts_.empty()) return false;
+    act = std::move(acts_.front());
+    acts_.pop_front();
+    return true;
 }
 
 void cPanelDevice::End() {
@@ -80,7 +97,9 @@ void cPanelDevice::End() {
 void cPanelDevice::Disconnect() {
     if (ended_) return;
     ended_ = true;
-    waiting_.clear();
+    reports_.clear();
+    acts_.clear();
+    timerWaiting_.SetEnabled(false);
     MessageLoop& loop = services_.loop;
     if (link_) {
         loop.RunPending();

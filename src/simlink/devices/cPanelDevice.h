@@ -2,8 +2,10 @@
 
 #include <cstdint>
 #include <deque>
+#include <functional>
 #include <memory>
 #include <string>
+#include <utility>
 
 #include "base/Event.h"
 #include "config/cSetupHolder.h"
@@ -11,6 +13,7 @@
 #include "platform/Deckhub.h"
 #include "platform/HidPort.h"
 #include "platform/MessageLoop.h"
+#include "platform/Timer.h"
 #include "simlink/devices/PanelIdentity.h"
 #include "toolkit/CommandButton.h"
 #include "toolkit/Picture.h"
@@ -62,15 +65,25 @@ class cPanelDevice : public Picture {
         bool Touches(int32_t mask) const { return ((before ^ after) & mask) != 0; }
     };
 
-    // A report has come, at this clock. Its events may let messages run; reports among them wait
-    // until this one is done.
+    // A report has come, at this clock: notes and shows what it has brought, and tells it.
     virtual void HandleReport(const Change& /*change*/, uint32_t /*clock*/) {}
+    // The same of the positions that the device gives now.
     virtual void ReadPositions() {}
+    // Raises an event of the panel as soon as those before it are done. A listener may let messages
+    // run: what reports bring among them waits, so that all is told in the order in which it
+    // happened, and once.
+    template <class... Args, class... Values>
+    void Tell(Event<Args...>& event, Values... values) {
+        Then([&event, values...] { event.Raise(values...); });
+    }
+    void Then(std::function<void()> act) { acts_.push_back(std::move(act)); }
+    // Does what waits, unless it is being done.
+    void TellWaiting();
     // The device has just been opened.
     virtual void Connected() {}
 
     uintptr_t DeviceHandle() const { return deviceHandle_; }
-    // State word of the last report that has been handled, or is being handled.
+    // State word of the last report that has been looked at.
     int32_t LastState() const { return lastState_; }
     const DeviceServices& Services() const { return services_; }
 
@@ -89,15 +102,17 @@ class cPanelDevice : public Picture {
 
     void Disconnect();
     void TakeReport(uint8_t byte0, uint8_t byte1, uint8_t byte2, uint8_t byte3);
-    void HandleWaiting();
+    bool NextAct(std::function<void()>& act);
 
     const DeviceServices services_;
     const PanelKind kind_;
     std::unique_ptr<PanelLink> link_;
     uintptr_t deviceHandle_ = 0;
-    std::deque<Report> waiting_;
-    bool handling_ = false;
-    uint32_t handlingSince_ = 0;
+    std::deque<Report> reports_;              // not looked at yet
+    std::deque<std::function<void()>> acts_;  // what the last one has brought, not yet told
+    bool telling_ = false;
+    uint32_t tellingSince_ = 0;
+    Timer timerWaiting_;  // runs only while something waits behind a listener
     int32_t lastState_ = 0;
     bool firstReportPending_ = true;
     bool ended_ = false;

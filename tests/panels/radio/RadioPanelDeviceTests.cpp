@@ -172,7 +172,7 @@ TEST_F(RadioPanelDeviceTest, ABoxThatStandsWithinAnEventDoesNotHoldThePanelUp) {
         machine.loop.Advance(2000);
         log << "closed ";
     });
-    EXPECT_EQ(Play("4000"), "D4000 s1 20000 0 s1 10000 20000 closed ");
+    EXPECT_EQ(Play("4000"), "D4000 L4000 s1 20000 0 s1 10000 20000 closed ");
 }
 
 }  // namespace
