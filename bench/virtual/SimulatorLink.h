@@ -9,7 +9,7 @@ struct SimulatorLink {
     VirtualPlatform machine;
     cSession session{machine.ipc, machine.clock};
     modFSUIPC& fsuipc = session.Fsuipc;
-    EventOutput output{fsuipc, machine.keyboard, machine.loop, session.FSConnected};
+    EventOutput output{session, machine.keyboard, machine.loop};
     int32_t result = -1;
 
     bool Open(const char* windowClass = "UIPCMAIN") {

@@ -25,7 +25,8 @@ AircraftBinding::AircraftBinding(const Parts& parts) : parts_(parts) {
 bool AircraftBinding::BindAircraft(std::string title) {
     if (binding_) return false;
     binding_ = true;
-    ReadGear();
+    gearKnown_ = false;
+    AskForGear();
     currentAircraft_ = std::move(title);
     if (parts_.profiles.ReadWhatIsMissing()) FillProfileCombo();
     if (SettleProfile()) {
@@ -55,10 +56,12 @@ bool AircraftBinding::SettleProfile() {
     return true;
 }
 
-void AircraftBinding::ReadGear() {
-    cOFFSET retractable(parts_.session.Fsuipc, 0x060C, 2);
-    retractable.DirectRead(true);
-    parts_.session.GearIsRetractable = retractable.Data() != 0;
+void AircraftBinding::AskForGear() {
+    if (gearKnown_) return;
+    const auto retractable = parts_.session.ReadOffset(0x060C, 2);
+    if (!retractable) return;
+    gearKnown_ = true;
+    parts_.session.GearIsRetractable = *retractable != 0;
 }
 
 std::string AircraftBinding::ProfileForNew(const std::string& title) {

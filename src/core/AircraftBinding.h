@@ -41,8 +41,10 @@ class AircraftBinding {
 
     void FillProfileCombo();
 
+    // Asks the simulator whether the aircraft's gear is retractable, unless it is known.
+    void AskForGear();
+
   private:
-    void ReadGear();
     // False when the aircraft is to be left without one.
     bool SettleProfile();
     std::string ProfileForNew(const std::string& title);
@@ -53,4 +55,5 @@ class AircraftBinding {
     const Parts parts_;
     std::string currentAircraft_;
     bool binding_ = false;
+    bool gearKnown_ = true;  // until there is an aircraft
 };

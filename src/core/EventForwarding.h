@@ -6,7 +6,8 @@
 
 // What stands between a panel's device object and its logic: the events of the one become calls of
 // the other, bits become numbers. `find` gives the logic, or nullptr when the event is to be
-// dropped: while no simulator session is up, and after the logic is gone.
+// dropped: while no simulator session is up, and after the logic is gone. `away` gives it while no
+// session is up: what a control holds down is let go even then.
 
 template <class Control, class Find>
 void ForwardRadioEvents(Control& control, Find find) {
@@ -40,8 +41,8 @@ void ForwardRadioEvents(Control& control, Find find) {
     });
 }
 
-template <class Control, class Find>
-void ForwardMultiEvents(Control& control, Find find) {
+template <class Control, class Find, class Away>
+void ForwardMultiEvents(Control& control, Find find, Away away) {
     control.ButtonClick.Connect([find](int32_t button) {
         if (auto* logic = find()) logic->ButtonClick(MultiButtonPosition(button));
     });
@@ -71,13 +72,14 @@ void ForwardMultiEvents(Control& control, Find find) {
             logic->SelectorChange(MultiSelectorPosition(newBit), MultiSelectorPosition(oldBit));
         }
     });
-    control.AutoThrottleChange.Connect([find](bool armed) {
+    control.AutoThrottleChange.Connect([find, away](bool armed) {
         if (auto* logic = find()) logic->AutoThrottleChange(armed);
+        if (auto* logic = away()) logic->LetGoOfAutoThrottle();
     });
 }
 
-template <class Control, class Find>
-void ForwardSwitchEvents(Control& control, Find find) {
+template <class Control, class Find, class Away>
+void ForwardSwitchEvents(Control& control, Find find, Away away) {
     control.SwitchChange.Connect([find](int32_t bit, bool state) {
         if (auto* logic = find()) logic->SwitchChange(SwitchPosition(bit), state);
     });
@@ -86,10 +88,12 @@ void ForwardSwitchEvents(Control& control, Find find) {
             logic->SelectorChange(SwitchPosition(newBit), SwitchPosition(oldBit));
         }
     });
-    control.GearUp.Connect([find] {
+    control.GearUp.Connect([find, away] {
         if (auto* logic = find()) logic->GearUp();
+        if (auto* logic = away()) logic->LetGoOfGear();
     });
-    control.GearDown.Connect([find] {
+    control.GearDown.Connect([find, away] {
         if (auto* logic = find()) logic->GearDown();
+        if (auto* logic = away()) logic->LetGoOfGear();
     });
 }

@@ -12,11 +12,12 @@
 
 namespace {
 
-// The unit's logic while it is to get events.
+// The unit's logic while a session is up, or while none is.
 template <class Logic>
-auto FindLogic(const PanelUnit& unit, const cSession& session) {
-    return [&unit, &session]() -> Logic* {
-        return session.FSConnected ? static_cast<Logic*>(unit.logic.get()) : nullptr;
+auto FindLogic(const PanelUnit& unit, const cSession& session, bool connected) {
+    return [&unit, &session, connected]() -> Logic* {
+        if (session.FSConnected != connected) return nullptr;
+        return static_cast<Logic*>(unit.logic.get());
     };
 }
 
@@ -24,7 +25,8 @@ template <class Control, class Logic, class Forward>
 void MakeControl(PanelUnit& unit, Container& parent, const DeviceServices& services,
                  cSession& session, Forward forward) {
     auto control = std::make_unique<Control>(parent, services);
-    forward(*control, FindLogic<Logic>(unit, session));
+    forward(*control, FindLogic<Logic>(unit, session, true),
+            FindLogic<Logic>(unit, session, false));
     unit.control = std::move(control);
 }
 
@@ -44,17 +46,19 @@ std::unique_ptr<PanelUnit> MakePanelUnit(PanelKind kind, int16_t number, Contain
         case PanelKind::Radio:
             MakeControl<ctlRadioPanel, cRadioPanelLogic>(
                 *unit, parent, services, session,
-                [](auto& control, auto find) { ForwardRadioEvents(control, find); });
+                [](auto& control, auto find, auto) { ForwardRadioEvents(control, find); });
             break;
         case PanelKind::Multi:
             MakeControl<ctlMultiPanel, cMultiPanelLogic>(
-                *unit, parent, services, session,
-                [](auto& control, auto find) { ForwardMultiEvents(control, find); });
+                *unit, parent, services, session, [](auto& control, auto find, auto away) {
+                    ForwardMultiEvents(control, find, away);
+                });
             break;
         case PanelKind::Switch:
             MakeControl<ctlSwitchPanel, cSwitchPanelLogic>(
-                *unit, parent, services, session,
-                [](auto& control, auto find) { ForwardSwitchEvents(control, find); });
+                *unit, parent, services, session, [](auto& control, auto find, auto away) {
+                    ForwardSwitchEvents(control, find, away);
+                });
             break;
         case PanelKind::BIP:
             unit->control = std::make_unique<ctlBIPPanel>(parent, services);

@@ -8,6 +8,10 @@
 
 namespace {
 
+// Of the search for the simulator, and of polling it.
+constexpr uint32_t kWaitingIntervalMs = 1000;
+constexpr uint32_t kConnectedIntervalMs = 10;
+
 const MsgBoxRequest kQuitRequest = {"           Are you sure ?\nQuitting will stop the panels.",
                                     " ORVO - Quit request", MsgBoxIcon::Question,
                                     MsgBoxButtons::OkCancel};
@@ -34,13 +38,14 @@ frmMain::frmMain(const MainServices& services)
       timerFSUIPC(services.platform.loop, kWaitingIntervalMs),
       Binding({services.session, services.profiles, services.generalSetup, services.windows,
                cmbProfiles, Panels}),
-      services_(services),
-      aircraftTitle_(services.session.OffsetTable, "AIRCRAFT") {
+      Driver({services.session, services.output, services.platform.loop, Panels, Binding}),
+      services_(services) {
     Caption = "  ORVO    v0.5.1";
     PlaceControls();
     tabMain.Click.Connect([this] { SelectPage(); });
     btnQuit.Click.Connect([this] { AskQuit(); });
-    timerFSUIPC.Tick.Connect([this] { timerFSUIPC_Timer(); });
+    timerFSUIPC.Tick.Connect([this] { Driver.Tick(); });
+    FollowSession();
     trayDblClick_ = trayMain.DblClick.Connect([this] {
         if (!services_.windows.ModalWindowOpen && !IsUnloaded()) Show();
     });
@@ -77,9 +82,7 @@ void frmMain::LoadForm() {
     services_.session.Fsuipc.FSUIPC_Initialize();
     services_.platform.loop.RunPending();
     services_.session.FSConnected = false;
-    ShowDisconnected();
-    trayMain.SetIcon(TrayIcon::Yellow);
-    trayMain.SetToolTip("Waiting FS connection...");
+    ShowWaiting();
     trayMain.SetVisible(true);
     Binding.FillProfileCombo();
     cmbProfiles.SetListIndex(cmbProfiles.ListCount() - 1);
@@ -90,12 +93,37 @@ void frmMain::LoadForm() {
     Load();
 }
 
-void frmMain::ShowDisconnected() {
+void frmMain::FollowSession() {
+    Driver.Connected.Connect([this] { ShowConnected(); });
+    Driver.ChannelVersionRead.Connect(
+        [this](const std::string& version) { FSUIPCver.Text = "FSUIPC Version: " + version; });
+    Driver.SimulatorRead.Connect(
+        [this](const std::string& name) { FSver.Text = "Flight Simulator Version: " + name; });
+    Driver.AircraftSeen.Connect(
+        [this](const std::string& title) { Aircraft.Text = "Aircraft in use: " + title; });
+    Driver.Lost.Connect([this] { ShowWaiting(); });
+    Driver.Gone.Connect([this] {
+        if (!services_.generalSetup.AutoQuit) return;
+        timerFSUIPC.SetEnabled(false);
+        Unload();
+    });
+}
+
+void frmMain::ShowConnected() {
+    trayMain.SetIcon(TrayIcon::Green);
+    trayMain.SetToolTip("Connected...");
+    Status.Text = "FSUIPC Status: Connected";
+    timerFSUIPC.SetInterval(kConnectedIntervalMs);
+}
+
+void frmMain::ShowWaiting() {
+    timerFSUIPC.SetInterval(kWaitingIntervalMs);
+    trayMain.SetIcon(TrayIcon::Yellow);
+    trayMain.SetToolTip("Waiting FS connection...");
     Status.Text = "FSUIPC Status: Disconnected";
     FSUIPCver.Text = "FSUIPC Version:";
     FSver.Text = "Flight Simulator Version:";
     Aircraft.Text = "Aircraft in use:";
-    shownAircraft_.reset();
 }
 
 PanelUnit& frmMain::AddPanel(PanelKind kind, int32_t tab) {
@@ -155,8 +183,7 @@ void frmMain::SavePosition() {
 
 void frmMain::CloseDown() {
     timerFSUIPC.SetEnabled(false);
-    services_.session.Fsuipc.FSUIPC_Close();
-    services_.session.FSConnected = false;
+    Driver.Close();
     for (const PanelIdentity& identity : kPanelIdentities) {
         for (auto& unit : Panels[identity.kind]) {
             if (unit->logic) releasedLogics_.push_back(std::move(unit->logic));

@@ -4,7 +4,6 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -12,6 +11,7 @@
 #include "config/cSetupHolder.h"
 #include "core/AircraftBinding.h"
 #include "core/PanelUnit.h"
+#include "core/SessionDriver.h"
 #include "platform/Platform.h"
 #include "platform/Timer.h"
 #include "simlink/actions/EventOutput.h"
@@ -77,12 +77,10 @@ class frmMain : public Form {
     ctlTrayArea trayMain;
     Timer timerFSUIPC;
     AircraftBinding Binding;
+    SessionDriver Driver;
 
   private:
-    static constexpr uint32_t kWaitingIntervalMs = 1000;  // of the search for the simulator
-
     void PlaceControls();
-    void ShowDisconnected();
     void SelectPage();
     Control* PageOf(int32_t tab);
     void AskQuit();
@@ -91,20 +89,13 @@ class frmMain : public Form {
     void EndPanels();
     void ServeSetupRequest(PanelUnit& unit);
 
-    void timerFSUIPC_Timer();
-    void TryToConnect();
-    void ShowVersions();
-    void Poll();
-    bool BindDetectedAircraft();
-    void ShowAircraft();
-    void LoseSession();
+    void FollowSession();
+    void ShowConnected();
+    void ShowWaiting();
 
     const MainServices services_;
     ScopedConnection trayDblClick_;
     int32_t previousTab_ = 1;
-    std::string detectedAircraft_;
-    std::optional<std::string> shownAircraft_;  // none yet in this session
-    NamedOffset aircraftTitle_;
     // Logics of a closed window: they may have been closed from within one of their own calls.
     std::vector<std::unique_ptr<cPanelLogic>> releasedLogics_;
 };

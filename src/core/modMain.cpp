@@ -10,7 +10,7 @@ modMain::modMain(const Platform& platform, UiBackend& ui)
                    platform.process.ProgramFolder()),
       Profiles(platform.ini, platform.files, platform.process.ProgramFolder()),
       Session(platform.ipc, platform.clock),
-      Output(Session.Fsuipc, platform.keyboard, platform.loop, Session.FSConnected),
+      Output(Session, platform.keyboard, platform.loop),
       platform_(platform),
       ui_(ui) {}
 

@@ -112,10 +112,12 @@ TEST_F(BindingTest, ModeOfTheDefaultProfileIsInForceBeforeTheLogicsStart) {
     PutProfile("Default", "[Common]\r\nSpecialMode=ngx\r\n[MultiPanel2]\r\nNGXAPShort=4\r\n");
     Start();
     EXPECT_EQ(program->Session.OffsetTable.Item("AT-ARM")->Offset, 0x6535);
-    EXPECT_EQ(program->Session.OffsetTable.Item("AP-MASTER")->Offset, 0x6540) << "panel 2's";
+    const cOffsetTable& table = program->Session.OffsetTable;
+    EXPECT_EQ(table.Item("AP-MASTER 1")->Offset, 0x6545) << "each panel has lights of its own";
+    EXPECT_EQ(table.Item("AP-MASTER 2")->Offset, 0x6540);
     PutProfile("Default", "[Common]\r\nSpecialMode=ngx\r\n[MultiPanel2]\r\nNGXAPShort=7\r\n");
     Window().cmbProfiles.SetListIndex(0);
-    EXPECT_EQ(program->Session.OffsetTable.Item("AP-MASTER")->Offset, 0x653F);
+    EXPECT_EQ(table.Item("AP-MASTER 2")->Offset, 0x653F);
 }
 
 }  // namespace

@@ -34,6 +34,8 @@ struct Logic {
     void SwitchChange(int number, bool state) { Add("switch", number, state); }
     void GearUp() { Add("gear up"); }
     void GearDown() { Add("gear down"); }
+    void LetGoOfAutoThrottle() { Add("let go of throttle"); }
+    void LetGoOfGear() { Add("let go of gear"); }
 };
 
 struct RadioControl {
@@ -62,6 +64,9 @@ struct ForwardingTest : testing::Test {
     auto Find() {
         return [this] { return connected ? &logic : nullptr; };
     }
+    auto Away() {
+        return [this] { return connected ? nullptr : &logic; };
+    }
 };
 
 TEST_F(ForwardingTest, RadioKnobsBecomeRingsAndSides) {
@@ -80,7 +85,7 @@ TEST_F(ForwardingTest, RadioKnobsBecomeRingsAndSides) {
 
 TEST_F(ForwardingTest, MultiPanelEvents) {
     MultiControl control;
-    ForwardMultiEvents(control, Find());
+    ForwardMultiEvents(control, Find(), Away());
     control.ButtonClick.Raise(0x000200);
     control.ButtonLongClick.Raise(0x002000);
     control.RotaryUp.Raise(5);
@@ -98,7 +103,7 @@ TEST_F(ForwardingTest, MultiPanelEvents) {
 
 TEST_F(ForwardingTest, SwitchesAndGear) {
     SwitchControl control;
-    ForwardSwitchEvents(control, Find());
+    ForwardSwitchEvents(control, Find(), Away());
     control.SwitchChange.Raise(0x008000, true);
     control.SwitchChange.Raise(0x123456, false);
     control.SelectorChange.Raise(0x000001, 0x000008);

@@ -8,12 +8,12 @@ namespace {
 
 // Whichever kind of panel was there first, the others read its entry.
 TEST(SharedOffsetsTest, PanelsAgreeOnTheNamesThatTheyShare) {
-    std::set<std::string> names = {"MASTERBATTERY", "MASTERAVIONICS", kNGXUnit.name};
+    std::set<std::string> names = {"MASTERBATTERY", "MASTERAVIONICS"};
     const auto add = [&](const auto& table) {
         for (const auto& each : table) names.insert(each.name);
     };
     add(kTileOffsets), add(kSwitchOffsets), add(kRadioOffsets);
-    names.insert(kMultiPanelNames.begin(), kMultiPanelNames.end());
+    for (const auto& each : kMultiOffsets) names.insert(each.name);
     for (const std::string mode : {"", "maddog", "ngx"}) {
         std::map<std::string, std::array<int32_t, 3>> entries;
         int shared = 0;

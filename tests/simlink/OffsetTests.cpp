@@ -100,11 +100,11 @@ TEST_F(OffsetTest, StringsEndAtNulOrLenghtAndNeverPassTheStorage) {
 
 TEST_F(OffsetTest, DirectTransfers) {
     cOFFSET offset(fsuipc, 0x0BC0, 2);
-    offset.DirectRead(true);
+    EXPECT_FALSE(offset.DirectRead(true));
     EXPECT_EQ(offset.dwResult, 9) << "no channel";
     ASSERT_TRUE(Open());
     machine.server.Set<int16_t>(0x0BC0, -5);
-    offset.DirectRead(true);
+    EXPECT_TRUE(offset.DirectRead(true));
     EXPECT_EQ(offset.Data(), -5);
     offset.SetData(7);
     offset.DirectWrite(false);

@@ -4,6 +4,8 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "simlink/channel/OffsetRows.h"
+
 // What the functions of the BIP Panel's tiles read of the simulator, by name. The NGX add-on's
 // annunciators are plain bytes.
 
@@ -67,14 +69,8 @@ enum class TileOffset : uint8_t {
 
 inline constexpr auto kTileOffsetCount = static_cast<size_t>(TileOffset::None);
 
-struct TileOffsetRow {
-    const char* name;
-    int32_t offset;
-    int32_t dataType;
-};
-
 // In the order of TileOffset.
-inline constexpr std::array<TileOffsetRow, kTileOffsetCount> kTileOffsets = {{
+inline constexpr std::array<OffsetRow, kTileOffsetCount> kTileOffsets = {{
     {"ENGINE-FIRE", 0x3366, 1},
     {"ENG1-FUEL-PRESSURE", 0x08F8, 5},
     {"ENG1-OIL-PRESSURE", 0x08BA, 3},

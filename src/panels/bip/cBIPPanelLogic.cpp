@@ -9,11 +9,8 @@ cBIPPanelLogic::cBIPPanelLogic(const LogicServices& services, ctlBIPPanel& contr
       profiles_(services.profiles),
       control_(control),
       windows_(windows),
-      power_(session_.OffsetTable) {
-    for (const TileOffsetRow& each : kTileOffsets) {
-        offsets_.emplace_back(session_.OffsetTable, each.name);
-    }
-}
+      offsets_(session_.OffsetTable, kTileOffsets),
+      power_(session_.OffsetTable) {}
 
 void cBIPPanelLogic::StartUp() {
     BPActions = std::make_unique<cBIPPanelActionHolder>(profiles_);
@@ -38,9 +35,7 @@ void cBIPPanelLogic::RegisterTileOffsets() {
 }
 
 void cBIPPanelLogic::Register(TileOffset offset) {
-    if (offset == TileOffset::None) return;
-    const TileOffsetRow& row = kTileOffsets[static_cast<size_t>(offset)];
-    session_.OffsetTable.RegisterOffset(row.offset, row.dataType, row.name);
+    if (offset != TileOffset::None) offsets_.Register(static_cast<size_t>(offset));
 }
 
 const TileRule& cBIPPanelLogic::RuleOf(int16_t tile) const {

@@ -56,7 +56,7 @@ class cBIPPanelLogic final : public cPanelLogic {
     ProfileStore& profiles_;
     ctlBIPPanel& control_;
     const WindowState& windows_;
-    std::vector<NamedOffset> offsets_;  // as kTileOffsets
+    OffsetRows offsets_;
     MasterPower power_;
 
     bool gearTilesInUse_ = false;

@@ -2,11 +2,11 @@
 // in the standard mode.
 #include <algorithm>
 
+#include "panels/multi/MultiPanelNumber.h"
 #include "panels/multi/cMultiPanelLogic.h"
 
 namespace {
 
-constexpr int32_t kApproachButton = 7;
 constexpr int32_t kGlideSlopeHold = 0x07FC;
 constexpr int32_t kElevatorTrim = 0x0BC0;
 constexpr int32_t kFlapsIncrement = 0x3BFA;
@@ -20,10 +20,8 @@ int16_t OnCompass(int value) {
     return static_cast<int16_t>(value > 359 ? 0 : value);
 }
 
-constexpr int32_t OffsetOf(size_t row) {
-    const auto* found = std::ranges::find(kStandardOffsets, row, &MultiPanelOffset::row);
-    return found->offset;
-}
+// Where the standard mode has a value.
+constexpr int32_t OffsetOf(size_t value) { return kMultiOffsets[value].offset; }
 
 }  // namespace
 
@@ -40,69 +38,62 @@ void cMultiPanelLogic::Do(const ActionRecord& record, int times, NGX ngx, Standa
     }
 }
 
+// Where every position is bound to a virtual button, that of a position stays down while the
+// selector stands there.
 void cMultiPanelLogic::SelectorChange(int32_t NewPosition, int32_t OldPosition) {
     selectorPosition_ = NewPosition;
     ApplyRotAcceleration();
     ApplyTrimAcceleration();
     forceWrite_ = true;
     if (session_.SpecialMode == kMaddogMode) {
-        ShowMaddogPosition();
-    } else {
-        SendSelectorAction(NewPosition, OldPosition);
-    }
-}
-
-// Where every position is bound to a virtual button, that of a position stays down while the
-// selector stands there.
-void cMultiPanelLogic::SendSelectorAction(int32_t newPosition, int32_t oldPosition) {
-    const ActionRecord& reached = MPActions->GetSelectorActions(newPosition);
-    if (reached.FSEvent != ActionKind::VButton) {
-        output_.SendAction(reached);
+        selector_.LetGo();
+        maddog_.ShowPosition(NewPosition);
         return;
     }
-    output_.SetVirtualButton(reached, true, false);
-    const ActionRecord& left = MPActions->GetSelectorActions(oldPosition);
-    if (left.FSEvent == ActionKind::VButton) {
-        output_.SetVirtualButton(left, false, false);
-    }
+    const ActionRecord reached = MPActions->GetSelectorActions(NewPosition);
+    selector_.MoveTo(reached, MPActions->GetSelectorActions(OldPosition));
+    if (reached.FSEvent == ActionKind::VKey) output_.SendAction(reached);
 }
 
 void cMultiPanelLogic::Rotary(int16_t Direction, int16_t Speed) {
     if (session_.SpecialMode == kMaddogMode) {
-        SM_MADDOG_Rotary(Direction, Speed);
+        maddog_.SM_MADDOG_Rotary(Direction, Speed, selectorPosition_, SecondCourse());
         return;
     }
     const bool up = Direction == 1;
     const ActionRecord& record = up ? MPActions->GetRotUpActions(selectorPosition_)
                                     : MPActions->GetRotDownActions(selectorPosition_);
     Do(
-        record, Speed, [&] { TurnNGX(up); }, [&] { TurnStandard(up ? Speed : -Speed); });
+        record, Speed, [&] { ngx_.Turn(selectorPosition_, SecondCourse(), up); },
+        [&] { TurnStandard(up ? Speed : -Speed); });
 }
 
 void cMultiPanelLogic::TurnStandard(int step) {
+    if (!values_.AreRead()) return;
+    const auto write = [this](size_t value, int32_t type, double number) {
+        session_.WriteOffset(OffsetOf(value), type, number, false);
+    };
     switch (selectorPosition_) {
-        case 1:
+        case MultiPosition::kALT:
             altitudeValue_ = std::clamp(altitudeValue_ + step * 100, 0, 99000);
-            session_.WriteOffset(OffsetOf(kAltitudeRow), 4, altitudeValue_ / kFeetPerMetre * 65536,
-                                 false);
+            write(kAltitude, 4, altitudeValue_ / kFeetPerMetre * 65536);
             break;
-        case 2:
+        case MultiPosition::kVS:
             verticalSpeed_ =
                 static_cast<int16_t>(std::clamp(verticalSpeed_ + step * 100, -9900, 9900));
-            session_.WriteOffset(OffsetOf(kVerticalSpeedRow), 2, verticalSpeed_, false);
+            write(kVerticalSpeed, 2, verticalSpeed_);
             break;
-        case 3:
+        case MultiPosition::kIAS:
             speedValue_ = std::max(speedValue_ + step, 0.0);
-            session_.WriteOffset(OffsetOf(kSpeedRow), 2, speedValue_, false);
+            write(kSpeed, 2, speedValue_);
             break;
-        case 4:
+        case MultiPosition::kHDG:
             headingBug_ = OnCompass(headingBug_ + step);
-            session_.WriteOffset(OffsetOf(kHeadingRow), 3, headingBug_ / 360.0 * 65536, false);
+            write(kHeading, 3, headingBug_ / 360.0 * 65536);
             break;
-        case 5:
+        case MultiPosition::kCRS:
             courseValue_ = OnCompass(courseValue_ + step);
-            session_.WriteOffset(OffsetOf(SecondCourse() ? kCourse2Row : kCourse1Row), 2,
-                                 courseValue_, false);
+            write(SecondCourse() ? kCourse2 : kCourse1, 2, courseValue_);
             break;
         default:
             break;
@@ -111,7 +102,7 @@ void cMultiPanelLogic::TurnStandard(int step) {
 
 void cMultiPanelLogic::ButtonClick(int32_t Button) {
     if (session_.SpecialMode == kMaddogMode) {
-        SM_MADDOG_ButtonClick(Button);
+        maddog_.SM_MADDOG_ButtonClick(Button, values_.AreRead());
     } else {
         PressButton(Button, MPActions->GetButtonsActions(Button),
                     MPActions->NGXGetShortButtonsActions(Button));
@@ -127,66 +118,90 @@ void cMultiPanelLogic::ButtonLongClick(int32_t Button) {
     }
 }
 
-void cMultiPanelLogic::PressButton(int32_t button, const ActionRecord& record, uint8_t ngxRow) {
-    Do(
-        record, 1, [&] { RunNGXFunction(ngxRow); }, [&] { ToggleHold(button); });
+void cMultiPanelLogic::SM_MADDOG_ButtonLongClick(int32_t Button) {
+    maddog_.SM_MADDOG_ButtonLongClick(Button, selectorPosition_, values_.AreRead());
 }
 
-void cMultiPanelLogic::ToggleHold(int32_t button) {
-    cOFFSET hold(session_.Fsuipc, OffsetOf(static_cast<size_t>(button - 1)), 4);
-    hold.DirectRead(true);
-    const double value = hold.Data() == 0 ? 1 : 0;
-    session_.WriteOffset(hold.Offset, 4, value, false);
-    if (button == kApproachButton) session_.WriteOffset(kGlideSlopeHold, 4, value, false);
+void cMultiPanelLogic::PressButton(int32_t button, const ActionRecord& record, uint8_t ngxRow) {
+    Do(
+        record, 1, [&] { ngx_.RunFunction(ngxRow); },
+        [&] { session_.Acts.Do([this, button] { return ToggleHold(button); }); });
+}
+
+bool cMultiPanelLogic::ToggleHold(int32_t button) {
+    const int32_t offset = OffsetOf(static_cast<size_t>(button - 1));
+    const auto hold = session_.ReadOffset(offset, 4);
+    if (!hold) return false;
+    const double value = *hold == 0 ? 1 : 0;
+    session_.WriteOffset(offset, 4, value, false);
+    if (button == MultiButton::kAPR) session_.WriteOffset(kGlideSlopeHold, 4, value, false);
+    return true;
 }
 
 void cMultiPanelLogic::Trim(int16_t Direction, int16_t Speed) {
     const bool up = Direction == 1;
+    const bool reversed = MPActions->ReverseTrim == 1;
+    const double step = Speed * MPActions->TrimSensitivity * 8.0 * (up != reversed ? 1 : -1);
     Do(
-        MPActions->GetTrimActions(Direction), Speed, [&] { TrimNGX(up, Speed); },
-        [&] { TrimStandard(up, Speed); });
+        MPActions->GetTrimActions(Direction), Speed,
+        [&] { ngx_.Trim(up != (MPActions->ReverseTrim != 0), Speed); },
+        [&] { session_.Acts.Do([this, step] { return TrimStandard(step); }); });
 }
 
-void cMultiPanelLogic::TrimStandard(bool up, int16_t speed) {
-    const double step = speed * MPActions->TrimSensitivity * 8.0;
-    if (MPActions->ReverseTrim == 1) up = !up;
-    cOFFSET trim(session_.Fsuipc, kElevatorTrim, 2);
-    trim.DirectRead(true);
-    trim.SetData(std::clamp(trim.Data() + (up ? step : -step), -kFullDeflection, kFullDeflection));
-    trim.DirectWrite(true);
+bool cMultiPanelLogic::TrimStandard(double step) {
+    const auto trim = session_.ReadOffset(kElevatorTrim, 2);
+    if (!trim) return false;
+    session_.WriteOffset(kElevatorTrim, 2,
+                         std::clamp(*trim + step, -kFullDeflection, kFullDeflection), true);
+    return true;
 }
 
 void cMultiPanelLogic::Flaps(int16_t Direction) {
     const bool up = Direction == 1;
+    const uint8_t reverse = MPActions->ReverseFlaps;
     Do(
-        MPActions->GetFlapsActions(Direction), 1, [&] { MoveFlapsNGX(up); },
-        [&] { MoveFlapsStandard(up); });
+        MPActions->GetFlapsActions(Direction), 1, [&] { ngx_.MoveFlaps(up != (reverse != 0)); },
+        [&] {
+            session_.Acts.Do(
+                [this, higher = up != (reverse == 1)] { return MoveFlapsStandard(higher); });
+        });
 }
 
-void cMultiPanelLogic::MoveFlapsStandard(bool up) {
-    cOFFSET increment(session_.Fsuipc, kFlapsIncrement, 2);
-    increment.DirectRead(true);
-    const double step = increment.Data();
-    if (MPActions->ReverseFlaps == 1) up = !up;
-    cOFFSET flaps(session_.Fsuipc, kFlapsControl, 2);
-    flaps.DirectRead(true);
-    flaps.SetData(std::clamp(flaps.Data() + (up ? -step : step), 0.0, kFullDeflection));
-    flaps.DirectWrite(false);
+bool cMultiPanelLogic::MoveFlapsStandard(bool up) {
+    const auto step = session_.ReadOffset(kFlapsIncrement, 2);
+    const auto flaps = step ? session_.ReadOffset(kFlapsControl, 2) : std::nullopt;
+    if (!flaps) return false;
+    session_.WriteOffset(kFlapsControl, 2,
+                         std::clamp(*flaps + (up ? -*step : *step), 0.0, kFullDeflection), false);
+    return true;
 }
 
+// The button of a VButton record holds the switch's position.
 void cMultiPanelLogic::AutoThrottleChange(int16_t State) {
-    if (session_.SpecialMode == kMaddogMode) {
-        SM_MADDOG_AutoThrottle(State);
-        return;
-    }
     const bool armed = State != 0;
-    const ActionRecord& record = MPActions->GetAutoThrottleActions(armed ? 1 : 0);
-    if (record.FSEvent == ActionKind::VButton) {
-        // The button holds the switch's position.
-        output_.SetVirtualButton(record, armed, false);
-        return;
+    const bool maddog = session_.SpecialMode == kMaddogMode;
+    const ActionRecord record =
+        maddog ? ActionRecord{} : MPActions->GetAutoThrottleActions(armed ? 1 : 0);
+    if (armed) {
+        autoThrottle_.MoveTo(record);
+    } else {
+        autoThrottle_.LetGo(record);
     }
-    Do(
-        record, 1, [&] { SetThrottleNGX(armed); },
-        [&] { session_.WriteOffset(kAutoThrottleArm, 4, armed ? 1 : 0, false); });
+    if (maddog) {
+        maddog_.SM_MADDOG_AutoThrottle(State);
+    } else if (record.FSEvent != ActionKind::VButton) {
+        Do(
+            record, 1, [&] { session_.Acts.Do([this, armed] { return SetThrottleNGX(armed); }); },
+            [&] { session_.WriteOffset(kAutoThrottleArm, 4, armed ? 1 : 0, false); });
+    }
+}
+
+// The control only turns the add-on's switch over, so it goes out where the two differ.
+bool cMultiPanelLogic::SetThrottleNGX(bool armed) {
+    const OffsetRow& row = kMultiOffsets[kThrottleArm];
+    const auto addOn = values_.AreRead() ? std::optional(Value(kThrottleArm))
+                                         : session_.ReadOffset(row.offset, row.dataType);
+    if (!addOn) return false;
+    if (armed ? *addOn == 0 : *addOn == 1) ngx_.ClickAutoThrottle();
+    return true;
 }

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "base/Number.h"
+#include "panels/multi/MultiPanelNumber.h"
 #include "simlink/channel/NGXEventTable.h"
 
 namespace {
@@ -28,26 +29,34 @@ cMultiPanelLogic::cMultiPanelLogic(const LogicServices& services, ctlMultiPanel&
       session_(services.session),
       output_(services.output),
       profiles_(services.profiles),
-      clock_(services.clock),
       control_(control),
-      power_(session_.OffsetTable) {
-    for (const char* name : kMultiPanelNames) offsets_.emplace_back(session_.OffsetTable, name);
+      offsets_(session_.OffsetTable, kMultiOffsets),
+      power_(session_.OffsetTable),
+      maddog_(output_, control),
+      ngx_(output_, services.clock),
+      selector_(output_),
+      autoThrottle_(output_),
+      values_(session_) {
+    for (size_t light = 0; light < kMultiPanelLights; ++light) {
+        lightNames_[light] = kMultiOffsets[light].name + (' ' + FormatInteger(Index));
+        lights_.emplace_back(session_.OffsetTable, lightNames_[light].c_str());
+    }
 }
 
 void cMultiPanelLogic::StartUp() {
     MPActions = std::make_unique<cMultiPanelActionsHolder>(profiles_);
     MPActions->Index = Index;
     MPActions->LoadSetup();
-    panelLights_ = 0;
     forceWrite_ = false;
     power_.Register();
     SetupChanged();
 }
 
 void cMultiPanelLogic::SetupChanged() {
-    if (selectorPosition_ != 0) ApplyRotAcceleration();
+    if (selectorPosition_ != MultiPosition::kNone) ApplyRotAcceleration();
     ApplyTrimAcceleration();
     RegisterOffsets();
+    values_.Forget();
 }
 
 void cMultiPanelLogic::ApplyRotAcceleration() {
@@ -59,46 +68,27 @@ void cMultiPanelLogic::ApplyTrimAcceleration() {
 }
 
 void cMultiPanelLogic::RegisterOffsets() {
-    for (const char* name : kMultiPanelNames) session_.OffsetTable.UnregisterOffset(name);
-    switch (session_.SpecialMode) {
-        case kNGXMode:
-            RegisterNGXLights();
-            Register(kNGXOffsets);
-            break;
-        case kMaddogMode:
-            Register(kMaddogOffsets);
-            maddog_ = {};
-            panelLights_ = 0;  // the lights of another mode mean nothing here
-            break;
-        default:
-            Register(kStandardOffsets);
-            break;
-    }
-}
-
-void cMultiPanelLogic::Register(std::span<const MultiPanelOffset> offsets) {
-    for (const MultiPanelOffset& each : offsets) {
-        session_.OffsetTable.RegisterOffset(each.offset, each.dataType, kMultiPanelNames[each.row]);
-    }
+    for (const std::string& name : lightNames_) session_.OffsetTable.UnregisterOffset(name);
+    offsets_.RegisterMode(session_.SpecialMode);
+    if (session_.SpecialMode == kNGXMode) RegisterNGXLights();
+    if (session_.SpecialMode == kMaddogMode) maddog_.Start();
 }
 
 // A button's light is that of its short function.
 void cMultiPanelLogic::RegisterNGXLights() {
-    for (size_t row = 0; row < kMultiPanelLightRows; ++row) {
-        const auto button = static_cast<int32_t>(row + 1);
+    for (size_t light = 0; light < kMultiPanelLights; ++light) {
+        const auto button = static_cast<int32_t>(light + 1);
         const size_t function = MPActions->NGXGetShortButtonsActions(button);
         session_.OffsetTable.RegisterOffset(NGXEventTable[kNGXRows + function], kNGXLightType,
-                                            kMultiPanelNames[row]);
+                                            lightNames_[light]);
     }
 }
 
 void cMultiPanelLogic::RefreshData() {
     if (session_.SpecialMode == kMaddogMode) {
-        RefreshMaddog();
+        values_.Take();
+        maddog_.Refresh(Value(kMaster) == 1);
         return;
-    }
-    for (size_t row = 0; row < kMultiPanelLightRows; ++row) {
-        UpdateLight(row, static_cast<uint8_t>(1 << row));
     }
     RefreshValues();
     RefreshTexts();
@@ -106,13 +96,19 @@ void cMultiPanelLogic::RefreshData() {
         control_.TurnOffDisplay();
         return;
     }
-    control_.WriteDisplay(upperText_, lowerText_, panelLights_, forceWrite_);
+    control_.WriteDisplay(upperText_, lowerText_, Lights(), forceWrite_);
     forceWrite_ = false;
 }
 
-void cMultiPanelLogic::UpdateLight(size_t row, uint8_t bit) {
-    const int lights = Value(row) == 1 ? panelLights_ | bit : panelLights_ & ~bit;
-    panelLights_ = static_cast<uint8_t>(lights);
+// Only 1 lights a button.
+uint8_t cMultiPanelLogic::Lights() const {
+    unsigned lights = 0;
+    for (size_t light = 0; light < kMultiPanelLights; ++light) {
+        const NamedOffset& state =
+            session_.SpecialMode == kNGXMode ? lights_[light] : offsets_[light];
+        if (state.Data() == 1) lights |= 1U << light;
+    }
+    return static_cast<uint8_t>(lights);
 }
 
 bool cMultiPanelLogic::SecondCourse() const {
@@ -123,26 +119,27 @@ bool cMultiPanelLogic::SecondCourse() const {
 void cMultiPanelLogic::RefreshValues() {
     const bool ngx = session_.SpecialMode == kNGXMode;
     const double degrees = ngx ? 1 : 360.0 / 65536;
-    speedValue_ = Value(kSpeedRow);
-    verticalSpeed_ = RoundTo<int16_t>(Value(kVerticalSpeedRow));
-    courseValue_ = RoundTo<int16_t>(Value(SecondCourse() ? kCourse2Row : kCourse1Row));
-    headingBug_ = RoundTo<int16_t>(Value(kHeadingRow) * degrees);
+    speedValue_ = Value(kSpeed);
+    verticalSpeed_ = RoundTo<int16_t>(Value(kVerticalSpeed));
+    courseValue_ = RoundTo<int16_t>(Value(SecondCourse() ? kCourse2 : kCourse1));
+    headingBug_ = RoundTo<int16_t>(Value(kHeading) * degrees);
     altitudeValue_ =
-        RoundTo<int32_t>(ngx ? Value(kAltitudeRow) : Value(kAltitudeRow) * kFeetPerMetre / 65536);
+        RoundTo<int32_t>(ngx ? Value(kAltitude) : Value(kAltitude) * kFeetPerMetre / 65536);
+    values_.Take();
 }
 
 void cMultiPanelLogic::RefreshTexts() {
     switch (selectorPosition_) {
-        case 1:
-        case 2:
-        case 3:
+        case MultiPosition::kALT:
+        case MultiPosition::kVS:
+        case MultiPosition::kIAS:
             session_.SpecialMode == kNGXMode ? ShowNGX() : ShowStandard();
             break;
-        case 4:
+        case MultiPosition::kHDG:
             SetNumber(upperText_, headingBug_, 3);
             lowerText_.clear();
             break;
-        case 5:
+        case MultiPosition::kCRS:
             SetNumber(upperText_, courseValue_, 3);
             lowerText_.clear();
             break;
@@ -153,7 +150,7 @@ void cMultiPanelLogic::RefreshTexts() {
 
 // Positions ALT, VS and IAS.
 void cMultiPanelLogic::ShowStandard() {
-    if (selectorPosition_ == 3) {
+    if (selectorPosition_ == MultiPosition::kIAS) {
         SetNumber(upperText_, RoundHalfEven(speedValue_), 1);
         lowerText_.clear();
         return;
@@ -164,10 +161,10 @@ void cMultiPanelLogic::ShowStandard() {
 
 // The same positions of the add-on, whose windows can be blank.
 void cMultiPanelLogic::ShowNGX() {
-    if (selectorPosition_ == 3) {
+    if (selectorPosition_ == MultiPosition::kIAS) {
         upperText_.clear();
         lowerText_.clear();
-        if (Value(kSpeedBlankRow) != 0) return;
+        if (Value(kSpeedBlank) != 0) return;
         if (speedValue_ < kLowestKnots) {
             AppendFixed(upperText_, speedValue_, 3);
         } else {
@@ -177,5 +174,5 @@ void cMultiPanelLogic::ShowNGX() {
     }
     SetNumber(upperText_, altitudeValue_, 1);
     lowerText_.clear();
-    if (Value(kVerticalSpeedBlankRow) == 0) AppendInteger(lowerText_, verticalSpeed_, 4);
+    if (Value(kVerticalSpeedBlank) == 0) AppendInteger(lowerText_, verticalSpeed_, 4);
 }

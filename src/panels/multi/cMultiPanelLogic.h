@@ -1,21 +1,24 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <memory>
-#include <span>
 #include <string>
 #include <vector>
 
+#include "panels/multi/MultiPanelMaddog.h"
+#include "panels/multi/MultiPanelNGX.h"
 #include "panels/multi/MultiPanelOffsets.h"
 #include "panels/multi/cMultiPanelActionsHolder.h"
 #include "panels/multi/ctlMultiPanel.h"
+#include "simlink/actions/HeldButton.h"
 #include "simlink/channel/MasterPower.h"
-#include "simlink/channel/cSession.h"
+#include "simlink/channel/TickValues.h"
 #include "simlink/devices/cPanelLogic.h"
 
 // Behaviour of one Multi Panel: shows the autopilot's values and lights on the panel's control, and
 // turns its events into what the bindings say. StartUp comes before all else. Selector positions
-// are 1 ALT, 2 VS, 3 IAS, 4 HDG, 5 CRS, buttons 1 AP to 8 REV; other numbers do nothing.
+// and buttons are those of MultiPanelNumber.h; other numbers do nothing.
 class cMultiPanelLogic final : public cPanelLogic {
   public:
     cMultiPanelLogic(const LogicServices& services, ctlMultiPanel& control, int16_t index);
@@ -26,6 +29,8 @@ class cMultiPanelLogic final : public cPanelLogic {
     void LoadSetup() override { MPActions->LoadSetup(); }
 
     void AutoThrottleChange(int16_t State);  // 0 is OFF
+    // The switch has moved while no session was up.
+    void LetGoOfAutoThrottle() { autoThrottle_.LetGo(); }
     void ButtonClick(int32_t Button);
     void ButtonLongClick(int32_t Button);
     void Rotary(int16_t Direction, int16_t Speed);  // 1 is clockwise
@@ -38,27 +43,12 @@ class cMultiPanelLogic final : public cPanelLogic {
     std::unique_ptr<cMultiPanelActionsHolder> MPActions;
 
   private:
-    // The add-on publishes nothing: these are the panel's own values, and may differ from what the
-    // add-on has until they have been turned.
-    struct Maddog {
-        bool autopilotOn = false;
-        bool machMode = false;
-        int32_t altitude = 0;       // feet
-        int32_t verticalSpeed = 0;  // feet per minute
-        int32_t speed = 100;        // knots
-        int32_t mach = 500;         // Mach x 1000
-        int32_t heading = 0;        // degrees
-        int32_t course = 0;         // degrees
-        int32_t navMode = 1;        // next parameter of the REV button's control
-    };
-
     void ApplyRotAcceleration();
     void ApplyTrimAcceleration();
     void RegisterOffsets();
-    void Register(std::span<const MultiPanelOffset> offsets);
     void RegisterNGXLights();
-    double Value(size_t row) const { return offsets_[row].Data(); }
-    void UpdateLight(size_t row, uint8_t bit);
+    double Value(size_t value) const { return offsets_[value].Data(); }
+    uint8_t Lights() const;
     bool SecondCourse() const;
     void RefreshValues();
     void RefreshTexts();
@@ -67,46 +57,36 @@ class cMultiPanelLogic final : public cPanelLogic {
 
     template <class NGX, class Standard>
     void Do(const ActionRecord& record, int times, NGX ngx, Standard standard);
-    void SendSelectorAction(int32_t newPosition, int32_t oldPosition);
     void PressButton(int32_t button, const ActionRecord& record, uint8_t ngxRow);
-    void ToggleHold(int32_t button);
+    bool ToggleHold(int32_t button);
     void TurnStandard(int step);
-    void TrimStandard(bool up, int16_t speed);
-    void MoveFlapsStandard(bool up);
-
-    void RunNGXFunction(uint8_t row);
-    void TurnNGX(bool up);
-    void TrimNGX(bool up, int16_t speed);
-    void MoveFlapsNGX(bool up);
-    void SetThrottleNGX(bool armed);
-
-    void RefreshMaddog();
-    void ShowMaddogPosition();
-    void SM_MADDOG_ButtonClick(int32_t Button);
-    void SM_MADDOG_Rotary(int16_t Direction, int16_t Speed);
-    void SM_MADDOG_AutoThrottle(int16_t State);
-    void ToggleMaddogAutopilot();
-    void ToggleMaddogMach();
-    void TurnMaddogSpeed(int32_t step);
+    bool TrimStandard(double step);
+    bool MoveFlapsStandard(bool up);
+    bool SetThrottleNGX(bool armed);
 
     cSession& session_;
     EventOutput& output_;
     ProfileStore& profiles_;
-    Clock& clock_;
     ctlMultiPanel& control_;
-    std::vector<NamedOffset> offsets_;  // as kMultiPanelNames
+    OffsetRows offsets_;
+    // In the NGX mode each panel has lights of its own, as the functions of its buttons are.
+    std::array<std::string, kMultiPanelLights> lightNames_;
+    std::vector<NamedOffset> lights_;
     MasterPower power_;
+    MultiPanelMaddog maddog_;
+    MultiPanelNGX ngx_;
+    HeldButton selector_;
+    HeldButton autoThrottle_;
 
     int32_t selectorPosition_ = 0;  // 0 before the first SelectorChange
     bool forceWrite_ = false;       // the next WriteDisplay goes out in any case
     std::string upperText_;
     std::string lowerText_;
-    uint8_t panelLights_ = 0;
     // As the simulator gave them at the last tick, and the knob has changed them since.
+    TickValues values_;
     int16_t headingBug_ = 0;
     double speedValue_ = 0;
     int32_t altitudeValue_ = 0;
     int16_t verticalSpeed_ = 0;
     int16_t courseValue_ = 0;
-    Maddog maddog_;
 };

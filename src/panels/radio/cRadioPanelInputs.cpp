@@ -31,7 +31,8 @@ void cRadioPanelLogic::SelectorChange(int16_t Selector, int32_t NewPos, int32_t 
     if (Selector != 1 && Selector != 2) return;
     Row& row = rows_[static_cast<size_t>(Selector - 1)];
     row.selectorPos = NewPos;
-    if (Index == 1 && Selector == 1 && NewPos >= 1 && NewPos <= 4) {
+    if (Index == 1 && Selector == 1 && NewPos >= RadioPosition::kCOM1 &&
+        NewPos <= RadioPosition::kNAV2) {
         session_.EngineSelected = static_cast<uint8_t>(NewPos);
     }
     ApplyAcceleration(row);
@@ -59,16 +60,15 @@ void cRadioPanelLogic::ButtonLongClick(int32_t Button) {
 }
 
 void cRadioPanelLogic::ButtonUp(int32_t Button) {
-    if (Row* row = RowOf(Button)) Release(*row);
+    if (Row* row = RowOf(Button)) row->held.LetGo();
 }
 
 // A virtual button stays down until the panel's button comes up.
-void cRadioPanelLogic::Press(Row& row, ActionRecord record,
+void cRadioPanelLogic::Press(Row& row, const ActionRecord& record,
                              void (cRadioPanelLogic::*standard)(Row&)) {
     if (record.FSEvent == ActionKind::VButton) {
-        Release(row);
-        row.held = record;
-        output_.SetVirtualButton(record, true, false);
+        row.held.LetGo();
+        row.held.MoveTo(record);
     } else if (record.FSEvent == ActionKind::Offset) {
         (this->*standard)(row);
     } else {
@@ -76,28 +76,22 @@ void cRadioPanelLogic::Press(Row& row, ActionRecord record,
     }
 }
 
-// The one that was pressed, whatever the selector and the profile say by now.
-void cRadioPanelLogic::Release(Row& row) {
-    const auto held = std::exchange(row.held, std::nullopt);
-    if (held) output_.SetVirtualButton(*held, false, false);
-}
-
 void cRadioPanelLogic::ClickStandard(Row& row) {
     switch (row.selectorPos) {
-        case 1:
-        case 2:
-        case 3:
-        case 4:
-            Swap(static_cast<size_t>(row.selectorPos - 1));
+        case RadioPosition::kCOM1:
+        case RadioPosition::kCOM2:
+        case RadioPosition::kNAV1:
+        case RadioPosition::kNAV2:
+            Swap(static_cast<size_t>(row.selectorPos - RadioPosition::kCOM1));
             break;
-        case 5:
+        case RadioPosition::kADF:
             ClickAdf(row);
             break;
-        case 6:
+        case RadioPosition::kDME:
             if (RPActions->DMEMode == 0)
                 row.dmeChoice = static_cast<uint8_t>(row.dmeChoice % 3 + 1);
             break;
-        case 7:
+        case RadioPosition::kXPDR:
             transponderDigit_ = static_cast<uint8_t>(transponderDigit_ % 4 + 1);
             break;
         default:
@@ -106,9 +100,9 @@ void cRadioPanelLogic::ClickStandard(Row& row) {
 }
 
 void cRadioPanelLogic::LongClickStandard(Row& row) {
-    if (row.selectorPos == 6) {
+    if (row.selectorPos == RadioPosition::kDME) {
         showDmeTime_ = !showDmeTime_;
-    } else if (row.selectorPos == 7) {
+    } else if (row.selectorPos == RadioPosition::kXPDR) {
         ToggleAltimeterUnit();
     } else {
         ClickStandard(row);
@@ -123,7 +117,7 @@ void cRadioPanelLogic::Swap(size_t channel) {
 void cRadioPanelLogic::ClickAdf(const Row& row) {
     if (RPActions->ADFMode == 2) {
         adfTuned_ = adfTuned_ == 1 ? 2 : 1;
-    } else if (RPActions->ADFMode >= 3 && RPActions->ADFMode <= 5 && radiosRead_) {
+    } else if (RPActions->ADFMode >= 3 && RPActions->ADFMode <= 5 && values_.AreRead()) {
         PrepareAdfStandby();
         const size_t adf = AdfOf(row);
         std::swap(session_.AdfActive[adf], session_.AdfStandby[adf]);
@@ -153,19 +147,19 @@ void cRadioPanelLogic::Rotary(int16_t Rotary, int16_t Direction, uint8_t Side, u
 }
 
 void cRadioPanelLogic::TurnStandard(const Row& row, bool outer, bool up, uint8_t speed) {
-    if (!radiosRead_) return;
+    if (!values_.AreRead()) return;
     const int32_t steps = up ? speed : -speed;
     switch (row.selectorPos) {
-        case 1:
-        case 2:
-        case 3:
-        case 4:
-            TuneChannel(static_cast<size_t>(row.selectorPos - 1), outer, steps);
+        case RadioPosition::kCOM1:
+        case RadioPosition::kCOM2:
+        case RadioPosition::kNAV1:
+        case RadioPosition::kNAV2:
+            TuneChannel(static_cast<size_t>(row.selectorPos - RadioPosition::kCOM1), outer, steps);
             break;
-        case 5:
+        case RadioPosition::kADF:
             TuneAdf(row, outer, steps);
             break;
-        case 7:
+        case RadioPosition::kXPDR:
             outer ? TurnAltimeter(up) : TurnTransponderDigit(up);
             break;
         default:

@@ -40,12 +40,10 @@ cRadioPanelLogic::cRadioPanelLogic(const LogicServices& services, ctlRadioPanel&
       output_(services.output),
       profiles_(services.profiles),
       control_(control),
-      ngxUnit_(session_.OffsetTable, kNGXUnit.name),
-      power_(session_.OffsetTable) {
-    for (const RadioOffset& each : kRadioOffsets) {
-        offsets_.emplace_back(session_.OffsetTable, each.name);
-    }
-}
+      offsets_(session_.OffsetTable, kRadioOffsets),
+      power_(session_.OffsetTable),
+      rows_{Row(1, output_), Row(2, output_)},
+      values_(session_) {}
 
 void cRadioPanelLogic::StartUp() {
     session_.AdfStandby = {};
@@ -56,24 +54,13 @@ void cRadioPanelLogic::StartUp() {
 }
 
 void cRadioPanelLogic::SetupChanged() {
-    RegisterOffsets();
-    radiosRead_ = false;  // what was read in another mode may mean something else now
+    offsets_.RegisterMode(session_.SpecialMode);
+    power_.Register();
+    values_.Forget();
     altimeterInHg_ = RPActions->AltimeterUnit != 1;
     for (Row& row : rows_) {
-        if (row.selectorPos != 0) ApplyAcceleration(row);
+        if (row.selectorPos != RadioPosition::kNone) ApplyAcceleration(row);
         row.dmeChoice = RPActions->DMEMode == 0 ? uint8_t{1} : RPActions->DMEMode;
-    }
-}
-
-void cRadioPanelLogic::RegisterOffsets() {
-    cOffsetTable& table = session_.OffsetTable;
-    table.UnregisterOffset(kNGXUnit.name);
-    for (const RadioOffset& each : kRadioOffsets) {
-        table.RegisterOffset(each.offset, kRadioOffsetType, each.name);
-    }
-    power_.Register();
-    if (session_.SpecialMode == kNGXMode) {
-        table.RegisterOffset(kNGXUnit.offset, kNGXUnitType, kNGXUnit.name);
     }
 }
 
@@ -103,10 +90,10 @@ void cRadioPanelLogic::ReadRadios() {
             AdfFromBCD(offsets_[AdfMainOf(adf)].GetBCD(), offsets_[AdfExtensionOf(adf)].GetBCD());
     }
     qnh_ = static_cast<float>(Value(kQnh)) / kQnhPerHPa;
-    if (session_.SpecialMode == kNGXMode) altimeterInHg_ = ngxUnit_.Data() == 0;
+    if (session_.SpecialMode == kNGXMode) altimeterInHg_ = Value(kNGXUnit) == 0;
     transponder_.clear();
     AppendInteger(transponder_, offsets_[kTransponder].GetBCD(), 4);
-    radiosRead_ = true;
+    values_.Take();
 }
 
 // What is prepared starts out as what is there, once a row stands at ADF.
@@ -118,19 +105,19 @@ void cRadioPanelLogic::PrepareAdfStandby() {
 
 void cRadioPanelLogic::ShowRow(Row& row) {
     switch (row.selectorPos) {
-        case 1:
-        case 2:
-        case 3:
-        case 4:
-            ShowChannel(row, static_cast<size_t>(row.selectorPos - 1));
+        case RadioPosition::kCOM1:
+        case RadioPosition::kCOM2:
+        case RadioPosition::kNAV1:
+        case RadioPosition::kNAV2:
+            ShowChannel(row, static_cast<size_t>(row.selectorPos - RadioPosition::kCOM1));
             break;
-        case 5:
+        case RadioPosition::kADF:
             ShowAdf(row);
             break;
-        case 6:
+        case RadioPosition::kDME:
             ShowDme(row);
             break;
-        case 7:
+        case RadioPosition::kXPDR:
             ShowTransponder(row);
             break;
         default:

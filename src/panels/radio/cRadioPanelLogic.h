@@ -3,26 +3,23 @@
 #include <array>
 #include <cstdint>
 #include <memory>
-#include <optional>
 #include <string>
-#include <vector>
 
 #include "config/ProfileStore.h"
 #include "panels/radio/RadioChannels.h"
 #include "panels/radio/RadioPanelOffsets.h"
+#include "panels/radio/RadioPosition.h"
 #include "panels/radio/cRadioPanelActionsHolder.h"
 #include "panels/radio/ctlRadioPanel.h"
-#include "simlink/actions/ActionRecord.h"
+#include "simlink/actions/HeldButton.h"
 #include "simlink/channel/MasterPower.h"
-#include "simlink/channel/cOffsetTable.h"
-#include "simlink/channel/cSession.h"
+#include "simlink/channel/TickValues.h"
 #include "simlink/devices/cPanelLogic.h"
 
 // Behaviour of one Radio Panel: shows the radios' values on the panel's control, and turns its
 // events into what the bindings say. StartUp comes before all else. Sides are 1 the upper row and 2
-// the lower one, selector positions 1 COM1, 2 COM2, 3 NAV1, 4 NAV2, 5 ADF, 6 DME, 7 XPDR; other
-// numbers do nothing. Both rows can stand at the same position, and what is tuned there is the
-// same.
+// the lower one, selector positions those of RadioPosition.h; other numbers do nothing. Both rows
+// can stand at the same position, and what is tuned there is the same.
 class cRadioPanelLogic final : public cPanelLogic {
   public:
     cRadioPanelLogic(const LogicServices& services, ctlRadioPanel& control, int16_t index);
@@ -45,12 +42,14 @@ class cRadioPanelLogic final : public cPanelLogic {
 
   private:
     struct Row {
+        Row(uint8_t number, EventOutput& output) : side(number), held(output) {}
+
         uint8_t side;
-        int32_t selectorPos = 1;  // 0 between detents
-        uint8_t dmeChoice = 1;    // 1 both distances, 2 DME1, 3 DME2
-        std::string active{};
-        std::string standby{};
-        std::optional<ActionRecord> held{};  // the virtual button that a click has pressed
+        int32_t selectorPos = RadioPosition::kCOM1;
+        uint8_t dmeChoice = 1;  // 1 both distances, 2 DME1, 3 DME2
+        std::string active;
+        std::string standby;
+        HeldButton held;  // from a click until the panel's button comes up
     };
 
     double Value(size_t value) const { return offsets_[value].Data(); }
@@ -60,7 +59,6 @@ class cRadioPanelLogic final : public cPanelLogic {
         return session_.SpecialMode == kMaddogMode && kRadioChannels[channel].maddogControl != 0;
     }
 
-    void RegisterOffsets();
     void ApplyAcceleration(const Row& row);
     void ReadRadios();
     void PrepareAdfStandby();
@@ -72,8 +70,7 @@ class cRadioPanelLogic final : public cPanelLogic {
     void ShowTransponder(Row& row);
 
     Row* RowOf(int32_t button);
-    void Press(Row& row, ActionRecord record, void (cRadioPanelLogic::*standard)(Row&));
-    void Release(Row& row);
+    void Press(Row& row, const ActionRecord& record, void (cRadioPanelLogic::*standard)(Row&));
     void ClickStandard(Row& row);
     void LongClickStandard(Row& row);
     void Swap(size_t channel);
@@ -92,13 +89,12 @@ class cRadioPanelLogic final : public cPanelLogic {
     EventOutput& output_;
     ProfileStore& profiles_;
     ctlRadioPanel& control_;
-    std::vector<NamedOffset> offsets_;  // as kRadioOffsets
-    NamedOffset ngxUnit_;
+    OffsetRows offsets_;
     MasterPower power_;
 
-    std::array<Row, 2> rows_ = {{{1}, {2}}};
+    std::array<Row, 2> rows_;
     // As the last tick has read them, and the knobs have changed them since.
-    bool radiosRead_ = false;
+    TickValues values_;
     std::array<float, kRadioChannels.size()> frequency_{};  // MHz, what the knob changes
     float qnh_ = 0;                                         // hPa
     std::string transponder_;                               // the code's four digits

@@ -4,6 +4,8 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "simlink/channel/OffsetRows.h"
+
 // What the Switch Panel reads of the simulator at every tick, by name.
 
 enum SwitchValue : size_t {
@@ -15,14 +17,8 @@ enum SwitchValue : size_t {
     kSwitchValues
 };
 
-struct SwitchPanelOffset {
-    const char* name;
-    int32_t offset;
-    int32_t dataType;
-};
-
 // In the order of the values.
-inline constexpr std::array<SwitchPanelOffset, kSwitchValues> kSwitchOffsets = {{
+inline constexpr std::array<OffsetRow, kSwitchValues> kSwitchOffsets = {{
     {"GEARNOSE", 0x0BEC, 4},
     {"GEARRIGHT", 0x0BF0, 4},
     {"GEARLEFT", 0x0BF4, 4},

@@ -1,6 +1,5 @@
 // What the panel's events do: bound actions, and the built-in behaviour of the switches.
-#include <utility>
-
+#include "base/Number.h"
 #include "panels/switch/SwitchNumber.h"
 #include "panels/switch/cSwitchPanelLogic.h"
 #include "simlink/devices/GearLeg.h"
@@ -51,7 +50,12 @@ void cSwitchPanelLogic::SwitchChange(int32_t Switch, bool State) {
 
 void cSwitchPanelLogic::SwitchBuiltIn(int32_t number, bool on) {
     if (number == kFuelPump) SwitchFuelPumps(on);
-    if (number >= kPanel && number <= kLanding) SwitchLight(number, on);
+    if (number >= kPanel && number <= kLanding) {
+        session_.Acts.Do([this, number, on] {
+            return session_.SpecialMode == kNGXMode ? SwitchLightNGX(number, on)
+                                                    : SwitchLight(number, on);
+        });
+    }
     for (const PlainSwitch& each : kPlainSwitches) {
         if (each.number != number) continue;
         const bool single = each.single && (*SPActions).*each.single;
@@ -71,29 +75,35 @@ void cSwitchPanelLogic::WriteEngines(const EngineOffsets& offsets, int32_t dataT
 }
 
 void cSwitchPanelLogic::SwitchFuelPumps(bool on) {
-    int32_t pumps = on ? kAllPumps : 0;
     if (SPActions->SingleFuelPump) {
-        const int32_t engine = 1 << (session_.EngineSelected - 1);
-        const int32_t now = offsets_[kFuelPumps].IntegerData();
-        pumps = on ? now | engine : now & ~engine;
-    }
-    session_.WriteOffset(kSwitchOffsets[kFuelPumps].offset, 1, pumps, false);
-}
-
-// The word as it is at this moment: other switches of the same report have changed it just now. One
-// that can't be had isn't written, as the other lights would go out.
-void cSwitchPanelLogic::SwitchLight(int32_t number, bool on) {
-    if (session_.SpecialMode == kNGXMode) {
-        SwitchLightNGX(number, on);
+        session_.Acts.Do(
+            [this, engine = session_.EngineSelected, on] { return SwitchFuelPump(engine, on); });
         return;
     }
-    cOFFSET word(session_.Fsuipc, kLightsWord, 2);
-    if (!session_.Fsuipc.Answers() || !word.DirectRead(true)) return;
+    session_.WriteOffset(kSwitchOffsets[kFuelPumps].offset, 1, on ? kAllPumps : 0, false);
+}
+
+bool cSwitchPanelLogic::SwitchFuelPump(uint8_t engine, bool on) {
+    const OffsetRow& row = kSwitchOffsets[kFuelPumps];
+    const auto pumps = values_.AreRead() ? std::optional(offsets_[kFuelPumps].Data())
+                                         : session_.ReadOffset(row.offset, row.dataType);
+    if (!pumps) return false;
+    const int32_t bit = 1 << (engine - 1);
+    const auto now = RoundTo<int32_t>(*pumps);
+    session_.WriteOffset(row.offset, row.dataType, on ? now | bit : now & ~bit, false);
+    return true;
+}
+
+// The word as it is at this moment: other switches of the same report have changed it just now.
+bool cSwitchPanelLogic::SwitchLight(int32_t number, bool on) {
+    const auto word = session_.ReadOffset(kLightsWord, 2);
+    if (!word) return false;
     const int32_t bit = kLightBits[number - kPanel];
-    const int32_t lights = word.IntegerData();
-    if (((lights & bit) != 0) == on) return;
-    word.SetData(on ? lights | bit : lights & ~bit);
-    word.DirectWrite(false);
+    const auto lights = RoundTo<int32_t>(*word);
+    if (((lights & bit) != 0) != on) {
+        session_.WriteOffset(kLightsWord, 2, on ? lights | bit : lights & ~bit, false);
+    }
+    return true;
 }
 
 void cSwitchPanelLogic::SelectorChange(int32_t NewPosition, int32_t OldPosition) {
@@ -106,33 +116,19 @@ void cSwitchPanelLogic::SelectorChange(int32_t NewPosition, int32_t OldPosition)
     }
 }
 
-// In the NGX the add-on's lever moves, whatever the bindings say.
+// The virtual button of a VButton record stands for the lever's position, and the one of the other
+// position goes up. In the NGX the add-on's lever moves, whatever the bindings say.
 void cSwitchPanelLogic::MoveGear(bool down) {
     if (session_.SpecialMode == kNGXMode) {
+        gearLever_.LetGo();
         MoveGearNGX(down);
         return;
     }
-    const ActionRecord& reached = SPActions->GetSwitchActions(down ? kGearDown : kGearUp, 1);
-    switch (reached.FSEvent) {
-        case ActionKind::VButton:
-            HoldGearButton(reached, SPActions->GetSwitchActions(down ? kGearUp : kGearDown, 1));
-            break;
-        case ActionKind::Offset:
-            session_.WriteOffset(kGearHandle, 4, down ? kGearDownPosition : 0, false);
-            break;
-        default:
-            output_.SendAction(reached);
-            break;
-    }
-}
-
-// The virtual button stands for the lever's position, and the one of the other position goes up. So
-// does one that the lever holds from a profile before this one.
-void cSwitchPanelLogic::HoldGearButton(const ActionRecord& reached, const ActionRecord& left) {
-    const auto before = std::exchange(held_, reached);
-    output_.SetVirtualButton(reached, true, false);
-    if (left.FSEvent == ActionKind::VButton) output_.SetVirtualButton(left, false, false);
-    if (before && !before->SameButton(reached) && !before->SameButton(left)) {
-        output_.SetVirtualButton(*before, false, false);
+    const ActionRecord reached = SPActions->GetSwitchActions(down ? kGearDown : kGearUp, 1);
+    gearLever_.MoveTo(reached, SPActions->GetSwitchActions(down ? kGearUp : kGearDown, 1));
+    if (reached.FSEvent == ActionKind::Offset) {
+        session_.WriteOffset(kGearHandle, 4, down ? kGearDownPosition : 0, false);
+    } else if (reached.FSEvent == ActionKind::VKey) {
+        output_.SendAction(reached);
     }
 }

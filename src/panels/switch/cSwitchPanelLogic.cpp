@@ -14,26 +14,19 @@ cSwitchPanelLogic::cSwitchPanelLogic(const LogicServices& services, ctlSwitchPan
       session_(services.session),
       output_(services.output),
       profiles_(services.profiles),
-      control_(control) {
-    for (const SwitchPanelOffset& each : kSwitchOffsets) {
-        offsets_.emplace_back(session_.OffsetTable, each.name);
-    }
-}
+      control_(control),
+      offsets_(session_.OffsetTable, kSwitchOffsets),
+      values_(session_),
+      gearLever_(output_) {}
 
 void cSwitchPanelLogic::StartUp() {
     SPActions = std::make_unique<cSwitchPanelActionsHolder>(profiles_);
     SPActions->Index = Index;
     LoadSetup();
-    RegisterOffsets();
+    SetupChanged();
 }
 
-void cSwitchPanelLogic::SetupChanged() { RegisterOffsets(); }
-
-void cSwitchPanelLogic::RegisterOffsets() {
-    for (const SwitchPanelOffset& each : kSwitchOffsets) {
-        session_.OffsetTable.RegisterOffset(each.offset, each.dataType, each.name);
-    }
-}
+void cSwitchPanelLogic::SetupChanged() { offsets_.RegisterMode(session_.SpecialMode); }
 
 // FS2004 doesn't tell whether the gear is retractable.
 bool cSwitchPanelLogic::GearShown() const {
@@ -42,6 +35,7 @@ bool cSwitchPanelLogic::GearShown() const {
 }
 
 void cSwitchPanelLogic::RefreshData() {
+    values_.Take();
     std::array<Color, 3> lights{};
     if (GearShown() && offsets_[kMasterBattery].Data() != 0) {
         constexpr SwitchValue kLegs[] = {kGearNose, kGearLeft, kGearRight};

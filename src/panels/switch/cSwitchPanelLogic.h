@@ -3,15 +3,12 @@
 #include <array>
 #include <cstdint>
 #include <memory>
-#include <optional>
-#include <vector>
 
 #include "panels/switch/SwitchPanelOffsets.h"
 #include "panels/switch/cSwitchPanelActionsHolder.h"
 #include "panels/switch/ctlSwitchPanel.h"
-#include "simlink/actions/ActionRecord.h"
-#include "simlink/channel/cOffsetTable.h"
-#include "simlink/channel/cSession.h"
+#include "simlink/actions/HeldButton.h"
+#include "simlink/channel/TickValues.h"
 #include "simlink/devices/cPanelLogic.h"
 
 // Behaviour of one Switch Panel: shows the gear on the panel's lights, and turns its events into
@@ -31,6 +28,8 @@ class cSwitchPanelLogic final : public cPanelLogic {
     void SelectorChange(int32_t NewPosition, int32_t OldPosition);
     void GearUp() { MoveGear(false); }
     void GearDown() { MoveGear(true); }
+    // The lever has moved while no session was up.
+    void LetGoOfGear() { gearLever_.LetGo(); }
 
     const int16_t Index;
     std::unique_ptr<cSwitchPanelActionsHolder> SPActions;
@@ -39,24 +38,24 @@ class cSwitchPanelLogic final : public cPanelLogic {
     // Four offsets that mean the same, one for each engine.
     using EngineOffsets = std::array<int32_t, 4>;
 
-    void RegisterOffsets();
     bool GearShown() const;
 
     void SwitchBuiltIn(int32_t number, bool on);
     void WriteEngines(const EngineOffsets& offsets, int32_t dataType, double value, bool single);
     void SwitchFuelPumps(bool on);
-    void SwitchLight(int32_t number, bool on);
-    void SwitchLightNGX(int32_t number, bool on);
+    bool SwitchFuelPump(uint8_t engine, bool on);
+    bool SwitchLight(int32_t number, bool on);
+    bool SwitchLightNGX(int32_t number, bool on);
     void MoveGear(bool down);
-    void HoldGearButton(const ActionRecord& reached, const ActionRecord& left);
     void MoveGearNGX(bool down);
 
     cSession& session_;
     EventOutput& output_;
     ProfileStore& profiles_;
     ctlSwitchPanel& control_;
-    std::vector<NamedOffset> offsets_;  // as kSwitchOffsets
+    OffsetRows offsets_;
+    TickValues values_;
     // Nose, left and right, as the lights were told last.
     std::array<Color, 3> remembered_{};
-    std::optional<ActionRecord> held_{};  // the virtual button that the gear lever holds down
+    HeldButton gearLever_;
 };

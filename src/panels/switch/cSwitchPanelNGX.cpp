@@ -1,6 +1,7 @@
 // What the light switches and the gear lever do in the NGX mode: the add-on's own are clicked, the
 // lights' from the position in which they stand.
 #include <algorithm>
+#include <optional>
 
 #include "panels/switch/SwitchNumber.h"
 #include "panels/switch/cSwitchPanelLogic.h"
@@ -44,23 +45,27 @@ constexpr Move kMoves[] = {
 
 }  // namespace
 
-void cSwitchPanelLogic::SwitchLightNGX(int32_t number, bool on) {
+// A switch that is thrown back doesn't get its second click any more.
+bool cSwitchPanelLogic::SwitchLightNGX(int32_t number, bool on) {
     const auto* const addOn = std::ranges::find(kAddOnSwitches, number, &AddOnSwitch::number);
-    if (addOn == std::end(kAddOnSwitches)) return;
-    cOFFSET position(session_.Fsuipc, addOn->positionOffset, 1);
-    if (addOn->positionOffset != 0) {
-        if (!session_.Fsuipc.Answers() || !position.DirectRead(true)) return;
-    }
-    const int32_t state = on ? 1 : 0;
+    if (addOn == std::end(kAddOnSwitches)) return true;
+    const auto moves = [&](const Move& move, bool way) {
+        return move.number == number && move.state == (way ? 1 : 0);
+    };
+    const auto goesTwice = [&](const Move& move) { return moves(move, !on) && move.twice; };
+    if (std::ranges::any_of(kMoves, goesTwice)) output_.DropSecond(addOn->control);
+    const int32_t offset = addOn->positionOffset;
+    const auto position = offset == 0 ? std::optional(0.0) : session_.ReadOffset(offset, 1);
+    if (!position) return false;
     for (const Move& move : kMoves) {
-        if (move.number != number || move.state != state || move.from != position.IntegerData())
-            continue;
+        if (!moves(move, on) || move.from != *position) continue;
         if (move.twice) {
             output_.SendControlTwice(addOn->control, move.click);
         } else {
             output_.SendControl(addOn->control, move.click);
         }
     }
+    return true;
 }
 
 // Down takes two clicks, up one.

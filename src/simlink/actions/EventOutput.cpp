@@ -1,8 +1,10 @@
 #include "simlink/actions/EventOutput.h"
 
 #include <array>
+#include <utility>
 
 #include "base/Bytes.h"
+#include "simlink/actions/HeldButton.h"
 
 namespace {
 
@@ -29,39 +31,58 @@ int32_t OffsetOf(uint8_t joystick) { return kVirtualButtons + (joystick - kFirst
 
 }  // namespace
 
-EventOutput::EventOutput(modFSUIPC& fsuipc, KeyboardPort& keyboard, MessageLoop& loop,
-                         const bool& connected)
-    : fsuipc_(fsuipc),
+EventOutput::EventOutput(cSession& session, KeyboardPort& keyboard, MessageLoop& loop)
+    : session_(session),
+      fsuipc_(session.Fsuipc),
       keyboard_(keyboard),
       loop_(loop),
-      connected_(connected),
-      timerRelease_(loop, kPressMs) {
+      timerRelease_(loop, kPressMs),
+      taken_(fsuipc_.Taken.Connect([this] { BeginRepetitions(); })) {
     timerRelease_.Tick.Connect([this] { ReleaseInTime(); });
 }
 
 void EventOutput::SetVirtualButton(uint8_t VJoystick, uint8_t VButton, bool State, bool Process) {
-    if (!IsVirtualButton(VJoystick, VButton)) return;
-    const auto before = ReadButtons(VJoystick);
-    WriteButton(VJoystick, VButton, State, before.value_or(0));
+    if (!IsVirtualButton(VJoystick, VButton) || (State && !session_.FSConnected)) return;
+    session_.Acts.Do([=, this] { return ChangeButton(VJoystick, VButton, State); },
+                     State ? PendingActs::Lasts::Session : PendingActs::Lasts::Program);
     int32_t result = 0;
-    if (Process && before) fsuipc_.FSUIPC_Process(result);
+    if (Process && session_.Acts.Empty()) static_cast<void>(fsuipc_.ProcessForEvent(result));
+}
+
+bool EventOutput::ChangeButton(uint8_t joystick, uint8_t button, bool state) {
+    const auto before = ReadButtons(joystick);
+    if (!before) return false;
+    const uint32_t bit = 1U << (button - 1);
+    std::array<uint8_t, 4> buttons{};
+    StoreLE32(buttons.data(), state ? *before | bit : *before & ~bit);
+    int32_t result = 0;
+    return fsuipc_.FSUIPC_Write(OffsetOf(joystick), 4, buttons.data(), result);
 }
 
 std::optional<uint32_t> EventOutput::ReadButtons(uint8_t joystick) {
     if (!fsuipc_.Answers()) return std::nullopt;
     std::array<uint8_t, 4> buttons{};
     int32_t result = 0;
-    fsuipc_.FSUIPC_Read(OffsetOf(joystick), 4, buttons.data(), result);
-    if (!fsuipc_.FSUIPC_Process(result)) return std::nullopt;
+    if (!fsuipc_.FSUIPC_Read(OffsetOf(joystick), 4, buttons.data(), result)) return std::nullopt;
+    if (!fsuipc_.ProcessForEvent(result) || !fsuipc_.AllRead()) return std::nullopt;
     return LoadLE32(buttons.data());
 }
 
-void EventOutput::WriteButton(uint8_t joystick, uint8_t button, bool state, uint32_t before) {
-    const uint32_t bit = 1U << (button - 1);
-    std::array<uint8_t, 4> buttons{};
-    StoreLE32(buttons.data(), state ? before | bit : before & ~bit);
+void EventOutput::SessionLost() {
+    repetitions_.clear();
+    session_.Acts.SessionLost();
+    if (!presses_.empty()) SetVirtualButton(presses_.front(), false, false);
+    presses_.clear();
+    timerRelease_.SetEnabled(false);
+}
+
+void EventOutput::ReleaseAll() {
+    SessionLost();
+    for (HeldButton* holder : holders_) holder->LetGo();
+    while (session_.Acts.DoFirst()) {
+    }
     int32_t result = 0;
-    fsuipc_.FSUIPC_Write(OffsetOf(joystick), 4, buttons.data(), result);
+    static_cast<void>(fsuipc_.ProcessForEvent(result));
 }
 
 void EventOutput::RunAction(const ActionRecord& record) {
@@ -85,11 +106,7 @@ void EventOutput::Press() {
 }
 
 void EventOutput::ReleaseInTime() {
-    if (!connected_) {
-        // Those that wait have no meaning in another session; the one that is down comes up in it.
-        presses_.resize(1);
-        return;
-    }
+    if (!session_.Acts.Empty()) return;  // the press may wait among them: its time is to come
     SetVirtualButton(presses_.front(), false, false);
     presses_.pop_front();
     timerRelease_.SetEnabled(false);
@@ -111,6 +128,9 @@ void EventOutput::SendKeyStroke(uint8_t KeyCode, uint8_t KeyQualifiers) {
 }
 
 void EventOutput::SendControl(int32_t Control, int32_t Parameter) {
+    repetitions_.remove_if([&](const Repetition& each) {
+        return each.control == Control && each.parameter != Parameter;
+    });
     std::array<uint8_t, 8> data;
     StoreLE32(&data[0], static_cast<uint32_t>(Control));
     StoreLE32(&data[4], static_cast<uint32_t>(Parameter));
@@ -125,37 +145,37 @@ void EventOutput::SendControlTwice(int32_t Control, int32_t Parameter) {
     SendControl(Control, Parameter);
     const auto place = repetitions_.emplace(repetitions_.end(), loop_, Control, Parameter);
     place->timer.Tick.Connect([this, place] { Repeat(place); });
-    place->timer.SetEnabled(true);
+}
+
+void EventOutput::BeginRepetitions() {
+    for (Repetition& each : repetitions_) each.timer.SetEnabled(true);
 }
 
 void EventOutput::Repeat(std::list<Repetition>::iterator repetition) {
-    if (connected_) SendControl(repetition->control, repetition->parameter);
+    const auto [control, parameter] = std::pair(repetition->control, repetition->parameter);
     repetitions_.erase(repetition);
+    SendControl(control, parameter);
+}
+
+void EventOutput::DropSecond(int32_t Control) {
+    repetitions_.remove_if([&](const Repetition& each) { return each.control == Control; });
 }
 
 void EventOutput::SendAction(ActionRecord record, int times) {
     for (int i = 0; i < times; ++i) {
-        const bool lost = i > 0 && !connected_;
+        if (i > 0 && record.FSEvent == ActionKind::VButton) loop_.RunPending();
+        const bool lost = i > 0 && !session_.FSConnected;
         if (lost || !SendOnce(record)) return;
     }
 }
 
 bool EventOutput::SendOnce(const ActionRecord& record) {
-    const uint8_t first = record.VJoystickOrKeyCode;
-    const uint8_t second = record.VButtonOrKeyQualifiers;
-    if (record.FSEvent == ActionKind::VButton) return PressAndRelease(first, second);
-    if (record.FSEvent != ActionKind::VKey) return false;
-    SendKeyStroke(first, second);
-    return true;
-}
-
-// A press that the simulator may have taken is followed by its release in any case.
-bool EventOutput::PressAndRelease(uint8_t joystick, uint8_t button) {
-    if (!IsVirtualButton(joystick, button)) return false;
-    const auto before = ReadButtons(joystick);
-    if (!before) return false;
-    WriteButton(joystick, button, true, *before);
-    const auto pressed = ReadButtons(joystick);
-    WriteButton(joystick, button, false, pressed.value_or(*before));
-    return pressed.has_value();
+    if (record.FSEvent == ActionKind::VKey) {
+        SendKeyStroke(record.VJoystickOrKeyCode, record.VButtonOrKeyQualifiers);
+        return true;
+    }
+    if (record.FSEvent != ActionKind::VButton) return false;
+    SetVirtualButton(record, true, false);
+    SetVirtualButton(record, false, false);
+    return session_.Acts.Empty();
 }

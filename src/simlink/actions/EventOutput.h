@@ -4,25 +4,28 @@
 #include <deque>
 #include <list>
 #include <optional>
+#include <vector>
 
 #include "platform/KeyboardPort.h"
 #include "platform/MessageLoop.h"
 #include "platform/Timer.h"
 #include "simlink/actions/ActionRecord.h"
-#include "simlink/channel/modFSUIPC.h"
+#include "simlink/channel/cSession.h"
+
+class HeldButton;
 
 // The ways in which what the user does reaches the simulator, apart from writes of offsets.
+//
+// The virtual buttons of a joystick are one word, which others press as well. While it can't be
+// read, changes of it wait; what a lost session has left pressed is released in the next one.
 class EventOutput {
   public:
-    // `connected` says at any time whether a session is up.
-    EventOutput(modFSUIPC& fsuipc, KeyboardPort& keyboard, MessageLoop& loop,
-                const bool& connected);
+    EventOutput(cSession& session, KeyboardPort& keyboard, MessageLoop& loop);
 
     // Presses (State) or releases one virtual button. The change goes out with the next exchange,
     // or with Process at once; what waited before it has been sent by then, so that a press and a
     // release in a row arrive as two. VJoystick 64 to 72, VButton 1 to 32; nothing is sent for
-    // other numbers. Where the simulator doesn't answer, the joystick's other buttons count as
-    // released.
+    // other numbers, nor for a press without a session.
     void SetVirtualButton(uint8_t VJoystick, uint8_t VButton, bool State, bool Process);
     // The same with the button of a VButton record.
     void SetVirtualButton(const ActionRecord& record, bool State, bool Process) {
@@ -41,27 +44,39 @@ class EventOutput {
     // the order of their calls.
     void SendControl(int32_t Control, int32_t Parameter);
 
-    // The same, and once more 1000 ms later if the session lasts: a switch of an add-on goes one
-    // position at a time, and takes its time. The caller goes on meanwhile.
+    // The same, and once more 1000 ms after the simulator has taken it, if the session lasts: a
+    // switch of an add-on goes one position at a time, and takes its time. The caller goes on
+    // meanwhile. Another use of the control, with another parameter, ends it.
     void SendControlTwice(int32_t Control, int32_t Parameter);
+    // The second time doesn't come any more: the switch has been thrown back.
+    void DropSecond(int32_t Control);
 
     // Does `times` times what a VButton record (press and release) or a VKey record says, as long
     // as the simulator answers and the session lasts; no button is left down. Nothing for other
-    // records. The record is a copy: its holder may be loaded anew on the way.
+    // records. Lets pending messages run between the times. The record is a copy: its holder may be
+    // loaded anew on the way.
     void SendAction(ActionRecord record, int times = 1);
 
+    // The session has ended: nothing that was begun goes on in another one, but that what is down
+    // comes up.
+    void SessionLost();
+    // The program ends: releases what is down, if the simulator answers.
+    void ReleaseAll();
+
   private:
+    friend class HeldButton;
+
     // Nothing when the simulator hasn't answered.
     std::optional<uint32_t> ReadButtons(uint8_t joystick);
-    void WriteButton(uint8_t joystick, uint8_t button, bool state, uint32_t before);
+    // False when it can't be made now.
+    bool ChangeButton(uint8_t joystick, uint8_t button, bool state);
     // False when there is no use in going on.
     bool SendOnce(const ActionRecord& record);
-    bool PressAndRelease(uint8_t joystick, uint8_t button);
     void PressForAWhile(const ActionRecord& record);
     void Press();
     void ReleaseInTime();
 
-    // The second sending of a control.
+    // The second sending of a control. Its time begins when the first one has been taken.
     struct Repetition {
         Repetition(MessageLoop& loop, int32_t controlNumber, int32_t mouse);
 
@@ -69,13 +84,16 @@ class EventOutput {
         int32_t parameter;
         Timer timer;
     };
+    void BeginRepetitions();
     void Repeat(std::list<Repetition>::iterator repetition);
 
+    cSession& session_;
     modFSUIPC& fsuipc_;
     KeyboardPort& keyboard_;
     MessageLoop& loop_;
-    const bool& connected_;
+    std::vector<HeldButton*> holders_;  // of all panels
     std::deque<ActionRecord> presses_;  // the first one is down, the others wait
     Timer timerRelease_;                // runs only while there are presses
     std::list<Repetition> repetitions_;
+    ScopedConnection taken_;
 };

@@ -1,26 +1,20 @@
 #pragma once
 
-#include "simlink/channel/cOffsetTable.h"
+#include "simlink/channel/OffsetRows.h"
 
 // The aircraft's battery and avionics switches: while either is off a panel is dark.
 class MasterPower {
   public:
-    explicit MasterPower(cOffsetTable& table)
-        : table_(table), battery_(table, kBattery), avionics_(table, kAvionics) {}
+    explicit MasterPower(cOffsetTable& table) : rows_(table, kRows) {}
 
     // Has both read at every tick.
-    void Register() {
-        table_.RegisterOffset(0x281C, 4, kBattery);
-        table_.RegisterOffset(0x2E80, 4, kAvionics);
-    }
+    void Register() { rows_.RegisterMode(kAllModes); }
     // As the last tick has read them.
-    bool IsOn() const { return battery_.Data() != 0 && avionics_.Data() != 0; }
+    bool IsOn() const { return rows_[0].Data() != 0 && rows_[1].Data() != 0; }
 
   private:
-    static constexpr const char* kBattery = "MASTERBATTERY";
-    static constexpr const char* kAvionics = "MASTERAVIONICS";
+    static constexpr OffsetRow kRows[] = {{"MASTERBATTERY", 0x281C, 4},
+                                          {"MASTERAVIONICS", 0x2E80, 4}};
 
-    cOffsetTable& table_;
-    NamedOffset battery_;
-    NamedOffset avionics_;
+    OffsetRows rows_;
 };

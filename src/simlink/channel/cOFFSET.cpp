@@ -135,10 +135,16 @@ void cOFFSET::SetBcd(int32_t Value) { StoreLE16(word_.data(), DecimalToBCD(Value
 
 void cOFFSET::DirectWrite(bool Immediate) {
     fsuipc_.FSUIPC_Write(Offset, TransferLenght(), DataPtr(), dwResult);
-    if (Immediate) fsuipc_.FSUIPC_Process(dwResult);
+    // What isn't taken at once goes with the next exchange.
+    if (Immediate) static_cast<void>(fsuipc_.ProcessForEvent(dwResult));
 }
 
 bool cOFFSET::DirectRead(bool Immediate) {
+    if (Immediate && !fsuipc_.Answers()) {
+        dwResult = kFsuipcNoAnswer;
+        return false;
+    }
     const bool queued = fsuipc_.FSUIPC_Read(Offset, TransferLenght(), DataPtr(), dwResult);
-    return Immediate ? fsuipc_.FSUIPC_Process(dwResult) && queued : queued;
+    if (!queued || !Immediate) return queued;
+    return fsuipc_.ProcessForEvent(dwResult) && fsuipc_.AllRead();
 }

@@ -58,10 +58,11 @@ class cOFFSET {
     // Four digits into type 3; 0 to 9999, values beyond are held to that.
     void SetBcd(int32_t Value);
 
-    // Queue a transfer; with Immediate the batch is sent at once, and what was read is there. A
-    // read gives false when it couldn't be queued, or the simulator hasn't answered.
+    // Queue a transfer; with Immediate the batch is sent at once, as for an event
+    // (ProcessForEvent), and what was read is there. A read gives false when it couldn't be queued,
+    // or the simulator hasn't given the value: then nothing may be written that rests on it.
     void DirectWrite(bool Immediate);
-    bool DirectRead(bool Immediate);
+    [[nodiscard]] bool DirectRead(bool Immediate);
 
   private:
     static int32_t Bcd(const uint8_t* bytes);

@@ -2,15 +2,13 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
 
+#include "simlink/channel/PendingActs.h"
+#include "simlink/channel/SpecialMode.h"
 #include "simlink/channel/cOFFSET.h"
 #include "simlink/channel/cOffsetTable.h"
 #include "simlink/channel/modFSUIPC.h"
-
-// Values of SpecialMode: which aircraft's own autopilot the panels work against.
-inline constexpr uint8_t kStandardMode = 0;
-inline constexpr uint8_t kMaddogMode = 1;
-inline constexpr uint8_t kNGXMode = 2;
 
 // What is known of the simulator, the way to it, and what all panels work with. It outlives the
 // single connection, as the panels' logics go on with the same offsets when the simulator comes
@@ -18,7 +16,14 @@ inline constexpr uint8_t kNGXMode = 2;
 struct cSession {
     cSession(IpcChannel& channel, Clock& clock) : Fsuipc(channel, clock), OffsetTable(Fsuipc) {}
 
-    // Writes a value of a type of cOFFSET's: with the next exchange, or at once with Immediate.
+    // A value of a type of cOFFSET's as it is at this moment. Nothing when the simulator doesn't
+    // give it.
+    [[nodiscard]] std::optional<double> ReadOffset(int32_t offset, int32_t dataType) {
+        cOFFSET source(Fsuipc, offset, dataType);
+        if (!source.DirectRead(true)) return std::nullopt;
+        return source.Data();
+    }
+    // Writes one: with the next exchange, or at once with Immediate.
     void WriteOffset(int32_t offset, int32_t dataType, double value, bool Immediate) {
         cOFFSET target(Fsuipc, offset, dataType);
         target.SetData(value);
@@ -27,7 +32,9 @@ struct cSession {
 
     modFSUIPC Fsuipc;
     cOffsetTable OffsetTable;
+    PendingActs Acts;
     bool FSConnected = false;
+    uint32_t Link = 0;      // number of the present session, or of the last one; from 1
     uint8_t FSVersion = 0;  // the simulator's number
     uint8_t SpecialMode = kStandardMode;
     uint8_t EngineSelected = 1;

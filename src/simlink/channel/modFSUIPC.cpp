@@ -166,27 +166,68 @@ bool modFSUIPC::FSUIPC_Write(int32_t offset, int32_t count, const void* source, 
     return true;
 }
 
-bool modFSUIPC::FSUIPC_Process(int32_t& result) {
+bool modFSUIPC::FSUIPC_Process(int32_t& result) { return Exchange(result, false); }
+
+bool modFSUIPC::ProcessForEvent(int32_t& result) {
+    if (answers_) return Exchange(result, true);
+    result = kFsuipcNoAnswer;
+    return false;
+}
+
+bool modFSUIPC::Exchange(int32_t& result, bool keepWrites) {
+    allRead_ = false;
+    const bool taken = SendBatch(result);
+    const bool done = taken && UnpackReplies();
+    if (done) result = kFsuipcOk;
+    if (!taken && keepWrites) {
+        KeepWrites();
+    } else {
+        EmptyBatch();
+    }
+    if (taken) Taken.Raise();
+    return done;
+}
+
+// True when the simulator has taken the batch over.
+bool modFSUIPC::SendBatch(int32_t& result) {
     if (!view_ || next_ == 0) {
         result = view_ ? kFsuipcEmptyBatch : kFsuipcNotOpen;
         return false;
     }
     StoreLE32(view_ + next_, 0);
-    next_ = 0;
     uintptr_t reply = 0;
-    answers_ = SendBatch(reply, result);
-    bool done = answers_;
-    if (done && reply != 1) {
+    answers_ = SendMessages(reply, result);
+    if (!answers_) return false;
+    if (reply != 1) {
         result = kFsuipcBadReply;
-        done = false;
+        return false;
     }
-    done = done && UnpackReplies();
-    records_.clear();
-    if (done) result = kFsuipcOk;
-    return done;
+    return true;
 }
 
-bool modFSUIPC::SendBatch(uintptr_t& reply, int32_t& result) {
+void modFSUIPC::EmptyBatch() {
+    next_ = 0;
+    records_.clear();
+}
+
+// The destinations of reads don't outlive their event.
+void modFSUIPC::KeepWrites() {
+    const uint8_t* from = view_;
+    uint8_t* to = view_;
+    for (const Record& record : records_) {
+        const bool read = record.identifier == kReadRecord;
+        const uint32_t size = (read ? kReadHeader : kWriteHeader) + record.count;
+        if (!read) {
+            std::memmove(to, from, size);
+            to += size;
+        }
+        from += size;
+    }
+    next_ = static_cast<uint32_t>(to - view_);
+    std::erase_if(records_, [](const Record& each) { return each.identifier == kReadRecord; });
+}
+
+bool modFSUIPC::SendMessages(uintptr_t& reply, int32_t& result) {
     const auto send = [&] {
         return channel_.SendMessageTimeoutA(window_, message_,
                                             static_cast<uintptr_t>(static_cast<uint32_t>(atom_)), 0,
@@ -210,7 +251,8 @@ bool modFSUIPC::SendBatch(uintptr_t& reply, int32_t& result) {
 // value.
 bool modFSUIPC::UnpackReplies() {
     const uint8_t* reply = view_;
-    for (size_t i = 0; LoadLE16(reply) != 0; ++i) {
+    size_t i = 0;
+    for (; LoadLE16(reply) != 0; ++i) {
         if (i == records_.size()) return false;
         const Record& sent = records_[i];
         if (LoadLE16(reply) != sent.identifier || LoadLE32(reply + 8) != sent.count) return false;
@@ -225,5 +267,6 @@ bool modFSUIPC::UnpackReplies() {
             reply += kWriteHeader + sent.count;
         }
     }
+    allRead_ = i == records_.size();
     return true;
 }

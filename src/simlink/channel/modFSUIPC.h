@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "base/Event.h"
 #include "platform/Clock.h"
 #include "platform/IpcChannel.h"
 
@@ -59,9 +60,18 @@ class modFSUIPC {
     // is taken as far as it goes.
     bool FSUIPC_Process(int32_t& result);
 
+    // The same on behalf of an event, between two ticks, after which the session may well go on:
+    // writes that the simulator hasn't taken stay in the batch, for the next exchange. While it
+    // doesn't answer nothing is sent, so that the steps of an event don't each wait in vain.
+    [[nodiscard]] bool ProcessForEvent(int32_t& result);
+
     // False when the last exchange ran out of time. The next one may take as long again, so what
     // can do without leaves it to the tick, which ends the session if need be.
     bool Answers() const { return answers_; }
+    // Whether the last exchange has brought a reply to every read of its batch.
+    bool AllRead() const { return allRead_; }
+
+    Event<> Taken;  // the simulator has taken a batch over
 
     bool IsOpen() const { return view_ != nullptr; }
 
@@ -82,8 +92,12 @@ class modFSUIPC {
                int32_t& result);
     bool OpenChannel(int32_t& result, bool& secondClass);
     bool ReadVersions(int32_t& result);
-    bool SendBatch(uintptr_t& reply, int32_t& result);
+    bool Exchange(int32_t& result, bool keepWrites);
+    bool SendBatch(int32_t& result);
+    bool SendMessages(uintptr_t& reply, int32_t& result);
     bool UnpackReplies();
+    void EmptyBatch();
+    void KeepWrites();
 
     IpcChannel& channel_;
     Clock& clock_;
@@ -95,4 +109,5 @@ class modFSUIPC {
     uint32_t next_ = 0;  // bytes of records in the batch
     std::vector<Record> records_;
     bool answers_ = true;
+    bool allRead_ = false;
 };

@@ -130,12 +130,12 @@ TEST_F(MultiPanelFlight, RecordsGoOutInsteadOfTheBuiltInBehaviour) {
     } steps[] = {
         {"selector 4 knob +3 knob -1", "+1 +3 -3 +3 -3 +3 -3 +4 -4", "1 3 3 3 4"},
         {"selector 5", "+2 -1", "2"},
-        {"selector 3", "", ""},
+        {"selector 3", "-2", ""},
         {"selector 4", "+1", "1"},
         {"click 3 long 3", "+5 -5 +6 -6", "5 6"},
         {"trim +2 trim -1", "+7 -7 +7 -7 +8 -8", "7 7 8"},
         {"flaps +1 flaps -1", "+9 -9 +10 -10", "9 10"},
-        {"throttle 1 throttle 0", "+11 -12", "11 12"},
+        {"throttle 1 throttle 0", "+11 -12 -11", "11 12"},
     };
     for (const std::string kind : {"VButton,64,", "VKey,", "None,"}) {
         std::string keys;
@@ -146,6 +146,7 @@ TEST_F(MultiPanelFlight, RecordsGoOutInsteadOfTheBuiltInBehaviour) {
               "FlapsActionUP", "FlapsActionDOWN", "AutoThrottleActionARM", "AutoThrottleActionOFF"})
             keys += control + ("=" + kind) + std::to_string(++number) + ",0,0\r\n";
         Fly("", keys);
+        Do("selector 0");
         sim.Set<uint32_t>(0x3340, 1U << 11);
         for (const auto& step : steps) {
             const char* sent = kind == "VKey," ? step.keys : kind == "None," ? "" : step.buttons;

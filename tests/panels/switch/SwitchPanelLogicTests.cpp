@@ -152,7 +152,7 @@ TEST_F(SwitchPanelLogicTest, VirtualButtonsAreDownForAWhileOrAsLongAsTheLeverSta
     Fly("SwitchGEARDOWNOn=VButton,64,3\nSwitchGEARUPOn=VButton,64,4");
     EXPECT_EQ(Do("up"), "+4 -0 -1") << "that of the profile before comes up as well";
     Fly("SwitchGEARDOWNOn=VButton,64,5\nSwitchGEARUPOn=VKey,65,1,97");
-    EXPECT_EQ(Do("up down"), "+5 -4 16");
+    EXPECT_EQ(Do("up down"), "-4 +5 16") << "a key lets the button go";
     Fly("SwitchGEARDOWNOn=VKey,65,0,98");
     Fly("SwitchGEARDOWNOn=VButton,64,5");
     EXPECT_EQ(Do("down"), "-0") << "it is down, and stays so";
