@@ -30,6 +30,7 @@ struct Happening {
         if (number > 255) text << std::hex << "=0x" << number << std::dec;
     }
     static void Tell(std::ostream& text, double value) { text << value; }
+    static void Tell(std::ostream& text, const std::string& value) { text << value; }
 };
 
 inline constexpr const char* kNothing = "";

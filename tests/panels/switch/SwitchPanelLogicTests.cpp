@@ -1,13 +1,13 @@
 #include <cstdio>
 
-#include "tests/panels/PanelFlight.h"
+#include "tests/panels/TextPanelFlight.h"
 
 namespace {
 
 using enum ActionKind;
 
 // A session with one Switch Panel, whose logic is driven directly.
-struct SwitchPanelLogicTest : PanelFlight {
+struct SwitchPanelLogicTest : TextPanelFlight {
     VirtualDevice& device = Plug(PanelKind::Switch);
     int position = 1;
     // Sizes of what is written, and the doubles, of which only the low half is told elsewhere.
