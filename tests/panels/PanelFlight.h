@@ -39,24 +39,38 @@ struct PanelFlight : testing::Test, VirtualCockpit {
         Connect();
         Window().cmbProfiles.SetListIndex(0);
         Tick();
-        Sent();
+        Tick();
+        machine.keyboard.typed.clear();
+        told.clear();
+    }
+    // The simulator goes away, and a new session begins.
+    void Reconnect() {
+        LoseSimulator();
+        Connect();
     }
     // The simulator has this value at the offset.
     template <class T = uint16_t>
     void Simulator(uint32_t offset, std::type_identity_t<T> value) {
         sim.Set<T>(offset, value);
     }
-    // Tells so, too: what goes out meanwhile stands before it.
+    // Tells so, behind what has gone out until then.
     void WaitMs(uint32_t milliseconds) {
         machine.loop.Advance(milliseconds);
+        TellPiledUp();
         told += Waited(milliseconds);
     }
-    // What has gone out by the next tick; keys at the end.
+    // What has gone out by the next tick.
     std::string Sent() {
         Tick();
+        TellPiledUp();
+        return std::exchange(told, {});
+    }
+
+  protected:
+    // Tells what doesn't raise an event when it goes out: it comes behind what does.
+    virtual void TellPiledUp() {
         for (const auto& stroke : std::exchange(machine.keyboard.typed, {}))
             told += Typed(stroke[0].wVk);
-        return std::exchange(told, {});
     }
 
   private:
