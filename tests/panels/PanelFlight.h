@@ -1,19 +1,36 @@
 #pragma once
 
 #include <bit>
-#include <cstdlib>
+#include <cstring>
 #include <gtest/gtest.h>
-#include <sstream>
+#include <string>
+#include <type_traits>
 #include <utility>
 
 #include "base/Bytes.h"
 #include "bench/virtual/VirtualCockpit.h"
+#include "tests/panels/Happening.h"
+
+// What goes out of a panel's logic. Virtual buttons are those of the first joystick.
+inline constexpr Happening SentControl{"SentControl"};  // number and parameter
+inline constexpr Happening Pressed{"Pressed"}, Released{"Released"};
+inline constexpr Happening ButtonsWrittenAsTheyWere{"ButtonsWrittenAsTheyWere"};
+inline constexpr Happening Typed{"Typed"};                                    // virtual key code
+inline constexpr Happening WroteByte{"WroteByte"}, WroteDword{"WroteDword"};  // offset and value
+inline constexpr Happening WroteDouble{"WroteDouble"};
+inline std::string WroteWord(uint32_t offset, int value) {
+    return Happening{"WroteWord"}(offset, static_cast<uint16_t>(value));
+}
+inline constexpr Happening Waited{"Waited"};  // milliseconds
+inline constexpr Happening Shows{"Shows"};
+
+inline constexpr uint32_t kBatteryMaster = 0x281C, kAvionicsMaster = 0x2E80;
+inline constexpr int32_t kLeftClick = 0x20000000;  // parameter of an add-on's control
 
 // A session in which a panel's logic is driven directly, and what goes out of it.
 struct PanelFlight : testing::Test, VirtualCockpit {
     OffsetServer& sim = machine.server;
-    std::ostringstream told;
-    std::ios_base& (*base)(std::ios_base&) = std::dec;  // of the values that are told
+    std::string told;
 
     // Goes on with this profile, and begins a session if there is none.
     void FlyWith(const std::string& profile) {
@@ -22,35 +39,66 @@ struct PanelFlight : testing::Test, VirtualCockpit {
         Connect();
         Window().cmbProfiles.SetListIndex(0);
         Tick();
-        Sent();
+        Tick();
+        machine.keyboard.typed.clear();
+        told.clear();
     }
-    // What has gone out by the next tick: controls "number:parameter", virtual buttons "+n" and
-    // "-n", keys "n", other writes "offset=value".
+    // The simulator goes away, and a new session begins.
+    void Reconnect() {
+        LoseSimulator();
+        Connect();
+    }
+    // The simulator has this value at the offset.
+    template <class T = uint16_t>
+    void Simulator(uint32_t offset, std::type_identity_t<T> value) {
+        sim.Set<T>(offset, value);
+    }
+    // Tells so, behind what has gone out until then.
+    void WaitMs(uint32_t milliseconds) {
+        machine.loop.Advance(milliseconds);
+        TellPiledUp();
+        told += Waited(milliseconds);
+    }
+    // What has gone out by the next tick.
     std::string Sent() {
         Tick();
-        for (const auto& stroke : machine.keyboard.typed) told << " " << stroke[0].wVk;
-        machine.keyboard.typed.clear();
-        const std::string text = std::exchange(told, {}).str();
-        return text.empty() ? text : text.substr(1);
+        TellPiledUp();
+        return std::exchange(told, {});
+    }
+
+  protected:
+    // Tells what doesn't raise an event when it goes out: it comes behind what does.
+    virtual void TellPiledUp() {
+        for (const auto& stroke : std::exchange(machine.keyboard.typed, {}))
+            told += Typed(stroke[0].wVk);
     }
 
   private:
-    void Note(uint32_t offset, std::span<const uint8_t> bytes) {
+    void Tell(uint32_t offset, std::span<const uint8_t> bytes) {
         const uint8_t* data = bytes.data();
-        const size_t size = bytes.size();
-        const uint32_t value = size == 1 ? data[0] : size == 2 ? LoadLE16(data) : LoadLE32(data);
+        const auto dword = [data](size_t at) { return static_cast<int32_t>(LoadLE32(data + at)); };
         if (offset == 0x330A) return;  // the client's version
         if (offset == 0x3110) {
-            told << " " << value << ":" << base << static_cast<int32_t>(LoadLE32(data + 4));
+            told += SentControl(dword(0), dword(4));
         } else if (offset == 0x3340) {
-            const auto before = sim.Get<uint32_t>(offset);
-            told << (before < value ? " +" : " -") << std::bit_width(before ^ value);
+            TellButtons(sim.Get<uint32_t>(offset), LoadLE32(data));
+        } else if (bytes.size() == 8) {
+            double value = 0;
+            std::memcpy(&value, data, sizeof value);
+            told += WroteDouble(offset, value);
         } else {
-            told << " " << std::hex << offset << "=" << base << static_cast<int32_t>(value);
+            told += bytes.size() == 1   ? WroteByte(offset, data[0])
+                    : bytes.size() == 2 ? WroteWord(offset, LoadLE16(data))
+                                        : WroteDword(offset, dword(0));
         }
-        told << std::dec;
+    }
+    void TellButtons(uint32_t before, uint32_t after) {
+        const int number = std::bit_width(before ^ after);
+        told += number == 0      ? ButtonsWrittenAsTheyWere()
+                : after > before ? Pressed(number)
+                                 : Released(number);
     }
 
     ScopedConnection writing_ = sim.Writing.Connect(
-        [this](uint32_t offset, std::span<const uint8_t> bytes) { Note(offset, bytes); });
+        [this](uint32_t offset, std::span<const uint8_t> bytes) { Tell(offset, bytes); });
 };

@@ -8,9 +8,12 @@
 
 // What the Multi Panel reads of the simulator, by name, and where each mode finds it.
 
-// Rows of kMultiOffsets. The first eight are the buttons' lights, AP to REV.
+// The first eight are the buttons' lights, AP to REV.
 inline constexpr size_t kMultiPanelLights = 8;
-enum MultiPanelValue : size_t {
+
+// Rows of kMultiOffsets.
+namespace MultiValue {
+enum : size_t {
     kMaster = 0,
     kHeading = kMultiPanelLights,
     kSpeed,
@@ -22,9 +25,9 @@ enum MultiPanelValue : size_t {
     kSpeedOver,
     kSpeedUnder,
     kVerticalSpeedBlank,
-    kThrottleArm,
-    kMultiPanelValues
+    kThrottleArm
 };
+}  // namespace MultiValue
 
 // In the order of the values, and then what other modes than the first one have of them. In the
 // standard mode the buttons' holds stand in the order of the buttons; the lights of the NGX come

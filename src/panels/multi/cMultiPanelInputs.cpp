@@ -76,24 +76,24 @@ void cMultiPanelLogic::TurnStandard(int step) {
     switch (selectorPosition_) {
         case MultiPosition::kALT:
             altitudeValue_ = std::clamp(altitudeValue_ + step * 100, 0, 99000);
-            write(kAltitude, 4, altitudeValue_ / kFeetPerMetre * 65536);
+            write(MultiValue::kAltitude, 4, altitudeValue_ / kFeetPerMetre * 65536);
             break;
         case MultiPosition::kVS:
             verticalSpeed_ =
                 static_cast<int16_t>(std::clamp(verticalSpeed_ + step * 100, -9900, 9900));
-            write(kVerticalSpeed, 2, verticalSpeed_);
+            write(MultiValue::kVerticalSpeed, 2, verticalSpeed_);
             break;
         case MultiPosition::kIAS:
             speedValue_ = std::max(speedValue_ + step, 0.0);
-            write(kSpeed, 2, speedValue_);
+            write(MultiValue::kSpeed, 2, speedValue_);
             break;
         case MultiPosition::kHDG:
             headingBug_ = OnCompass(headingBug_ + step);
-            write(kHeading, 3, headingBug_ / 360.0 * 65536);
+            write(MultiValue::kHeading, 3, headingBug_ / 360.0 * 65536);
             break;
         case MultiPosition::kCRS:
             courseValue_ = OnCompass(courseValue_ + step);
-            write(SecondCourse() ? kCourse2 : kCourse1, 2, courseValue_);
+            write(SecondCourse() ? MultiValue::kCourse2 : MultiValue::kCourse1, 2, courseValue_);
             break;
         default:
             break;
@@ -198,8 +198,8 @@ void cMultiPanelLogic::AutoThrottleChange(int16_t State) {
 
 // The control only turns the add-on's switch over, so it goes out where the two differ.
 bool cMultiPanelLogic::SetThrottleNGX(bool armed) {
-    const OffsetRow& row = kMultiOffsets[kThrottleArm];
-    const auto addOn = values_.AreRead() ? std::optional(Value(kThrottleArm))
+    const OffsetRow& row = kMultiOffsets[MultiValue::kThrottleArm];
+    const auto addOn = values_.AreRead() ? std::optional(Value(MultiValue::kThrottleArm))
                                          : session_.ReadOffset(row.offset, row.dataType);
     if (!addOn) return false;
     if (armed ? *addOn == 0 : *addOn == 1) ngx_.ClickAutoThrottle();

@@ -87,7 +87,7 @@ void cMultiPanelLogic::RegisterNGXLights() {
 void cMultiPanelLogic::RefreshData() {
     if (session_.SpecialMode == kMaddogMode) {
         values_.Take();
-        maddog_.Refresh(Value(kMaster) == 1);
+        maddog_.Refresh(Value(MultiValue::kMaster) == 1);
         return;
     }
     RefreshValues();
@@ -119,12 +119,13 @@ bool cMultiPanelLogic::SecondCourse() const {
 void cMultiPanelLogic::RefreshValues() {
     const bool ngx = session_.SpecialMode == kNGXMode;
     const double degrees = ngx ? 1 : 360.0 / 65536;
-    speedValue_ = Value(kSpeed);
-    verticalSpeed_ = RoundTo<int16_t>(Value(kVerticalSpeed));
-    courseValue_ = RoundTo<int16_t>(Value(SecondCourse() ? kCourse2 : kCourse1));
-    headingBug_ = RoundTo<int16_t>(Value(kHeading) * degrees);
-    altitudeValue_ =
-        RoundTo<int32_t>(ngx ? Value(kAltitude) : Value(kAltitude) * kFeetPerMetre / 65536);
+    speedValue_ = Value(MultiValue::kSpeed);
+    verticalSpeed_ = RoundTo<int16_t>(Value(MultiValue::kVerticalSpeed));
+    courseValue_ =
+        RoundTo<int16_t>(Value(SecondCourse() ? MultiValue::kCourse2 : MultiValue::kCourse1));
+    headingBug_ = RoundTo<int16_t>(Value(MultiValue::kHeading) * degrees);
+    altitudeValue_ = RoundTo<int32_t>(ngx ? Value(MultiValue::kAltitude)
+                                          : Value(MultiValue::kAltitude) * kFeetPerMetre / 65536);
     values_.Take();
 }
 
@@ -164,7 +165,7 @@ void cMultiPanelLogic::ShowNGX() {
     if (selectorPosition_ == MultiPosition::kIAS) {
         upperText_.clear();
         lowerText_.clear();
-        if (Value(kSpeedBlank) != 0) return;
+        if (Value(MultiValue::kSpeedBlank) != 0) return;
         if (speedValue_ < kLowestKnots) {
             AppendFixed(upperText_, speedValue_, 3);
         } else {
@@ -174,5 +175,5 @@ void cMultiPanelLogic::ShowNGX() {
     }
     SetNumber(upperText_, altitudeValue_, 1);
     lowerText_.clear();
-    if (Value(kVerticalSpeedBlank) == 0) AppendInteger(lowerText_, verticalSpeed_, 4);
+    if (Value(MultiValue::kVerticalSpeedBlank) == 0) AppendInteger(lowerText_, verticalSpeed_, 4);
 }

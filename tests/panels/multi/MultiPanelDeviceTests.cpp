@@ -1,250 +1,229 @@
-#include <gtest/gtest.h>
-#include <string>
-#include <vector>
-
 #include "panels/multi/ctlMultiPanel.h"
-#include "platform/virtual/VirtualPlatform.h"
-#include "toolkit/Form.h"
-#include "toolkit/HeadlessUi.h"
+#include "tests/panels/DeviceTest.h"
 
 namespace {
 
-namespace Bit = MultiPanelBit;
-using Report = VirtualDevice::Report;
-
 constexpr Color kRed = 0x0000FF, kYellow = 0x00FFFF, kWhite = 0xFFFFFF;
 
-struct MultiPanelDeviceTest : testing::Test {
-    VirtualPlatform machine;
-    HeadlessUi ui;
-    Form form{ui};
-    cSetupHolder setup{machine.ini, machine.files, machine.registry, "C:\\Orvo"};
-    VirtualDevice& device = machine.bus.Add(0x06A3, 0x0D06, "multi");
-    std::unique_ptr<ctlMultiPanel> panel = std::make_unique<ctlMultiPanel>(
-        form, DeviceServices{machine.clock, machine.loop, machine.hid, machine.deckhub, setup});
-    std::string log, first;
+// The bits of the state word, as the panel sends them.
+namespace Button {
+constexpr int32_t kAP = 0x800000, kHDG = 0x000100, kVS = 0x001000, kREV = 0x004000;
+}
+namespace Position {
+constexpr int32_t kNone = 0, kALT = 0x010000, kIAS = 0x040000, kHDG = 0x080000, kCRS = 0x100000;
+}
+constexpr int32_t kKnobRight = 0x200000, kKnobLeft = 0x400000;  // pulses
+constexpr int32_t kTrimUp = 0x000008, kTrimDown = 0x000004;     // pulses
+constexpr int32_t kFlapsUp = 0x000001, kFlapsDown = 0x000002;
+constexpr int32_t kArm = 0x008000;
+constexpr int32_t kAtRest = 0;
+
+// What is heard of the panel: steps by their speed, the selector by its new and old position.
+constexpr Happening Click{"Click"}, LongClick{"LongClick"}, KnobRight{"KnobRight"},
+    KnobLeft{"KnobLeft"}, TrimUp{"TrimUp"}, TrimDown{"TrimDown"}, FlapsUp{"FlapsUp"},
+    FlapsDown{"FlapsDown"}, Armed{"Armed"}, Selector{"Selector"};
+
+struct MultiPanelDeviceTest : DeviceTest<ctlMultiPanel, PanelKind::Multi> {
+    std::string first;
 
     MultiPanelDeviceTest() {
-        const auto number = [this](const char* name) {
-            return [this, name](int32_t n) { log += name + std::to_string(n) + " "; };
-        };
-        panel->ButtonClick.Connect(number("click"));
-        panel->ButtonLongClick.Connect(number("long"));
-        panel->RotaryUp.Connect(number("right"));
-        panel->RotaryDown.Connect(number("left"));
-        panel->TrimUp.Connect(number("trimup"));
-        panel->TrimDown.Connect(number("trimdown"));
-        panel->FlapsUp.Connect([this] { log += "flapsup "; });
-        panel->FlapsDown.Connect([this] { log += "flapsdown "; });
-        panel->AutoThrottleChange.Connect([this](bool arm) { log += arm ? "ARM " : "OFF "; });
-        panel->SelectorChange.Connect([this](int32_t now, int32_t before) {
-            log += "sel" + std::to_string(now >> 16) + "<" + std::to_string(before >> 16) + " ";
-        });
-        panel->Connect("multi");
+        Listen(panel->ButtonClick, Click);
+        Listen(panel->ButtonLongClick, LongClick);
+        Listen(panel->RotaryUp, KnobRight);
+        Listen(panel->RotaryDown, KnobLeft);
+        Listen(panel->TrimUp, TrimUp);
+        Listen(panel->TrimDown, TrimDown);
+        Listen(panel->FlapsUp, FlapsUp);
+        Listen(panel->FlapsDown, FlapsDown);
+        Listen(panel->AutoThrottleChange, Armed);
+        Listen(panel->SelectorChange, Selector);
+        PlugIn();
         device.SendReport({0x77, 0, 0, 0});
         machine.loop.RunPending();
-        first = Take();
-    }
-
-    void Send(int32_t state) {
-        device.SendReport({0, static_cast<uint8_t>(state >> 16), static_cast<uint8_t>(state >> 8),
-                           static_cast<uint8_t>(state)});
-        machine.loop.RunPending();
+        first = Heard();
     }
     void Pulse(int32_t bit, int times = 1) {
-        for (int i = 0; i < times; ++i) {
-            Send(bit);
-            Send(0);
-        }
+        for (int i = 0; i < times; ++i) Send(bit, kAtRest);
     }
-    std::string Take() { return std::exchange(log, {}); }
     Color ButtonColor(size_t row) { return panel->OnScreen.shpButton[row]->FillColor; }
 };
 
 TEST_F(MultiPanelDeviceTest, FirstReportTellsSelectorAndSwitchAndByte0SaysNothing) {
-    EXPECT_EQ(first, "sel0<0 OFF ");
+    EXPECT_EQ(first, Selector(Position::kNone, Position::kNone) + Armed(false));
     device.SendReport({0, 0x08, 0});
     machine.loop.RunPending();
-    EXPECT_EQ(Take(), "") << "short reports are dropped";
+    EXPECT_EQ(Heard(), kNothing) << "short reports are dropped";
 }
 
 // As an action that sends a keystroke lets in what waits.
 TEST_F(MultiPanelDeviceTest, ReportsThatComeWithinAnEventAreTakenOnce) {
     panel->SelectorChange.Connect([this](int32_t, int32_t) { machine.loop.RunPending(); });
     panel->RotaryUp.Connect([this](int16_t) { machine.loop.RunPending(); });
-    const auto post = [this](std::vector<int32_t> states) {
-        for (const int32_t state : states) {
-            device.SendReport({0, static_cast<uint8_t>(state >> 16), 0, 0});
-        }
-        machine.loop.RunPending();
-        return Take();
-    };
-    const int32_t hdg = Bit::kSelectorHDG, crs = Bit::kSelectorCRS, ap = Bit::kButtonAP;
-    EXPECT_EQ(post({hdg, crs, crs | ap}), "sel8<0 sel16<8 ");
-    EXPECT_EQ(post({crs}), "click8388608 ");
+    const int32_t hdg = Position::kHDG, crs = Position::kCRS;
+    SendAtOnce({hdg, crs, crs | Button::kAP});
+    EXPECT_EQ(Heard(), Selector(hdg, Position::kNone) + Selector(crs, hdg));
+    SendAtOnce({crs});
+    EXPECT_EQ(Heard(), Click(Button::kAP));
     std::vector<int32_t> turn;
-    for (int pulse = 0; pulse < 20; ++pulse) {
-        turn.push_back(crs | Bit::kKnobClockwisePulse);
-        turn.push_back(crs);
-    }
     std::string tenSteps;
-    for (int step = 0; step < 10; ++step) tenSteps += "right1 ";
-    EXPECT_EQ(post(turn), tenSteps);
+    for (int pulse = 0; pulse < 20; ++pulse) turn.insert(turn.end(), {crs | kKnobRight, crs});
+    for (int step = 0; step < 10; ++step) tenSteps += KnobRight(1);
+    SendAtOnce(turn);
+    EXPECT_EQ(Heard(), tenSteps);
 }
 
 TEST_F(MultiPanelDeviceTest, TwoPulsesMakeAStep) {
-    Pulse(Bit::kKnobClockwisePulse);
-    EXPECT_EQ(Take(), "");
-    machine.loop.Advance(5000);
-    Pulse(Bit::kKnobClockwisePulse);
-    EXPECT_EQ(Take(), "right1 ") << "after any pause";
-    machine.loop.Advance(300);
-    Pulse(Bit::kKnobCounterClockwisePulse);
-    machine.loop.Advance(300);
-    Pulse(Bit::kKnobClockwisePulse);
-    EXPECT_EQ(Take(), "") << "each direction has its own pair";
-    machine.loop.Advance(300);
-    Pulse(Bit::kKnobCounterClockwisePulse);
-    EXPECT_EQ(Take(), "left1 ");
-    machine.loop.Advance(1000);
-    Send(Bit::kTrimUpPulse);
-    machine.loop.Advance(249);
-    Send(0);
-    Send(Bit::kTrimUpPulse);
-    machine.loop.Advance(250);
-    Send(0);
-    EXPECT_EQ(Take(), "") << "released too late";
-    Pulse(Bit::kTrimUpPulse);
-    EXPECT_EQ(Take(), "trimup1 ");
+    Pulse(kKnobRight);
+    EXPECT_EQ(Heard(), kNothing);
+    WaitMs(5000);
+    Pulse(kKnobRight);
+    EXPECT_EQ(Heard(), KnobRight(1)) << "after any pause";
+    WaitMs(300);
+    Pulse(kKnobLeft);
+    WaitMs(300);
+    Pulse(kKnobRight);
+    EXPECT_EQ(Heard(), kNothing) << "each direction has its own pair";
+    WaitMs(300);
+    Pulse(kKnobLeft);
+    EXPECT_EQ(Heard(), KnobLeft(1));
+    WaitMs(1000);
+    Send(kTrimUp);
+    WaitMs(249);
+    Send(kAtRest, kTrimUp);
+    WaitMs(250);
+    Send(kAtRest);
+    EXPECT_EQ(Heard(), kNothing) << "released too late";
+    Pulse(kTrimUp);
+    EXPECT_EQ(Heard(), TrimUp(1));
 }
 
 TEST_F(MultiPanelDeviceTest, OtherReportsWithinTheWindowCountAsReleases) {
-    Send(Bit::kKnobClockwisePulse);
-    Send(Bit::kKnobCounterClockwisePulse);
-    EXPECT_EQ(Take(), "");
-    Send(Bit::kButtonAP);
-    EXPECT_EQ(Take(), "right1 ") << "the second report without the bit";
-    machine.loop.Advance(200);
-    Send(0);
-    EXPECT_EQ(Take(), "click8388608 ") << "the window of the other direction is over";
+    Send(kKnobRight, kKnobLeft);
+    EXPECT_EQ(Heard(), kNothing);
+    Send(Button::kAP);
+    EXPECT_EQ(Heard(), KnobRight(1)) << "the second report without the bit";
+    WaitMs(200);
+    Send(kAtRest);
+    EXPECT_EQ(Heard(), Click(Button::kAP)) << "the window of the other direction is over";
 }
 
 TEST_F(MultiPanelDeviceTest, SpeedFollowsThePulsesOfAPeriod) {
     const struct {
         int32_t bit;
         int pulses;
-        const char* steps;
+        Happening step;
+        int speed;
     } cases[] = {
-        {Bit::kKnobClockwisePulse, 10, "right1 "},  {Bit::kKnobClockwisePulse, 11, "right5 "},
-        {Bit::kKnobClockwisePulse, 14, "right10 "}, {Bit::kKnobClockwisePulse, 17, "right20 "},
-        {Bit::kTrimDownPulse, 5, "trimdown1 "},     {Bit::kTrimDownPulse, 6, "trimdown5 "},
-        {Bit::kTrimDownPulse, 10, "trimdown10 "},   {Bit::kTrimDownPulse, 13, "trimdown20 "},
+        {kKnobRight, 10, KnobRight, 1},  {kKnobRight, 11, KnobRight, 5},
+        {kKnobRight, 14, KnobRight, 10}, {kKnobRight, 17, KnobRight, 20},
+        {kTrimDown, 5, TrimDown, 1},     {kTrimDown, 6, TrimDown, 5},
+        {kTrimDown, 10, TrimDown, 10},   {kTrimDown, 13, TrimDown, 20},
     };
     for (const auto& test : cases) {
         SCOPED_TRACE(test.pulses);
-        machine.loop.Advance(1000);
+        WaitMs(1000);
         Pulse(test.bit, test.pulses);
-        machine.loop.Advance(200);
-        Take();
+        WaitMs(200);
+        Heard();
         Pulse(test.bit, 2);
-        EXPECT_TRUE(Take().starts_with(test.steps));
-        machine.loop.Advance(200);
+        EXPECT_TRUE(Heard().starts_with(test.step(test.speed)));
+        WaitMs(200);
         Pulse(test.bit, 2);
-        EXPECT_TRUE(Take().starts_with(test.steps)) << "a few pulses keep the speed";
+        EXPECT_TRUE(Heard().starts_with(test.step(test.speed))) << "a few pulses keep the speed";
         if (test.pulses % 2 != 0) Pulse(test.bit);
     }
-    machine.loop.Advance(1000);
+    WaitMs(1000);
     EXPECT_EQ(panel->OnScreen.labSpeed.Caption.Get(), "1");
 }
 
 TEST_F(MultiPanelDeviceTest, AccelerationSetsThePeriod) {
     panel->RotAcceleration(50);  // 200 ms
     panel->TrimAcceleration(0);
-    Pulse(Bit::kKnobClockwisePulse, 20);
-    Take();
-    machine.loop.Advance(199);
-    Pulse(Bit::kKnobClockwisePulse, 2);
-    machine.loop.Advance(1);
-    Pulse(Bit::kKnobClockwisePulse, 2);
-    EXPECT_EQ(Take(), "right1 right20 ");
-    machine.loop.Advance(1000);
-    Pulse(Bit::kTrimUpPulse, 20);
-    machine.loop.Advance(1000);
-    Take();
-    Pulse(Bit::kTrimUpPulse, 2);
-    EXPECT_EQ(Take(), "trimup1 ") << "no sampling";
+    Pulse(kKnobRight, 20);
+    Heard();
+    WaitMs(199);
+    Pulse(kKnobRight, 2);
+    WaitMs(1);
+    Pulse(kKnobRight, 2);
+    EXPECT_EQ(Heard(), KnobRight(1) + KnobRight(20));
+    WaitMs(1000);
+    Pulse(kTrimUp, 20);
+    WaitMs(1000);
+    Heard();
+    Pulse(kTrimUp, 2);
+    EXPECT_EQ(Heard(), TrimUp(1)) << "no sampling";
 }
 
 TEST_F(MultiPanelDeviceTest, ClicksAndLongClicksAtTheThreshold) {
     setup.ClickThreshold = 500;
-    Send(Bit::kButtonHDG);
+    Send(Button::kHDG);
     EXPECT_EQ(ButtonColor(1), kRed);
-    machine.loop.Advance(499);
-    Send(0);
-    EXPECT_EQ(Take(), "click256 ");
+    WaitMs(499);
+    Send(kAtRest);
+    EXPECT_EQ(Heard(), Click(Button::kHDG));
     EXPECT_EQ(ButtonColor(1), kWhite);
-    machine.loop.Advance(1000);
-    EXPECT_EQ(Take(), "");
-    Send(Bit::kButtonHDG);
-    machine.loop.Advance(500);
-    Send(0);
-    EXPECT_EQ(Take(), "") << "at the threshold itself no click";
-    machine.loop.Advance(15);
-    EXPECT_EQ(Take(), "long256 ") << "but the long click, even after the release";
-    Send(Bit::kButtonREV);
-    machine.loop.Advance(2000);
-    EXPECT_EQ(Take(), "long16384 ");
-    Send(0);
-    machine.loop.Advance(1000);
-    EXPECT_EQ(Take(), "");
+    WaitMs(1000);
+    EXPECT_EQ(Heard(), kNothing);
+    Send(Button::kHDG);
+    WaitMs(500);
+    Send(kAtRest);
+    EXPECT_EQ(Heard(), kNothing) << "at the threshold itself no click";
+    WaitMs(15);
+    EXPECT_EQ(Heard(), LongClick(Button::kHDG)) << "but the long click, even after the release";
+    Send(Button::kREV);
+    WaitMs(2000);
+    EXPECT_EQ(Heard(), LongClick(Button::kREV));
+    Send(kAtRest);
+    WaitMs(1000);
+    EXPECT_EQ(Heard(), kNothing);
     setup.ClickThreshold = 100;
-    Send(Bit::kButtonHDG);
-    machine.loop.Advance(150);
-    EXPECT_EQ(Take(), "long256 ") << "the option counts at once";
+    Send(Button::kHDG);
+    WaitMs(150);
+    EXPECT_EQ(Heard(), LongClick(Button::kHDG)) << "the option counts at once";
 }
 
 TEST_F(MultiPanelDeviceTest, SecondButtonTakesOverTheTime) {
-    Send(Bit::kButtonAP);
-    machine.loop.Advance(400);
-    Send(Bit::kButtonAP | Bit::kButtonVS);
-    machine.loop.Advance(400);
-    Send(Bit::kButtonVS);
-    EXPECT_EQ(Take(), "click8388608 ");
-    machine.loop.Advance(400);
-    EXPECT_EQ(Take(), "") << "the click ended the watch for both";
+    Send(Button::kAP);
+    WaitMs(400);
+    Send(Button::kAP | Button::kVS);
+    WaitMs(400);
+    Send(Button::kVS);
+    EXPECT_EQ(Heard(), Click(Button::kAP));
+    WaitMs(400);
+    EXPECT_EQ(Heard(), kNothing) << "the click ended the watch for both";
 }
 
 TEST_F(MultiPanelDeviceTest, LeversAndSelector) {
-    Send(Bit::kFlapsUp | Bit::kAutoThrottleArm | Bit::kSelectorHDG);
-    EXPECT_EQ(Take(), "sel8<0 flapsup ARM ");
+    Send(kFlapsUp | kArm | Position::kHDG);
+    EXPECT_EQ(Heard(), Selector(Position::kHDG, Position::kNone) + FlapsUp() + Armed(true));
     EXPECT_EQ(panel->OnScreen.shpFlapsLever.Top, 780);
     EXPECT_EQ(panel->OnScreen.shpATLever.Left, 8580);
     EXPECT_EQ(panel->OnScreen.labUpperMode.Caption.Get(), "HDG");
-    Send(Bit::kFlapsDown | Bit::kSelectorALT);
-    EXPECT_EQ(Take(), "sel1<8 flapsdown OFF ");
+    Send(kFlapsDown | Position::kALT);
+    EXPECT_EQ(Heard(), Selector(Position::kALT, Position::kHDG) + FlapsDown() + Armed(false));
     EXPECT_EQ(panel->OnScreen.shpFlapsLever.Top, 1140);
     EXPECT_EQ(panel->OnScreen.labLowerMode.Caption.Get(), " VS");
-    Send(0);
-    EXPECT_EQ(Take(), "sel0<1 ");
+    Send(kAtRest);
+    EXPECT_EQ(Heard(), Selector(Position::kNone, Position::kALT));
     EXPECT_EQ(panel->OnScreen.shpFlapsLever.Top, 960);
     EXPECT_EQ(panel->OnScreen.labLowerMode.Caption.Get(), " VS") << "no position keeps the labels";
 }
 
 TEST_F(MultiPanelDeviceTest, PointersAndTrimBarGoRound) {
     auto& screen = panel->OnScreen;
-    Send(Bit::kSelectorIAS);
+    Send(Position::kIAS);
     EXPECT_EQ(screen.SelectorSign.X2, 840 - 483);
     EXPECT_EQ(screen.SelectorSign.Y2, 1020 - 129);
-    Pulse(Bit::kKnobClockwisePulse, 2 * 6);
+    Pulse(kKnobRight, 2 * 6);
     EXPECT_EQ(screen.RotarySign.X2, 7110 + 500) << "90 degrees";
-    machine.loop.Advance(300);
-    Pulse(Bit::kKnobCounterClockwisePulse, 2 * 12);
+    WaitMs(300);
+    Pulse(kKnobLeft, 2 * 12);
     EXPECT_EQ(screen.RotarySign.X2, 7110 - 500);
     const int32_t start = screen.lineTrim.Y1;
-    Pulse(Bit::kTrimUpPulse, 2 * 8);
+    Pulse(kTrimUp, 2 * 8);
     EXPECT_EQ(screen.lineTrim.Y1, 2340);
-    machine.loop.Advance(300);
-    Pulse(Bit::kTrimDownPulse, 2 * 8);
+    WaitMs(300);
+    Pulse(kTrimDown, 2 * 8);
     EXPECT_EQ(screen.lineTrim.Y2, start);
 }
 
@@ -265,24 +244,36 @@ TEST_F(MultiPanelDeviceTest, OnlyChangesAreSentUnlessForcedOrDark) {
     panel->WriteDisplay("350", "-700", uint8_t{0x81});
     panel->WriteDisplay("350", "-700", uint8_t{0x81});
     panel->WriteDisplay();
-    const Report shown = {0, 10, 10, 3, 5, 0, 10, 14, 7, 0, 0, 0x81, 0};
-    EXPECT_EQ(device.featureReports, std::vector<Report>{shown});
+    const Report shown = {
+        0x00,                 // report id
+        0x0A, 0x0A, 3, 5, 0,  // blank, blank, 350
+        0x0A, 0x0E, 7, 0, 0,  // blank, -700
+        0x81,                 // AP and REV
+        0x00,
+    };
+    EXPECT_EQ(device.featureReports, Reports{shown});
     panel->WriteDisplay({}, {}, {}, true);
     panel->TurnOffDisplay();
     panel->TurnOffDisplay();
-    const Report dark = {0, 15, 15, 15, 15, 15, 15, 15, 15, 15, 15, 0, 0};
-    EXPECT_EQ(device.featureReports, (std::vector<Report>{shown, shown, dark, dark}));
+    const Report dark = {
+        0x00,                          // report id
+        0x0F, 0x0F, 0x0F, 0x0F, 0x0F,  // no segment,
+        0x0F, 0x0F, 0x0F, 0x0F, 0x0F,  // nor one of the lower display
+        0x00,                          // no light
+        0x00,
+    };
+    EXPECT_EQ(device.featureReports, (Reports{shown, shown, dark, dark}));
     EXPECT_EQ(panel->OnScreen.labUpperValue.Caption.Get(), "350") << "the labels stay";
     panel->WriteDisplay("350", "-700", uint8_t{0x81});
     EXPECT_EQ(device.featureReports.back(), shown) << "the same texts bring it back";
 }
 
 TEST_F(MultiPanelDeviceTest, HeldButtonStaysRedUntilItsRelease) {
-    Send(Bit::kButtonAP);
+    Send(Button::kAP);
     panel->WriteDisplay({}, {}, uint8_t{0x03});
     EXPECT_EQ(ButtonColor(0), kRed);
     EXPECT_EQ(ButtonColor(1), kYellow);
-    Send(0);
+    Send(kAtRest);
     EXPECT_EQ(ButtonColor(0), kYellow);
     panel->WriteDisplay({}, {}, uint8_t{0});
     EXPECT_EQ(ButtonColor(0), kWhite);
@@ -291,21 +282,28 @@ TEST_F(MultiPanelDeviceTest, HeldButtonStaysRedUntilItsRelease) {
 TEST_F(MultiPanelDeviceTest, PositionsAreReadFromTheDevice) {
     device.positions = {0, 0x10, 0, 0};
     panel->GetPositions();
-    EXPECT_EQ(Take(), "sel16<0 ");
+    EXPECT_EQ(Heard(), Selector(Position::kCRS, Position::kNone));
     machine.hid.Refuse(HidCall::GetFeature, 1);
     panel->GetPositions();
-    EXPECT_EQ(Take(), "sel0<0 ") << "nothing read is no position";
-    Send(0);
-    EXPECT_EQ(Take(), "") << "the last report is still what reports are compared with";
+    EXPECT_EQ(Heard(), Selector(Position::kNone, Position::kNone)) << "nothing read is no position";
+    Send(kAtRest);
+    EXPECT_EQ(Heard(), kNothing) << "the last report is still what reports are compared with";
 }
 
 TEST_F(MultiPanelDeviceTest, SplashLetsReportsIn) {
     device.featureReports.clear();
     machine.loop.After(150, [this] { device.SendReport({0, 0x08, 0, 0}); });
     panel->Splash();
-    EXPECT_EQ(Take(), "sel8<0 ");
+    EXPECT_EQ(Heard(), Selector(Position::kHDG, Position::kNone));
     ASSERT_GE(device.featureReports.size(), 12U);
-    EXPECT_EQ(device.featureReports[1], (Report{0, 10, 10, 10, 0, 10, 10, 10, 10, 10, 10, 1, 0}));
+    const Report second = {
+        0x00,                          // report id
+        0x0A, 0x0A, 0x0A, 0,    0x0A,  // a zero on its way to the left
+        0x0A, 0x0A, 0x0A, 0x0A, 0x0A,  // blank
+        0x01,                          // AP
+        0x00,
+    };
+    EXPECT_EQ(device.featureReports[1], second);
     EXPECT_EQ(machine.clock.Elapsed(), 1000U);
 }
 
@@ -316,7 +314,8 @@ TEST_F(MultiPanelDeviceTest, EndTurnsOffStopsAndCloses) {
     EXPECT_EQ(machine.deckhub.ReadingCount(), 0);
     EXPECT_EQ(machine.hid.OpenCount(), 0U);
     EXPECT_EQ(machine.loop.TimerCount(), 0U);
-    EXPECT_EQ(Take(), "sel8<0 ") << "what had come in was still taken";
+    EXPECT_EQ(Heard(), Selector(Position::kHDG, Position::kNone))
+        << "what had come in was still taken";
 }
 
 }  // namespace

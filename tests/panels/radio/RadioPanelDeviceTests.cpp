@@ -1,178 +1,278 @@
-#include <gtest/gtest.h>
-#include <sstream>
-
 #include "panels/radio/ctlRadioPanel.h"
-#include "platform/virtual/VirtualPlatform.h"
-#include "toolkit/Form.h"
-#include "toolkit/HeadlessUi.h"
+#include "tests/panels/DeviceTest.h"
 
 namespace {
 
-struct RadioPanelDeviceTest : testing::Test {
-    VirtualPlatform machine;
-    HeadlessUi ui;
-    Form form{ui};
-    cSetupHolder setup{machine.ini, machine.files, machine.registry, "C:\\Orvo"};
-    VirtualDevice& device = machine.bus.Add(0x06A3, 0x0D05, "radio");
-    DeviceServices services{machine.clock, machine.loop, machine.hid, machine.deckhub, setup};
-    ctlRadioPanel panel{form, services};
-    RadioPanelPicture::Side &upper = panel.OnScreen.At(1), &lower = panel.OnScreen.At(2);
-    const std::string &speed1 = upper.labSpeed.Caption, &speed2 = lower.labSpeed.Caption;
-    const std::string dark = "00" + std::string(44, 'f');
-    std::ostringstream log;  // events and feature reports, in hexadecimal
+// The bits of the state word, as the panel sends them. 1 is the upper row, 2 the lower one.
+constexpr int32_t kButton1 = 0x4000, kButton2 = 0x8000;
+constexpr int32_t kCOM1Of1 = 0x010000, kCOM2Of1 = 0x020000, kNAV1Of1 = 0x040000;
+constexpr int32_t kCOM1Of2 = 0x800000, kCOM2Of2 = 0x000100;
+// Pulses of the knobs' rings, clockwise and counter-clockwise.
+constexpr int32_t kInner1Right = 0x01, kInner1Left = 0x02, kOuter1Right = 0x04, kOuter1Left = 0x08;
+constexpr int32_t kInner2Right = 0x10, kInner2Left = 0x20, kOuter2Right = 0x40, kOuter2Left = 0x80;
+constexpr int32_t kAtRest = 0;
+
+enum Ring : int32_t { Inner1, Outer1, Inner2, Outer2 };
+
+constexpr Happening Down{"Down"}, Up{"Up"}, Click{"Click"}, LongClick{"LongClick"};  // button
+constexpr Happening Right{"Right"}, Left{"Left"};  // ring and speed
+constexpr Happening Selector{"Selector"};          // row, new and old position
+
+struct RadioPanelDeviceTest : DeviceTest<ctlRadioPanel, PanelKind::Radio> {
+    RadioPanelPicture::Side &upper = panel->OnScreen.At(1), &lower = panel->OnScreen.At(2);
+    Report dark = Report(23, 0xFF);
 
     RadioPanelDeviceTest() {
-        const auto tell = [this](auto& event, const char* name) {
-            event.Connect([this, name](auto... numbers) {
-                log << name << std::hex;
-                ((log << numbers << ' '), ...);
-            });
-        };
-        tell(panel.ButtonClick, "C");
-        tell(panel.ButtonLongClick, "L");
-        tell(panel.ButtonDown, "D");
-        tell(panel.ButtonUp, "U");
-        tell(panel.RotaryUp, "+");
-        tell(panel.RotaryDown, "-");
-        tell(panel.SelectorChange, "s");
+        dark[0] = 0x00;  // report id
+        Listen(panel->ButtonDown, Down);
+        Listen(panel->ButtonUp, Up);
+        Listen(panel->ButtonClick, Click);
+        Listen(panel->ButtonLongClick, LongClick);
+        Listen(panel->RotaryUp, Right);
+        Listen(panel->RotaryDown, Left);
+        Listen(panel->SelectorChange, Selector);
         setup.ClickThreshold = 510;
-        panel.Connect("radio");
-        EXPECT_EQ(Play("0"), "s1 0 0 s2 0 0 ");
+        PlugIn();
+        Send(kAtRest);
+        EXPECT_EQ(Heard(), Selector(1, 0, 0) + Selector(2, 0, 0));
     }
-    // "+9" waits, "?" logs the speeds, "g" gets the positions, else reports; with commas at once.
-    std::string Play(const std::string& script = "") {
-        std::istringstream words(script);
-        for (std::string word; words >> word; machine.loop.RunPending()) {
-            if (word == "g") panel.GetPositions();
-            if (word == "?") log << speed1 << '/' << speed2 << ' ';
-            if (word[0] == '+') machine.loop.Advance(static_cast<uint32_t>(std::stoi(word)));
-            for (char* at = word.data(); std::isxdigit(*at); at += *at == ',') {
-                const auto state = std::strtoul(at, &at, 16);
-                const auto byte = [=](int n) { return static_cast<uint8_t>(state >> n); };
-                device.SendReport({0, byte(16), byte(8), byte(0)});
-            }
-        }
-        for (const auto& report : std::exchange(device.featureReports, {}))
-            for (const int byte : report) log << std::hex << byte / 16 << byte % 16;
-        return std::exchange(log, {}).str();
+    // Pulses of these rings come and go, all before the first is handled.
+    void Turn(int32_t bits, int pulses = 1) {
+        std::vector<int32_t> states;
+        for (int i = 0; i < pulses; ++i) states.insert(states.end(), {bits, kAtRest});
+        SendAtOnce(states);
+    }
+    std::string ShownSpeeds() {
+        return upper.labSpeed.Caption.Get() + "/" + lower.labSpeed.Caption.Get();
     }
 };
 
 TEST_F(RadioPanelDeviceTest, SelectorsAreToldAndShownAndReadFromTheDevice) {
-    panel.SelectorChange.Connect([this](int side, int, int) {
+    constexpr Happening Needles{"Needles"};  // right in the upper row, down in the lower one
+    panel->SelectorChange.Connect([this, Needles](int row, int, int) {
         const Line &line1 = upper.lineSelector, &line2 = lower.lineSelector;
-        if (side == 2) log << std::dec << line1.X2 - 1080 << ',' << line2.Y2 - line2.Y1 << ' ';
+        if (row == 2) told += Needles(line1.X2 - 1080, line2.Y2 - line2.Y1);
     });
-    EXPECT_EQ(Play("10000 20100 40200 80400 100800 201000 402000"),
-              "s1 10000 0 s1 20000 10000 s2 100 0 -246,-315 s1 40000 20000 s2 200 100 -378,-130 "
-              "s1 80000 40000 s2 400 200 -380,124 s1 100000 80000 s2 800 400 -302,262 s1 200000 "
-              "100000 s2 1000 800 -150,371 s1 400000 200000 s2 2000 1000 104,386 ");
+    Send(kCOM1Of1);
+    EXPECT_EQ(Heard(), Selector(1, kCOM1Of1, 0));
+    const struct {
+        int32_t upper, lower;
+        int right, down;
+    } moves[] = {{0x020000, 0x000100, -246, -315}, {0x040000, 0x000200, -378, -130},
+                 {0x080000, 0x000400, -380, 124},  {0x100000, 0x000800, -302, 262},
+                 {0x200000, 0x001000, -150, 371},  {0x400000, 0x002000, 104, 386}};
+    int32_t before1 = kCOM1Of1, before2 = 0;
+    for (const auto& to : moves) {
+        Send(to.upper | to.lower);
+        EXPECT_EQ(Heard(), Selector(1, to.upper, std::exchange(before1, to.upper)) +
+                               Selector(2, to.lower, std::exchange(before2, to.lower)) +
+                               Needles(to.right, to.down));
+    }
     device.positions = {0x01, 0x81, 0xC0, 0xFF};
     machine.hid.Refuse(HidCall::GetFeature, 1);
-    EXPECT_EQ(Play("g g 2000"), "s1 0 0 s2 0 0 0,-400 s1 10000 0 s2 800000 0 0,-400 s1 0 400000 ");
+    panel->GetPositions();
+    EXPECT_EQ(Heard(), Selector(1, 0, 0) + Selector(2, 0, 0) + Needles(0, -400));
+    panel->GetPositions();
+    EXPECT_EQ(Heard(), Selector(1, kCOM1Of1, 0) + Selector(2, kCOM1Of2, 0) + Needles(0, -400));
+    Send(0x002000);
+    EXPECT_EQ(Heard(), Selector(1, 0, 0x400000)) << "compared with the report before";
 }
 
 TEST_F(RadioPanelDeviceTest, DisplaysShowTheEndsOfTextsAndOnlyChangesAreSent) {
-    const std::array<std::string, 5> cases[] = {
-        {"118.02", "12.", " . . .", "1 123", "0101d80002ffffff01d2ffffdfdfdf01ff010203"},
-        {"1234567", "", ".", "0345,3", "0304050607ffffffffffffffffffff000304d503"},
-        {"-9.x", "1.23456", ".6..7", "8,9:/", "ffffffd9ff0203040506ffffffd607ffd809ffff"}};
-    for (const auto& [active1, standby1, active2, standby2, digits] : cases) {
-        panel.WriteDisplay(active1, standby1, active2, standby2);
-        EXPECT_EQ(Play(), "00" + digits + "0000");
+    // 0xFF is dark, 0xD0 a point with the digit, 0xDF one alone.
+    struct Display {
+        std::string text;
+        std::array<uint8_t, 5> digits;
+    };
+    const Display cases[][4] = {{{"118.02", {0x01, 0x01, 0xD8, 0x00, 0x02}},
+                                 {"12.", {0xFF, 0xFF, 0xFF, 0x01, 0xD2}},
+                                 {" . . .", {0xFF, 0xFF, 0xDF, 0xDF, 0xDF}},
+                                 {"1 123", {0x01, 0xFF, 0x01, 0x02, 0x03}}},
+                                {{"1234567", {0x03, 0x04, 0x05, 0x06, 0x07}},
+                                 {"", {0xFF, 0xFF, 0xFF, 0xFF, 0xFF}},
+                                 {".", {0xFF, 0xFF, 0xFF, 0xFF, 0xFF}},
+                                 {"0345,3", {0x00, 0x03, 0x04, 0xD5, 0x03}}},
+                                {{"-9.x", {0xFF, 0xFF, 0xFF, 0xD9, 0xFF}},
+                                 {"1.23456", {0x02, 0x03, 0x04, 0x05, 0x06}},
+                                 {".6..7", {0xFF, 0xFF, 0xFF, 0xD6, 0x07}},
+                                 {"8,9:/", {0xFF, 0xD8, 0x09, 0xFF, 0xFF}}}};
+    for (const auto& [active1, standby1, active2, standby2] : cases) {
+        panel->WriteDisplay(active1.text, standby1.text, active2.text, standby2.text);
+        Report report = {0x00};
+        for (const auto& display : {active1, standby1, active2, standby2})
+            report.insert(report.end(), display.digits.begin(), display.digits.end());
+        report.insert(report.end(), {0x00, 0x00});
+        EXPECT_EQ(Written(), Reports{report}) << active1.text;
     }
-    const std::string &label = upper.labActive.Caption, &last = lower.labStandby.Caption;
-    EXPECT_EQ(label + last, "-9.x8.9:/");
-    for (int time = 0; time < 3; ++time, panel.TurnOffDisplay())
-        panel.WriteDisplay({}, "1.23456", {}, "8,9:/");
-    panel.TurnOffDisplay();
-    const std::string again = "00ffffffffff0203040506ffffffffffffd809ffffffff";
-    EXPECT_EQ(label + last + Play(), dark + again + dark + again + dark + dark);
+    EXPECT_EQ(upper.labActive.Caption.Get(), "-9.x");
+    EXPECT_EQ(lower.labStandby.Caption.Get(), "8.9:/");
+    for (int time = 0; time < 3; ++time, panel->TurnOffDisplay())
+        panel->WriteDisplay({}, "1.23456", {}, "8,9:/");
+    panel->TurnOffDisplay();
+    const Report again = {
+        0x00,                          // report id
+        0xFF, 0xFF, 0xFF, 0xFF, 0xFF,  // dark, as it was turned off
+        0x02, 0x03, 0x04, 0x05, 0x06,  // 1.23456
+        0xFF, 0xFF, 0xFF, 0xFF, 0xFF,  // dark
+        0xFF, 0xD8, 0x09, 0xFF, 0xFF,  // 8.9
+        0xFF, 0xFF,                    // as dark leaves them
+    };
+    EXPECT_EQ(Written(), (Reports{dark, again, dark, again, dark, dark}));
+    EXPECT_EQ(upper.labActive.Caption.Get(), "");
+    EXPECT_EQ(lower.labStandby.Caption.Get(), "");
 }
 
 TEST_F(RadioPanelDeviceTest, SplashLetsAZeroRunRoundAndTheEndIsDark) {
-    machine.loop.After(1, [this] { log << machine.clock.Elapsed() << ' '; });
-    panel.Splash();
-    std::string wanted = "30 ";
-    for (size_t at : {10, 9, 8, 7, 6, 5, 4, 3, 2, 1, 11, 12, 13, 14, 15, 16, 17, 18, 19, 20})
-        wanted += std::string(dark).replace(2 * at, 2, "00").replace(42, 4, "0000");
-    EXPECT_EQ(Play(), wanted + dark);
+    uint64_t letIn = 0;
+    machine.loop.After(1, [&] { letIn = machine.clock.Elapsed(); });
+    panel->Splash();
+    EXPECT_EQ(letIn, 30U) << "pending messages run";
+    Reports wanted;
+    for (size_t at : {10, 9, 8, 7, 6, 5, 4, 3, 2, 1, 11, 12, 13, 14, 15, 16, 17, 18, 19, 20}) {
+        wanted.push_back(dark);
+        for (const size_t zero : {at, size_t{21}, size_t{22}}) wanted.back()[zero] = 0x00;
+    }
+    wanted.push_back(dark);
+    EXPECT_EQ(Written(), wanted);
     EXPECT_EQ(machine.clock.Elapsed(), 1200U);
-    ctlRadioPanel(form, services).Connect("radio");
-    EXPECT_EQ(Play(), dark) << "the end of a panel";
+    panel.reset();
+    EXPECT_EQ(Written(), Reports{dark}) << "the end of a panel";
 }
 
 TEST_F(RadioPanelDeviceTest, TwoPulsesMakeAStepAndTurnTheRing) {
-    EXPECT_EQ(Play("5,0 +200 a,0 +200 50,0 +200 a0,0 +5000"), "");
-    EXPECT_EQ(Play("5,0 +200 a,0 +200 50,0 +200 a0,0"), "+0 1 +1 1 -0 1 -1 1 +2 1 +3 1 -2 1 -3 1 ");
-    EXPECT_EQ(Play("+200 ff,0,ff,0"), "+0 1 -0 1 +1 1 -1 1 +2 1 -2 1 +3 1 -3 1 ");
-    EXPECT_EQ(Play("+200 1 +199 0 1 +200 0"), "") << "the second comes off too late";
-    EXPECT_EQ(Play("1,0 +200 4 8 4000 +200 0"), "+0 1 +1 1 D4000 C4000 U4000 ");
-    for (int step = 0; step < 5; ++step) Play("81,0,81,0");
-    const Line &in = upper.lineInnRot, &out = lower.lineOutRot;
-    EXPECT_EQ((std::vector<int>{in.X2, out.X1, out.Y2}), (std::vector{8430, 7958, 2080}));
+    const auto all = [this] {
+        for (const int32_t rings : {kInner1Right | kOuter1Right, kInner1Left | kOuter1Left,
+                                    kInner2Right | kOuter2Right, kInner2Left | kOuter2Left})
+            WaitMs(200), Turn(rings);
+    };
+    all();
+    WaitMs(5000);
+    EXPECT_EQ(Heard(), kNothing);
+    all();
+    EXPECT_EQ(Heard(), Right(Inner1, 1) + Right(Outer1, 1) + Left(Inner1, 1) + Left(Outer1, 1) +
+                           Right(Inner2, 1) + Right(Outer2, 1) + Left(Inner2, 1) + Left(Outer2, 1));
+    WaitMs(200), Turn(0xFF, 2);
+    EXPECT_EQ(Heard(), Right(Inner1, 1) + Left(Inner1, 1) + Right(Outer1, 1) + Left(Outer1, 1) +
+                           Right(Inner2, 1) + Left(Inner2, 1) + Right(Outer2, 1) + Left(Outer2, 1));
+    WaitMs(200), Send(kInner1Right), WaitMs(199), Send(kAtRest, kInner1Right);
+    WaitMs(200), Send(kAtRest);
+    EXPECT_EQ(Heard(), kNothing) << "the second comes off too late";
+    Turn(kInner1Right), WaitMs(200);
+    Send(kOuter1Right, kOuter1Left, kButton1), WaitMs(200), Send(kAtRest);
+    EXPECT_EQ(Heard(), Right(Inner1, 1) + Right(Outer1, 1) + Down(kButton1) + Click(kButton1) +
+                           Up(kButton1));
+    for (int step = 0; step < 5; ++step) Turn(kInner1Right | kOuter2Left, 2);
+    EXPECT_EQ(upper.lineInnRot.X2, 8430);
+    EXPECT_EQ(lower.lineOutRot.X1, 7958);
+    EXPECT_EQ(lower.lineOutRot.Y2, 2080);
 }
 
 TEST_F(RadioPanelDeviceTest, SpeedsFollowThePulsesOfEachSide) {
-    for (uint8_t side = 0; side < 4; ++side) panel.SetAcceleration(side, side == 2 ? 200 : 250);
-    const std::array<std::string, 2> cases[] = {
-        {"ff,ff,f3,f0,10,0", "1/20 +1 1 +3 14 "}, {"ff,ff,f7,f0,0", "1/10 +1 5 +3 a "},
-        {"ff,ff,ff,31,0", "1/10 +1 5 +3 a "},     {"ff,ff,ff,13,0", "1/5 +1 a +3 5 "},
-        {"ff,ff,7f,f,0", "1/5 +1 a +3 5 "},       {"ff,ff,3f,f,1,0", "1/1 +1 14 +3 1 "}};
-    for (const auto& [pulses, steps] : cases) {
-        Play("+2400 " + pulses + " +650");
-        EXPECT_EQ(Play("? +150 4,0,4,0 +250 40,0,40,0"), steps) << pulses;
+    for (uint8_t row = 0; row < 4; ++row) panel->SetAcceleration(row, row == 2 ? 200 : 250);
+    const struct {
+        std::vector<int32_t> states;  // at once; the upper row's pulses are 0x0F, the lower's 0xF0
+        const char* shown;            // when both periods are over
+        int upper, lower;             // speed of a step in the next ones
+    } cases[] = {
+        {{0xFF, 0xFF, 0xF3, 0xF0, 0x10, 0x00}, "1/20", 1, 20},
+        {{0xFF, 0xFF, 0xF7, 0xF0, 0x00}, "1/10", 5, 10},
+        {{0xFF, 0xFF, 0xFF, 0x31, 0x00}, "1/10", 5, 10},
+        {{0xFF, 0xFF, 0xFF, 0x13, 0x00}, "1/5", 10, 5},
+        {{0xFF, 0xFF, 0x7F, 0x0F, 0x00}, "1/5", 10, 5},
+        {{0xFF, 0xFF, 0x3F, 0x0F, 0x01, 0x00}, "1/1", 20, 1},
+    };
+    for (const auto& test : cases) {
+        WaitMs(2400), SendAtOnce(test.states), WaitMs(650);
+        Heard();
+        EXPECT_EQ(ShownSpeeds(), test.shown);
+        WaitMs(150), Turn(kOuter1Right, 2), WaitMs(250), Turn(kOuter2Right, 2);
+        EXPECT_EQ(Heard(), Right(Outer1, test.upper) + Right(Outer2, test.lower)) << test.shown;
     }
-    EXPECT_EQ(Play("+550 4,0,4,0 +1599 ? +1 ?"), "+1 14 20/1 1/1 ") << "a few pulses keep it";
+    WaitMs(550), Turn(kOuter1Right, 2);
+    EXPECT_EQ(Heard(), Right(Outer1, 20)) << "a few pulses keep it";
+    WaitMs(1599);
+    EXPECT_EQ(ShownSpeeds(), "20/1");
+    WaitMs(1);
+    EXPECT_EQ(ShownSpeeds(), "1/1");
 }
 
 TEST_F(RadioPanelDeviceTest, ClicksAndLongClicksAtTheThreshold) {
-    EXPECT_EQ(Play("4000 +509 0 +600 8000 +510 0"), "D4000 C4000 U4000 D8000 U8000 ");
-    EXPECT_EQ(Play("+15 4000 +515 0 +10"), "L8000 U8000 D4000 U4000 L4000 U4000 ");
-    EXPECT_EQ(Play("4000 +400 c000 +400 8000 +1000 0"), "D4000 D8000 C4000 U4000 U8000 ");
-    EXPECT_EQ(Play("4000 +400 c000 +525 8000"), "D4000 D8000 L8000 U4000 ");
-    EXPECT_EQ(upper.shpSwitch.FillColor - lower.shpSwitch.FillColor, 0xFFFFFFU - 0x0000FFU);
+    Send(kButton1), WaitMs(509), Send(kAtRest), WaitMs(600);
+    EXPECT_EQ(Heard(), Down(kButton1) + Click(kButton1) + Up(kButton1));
+    Send(kButton2), WaitMs(510), Send(kAtRest);
+    EXPECT_EQ(Heard(), Down(kButton2) + Up(kButton2));
+    WaitMs(15);
+    EXPECT_EQ(Heard(), LongClick(kButton2) + Up(kButton2));
+    Send(kButton1), WaitMs(515), Send(kAtRest), WaitMs(10);
+    EXPECT_EQ(Heard(), Down(kButton1) + Up(kButton1) + LongClick(kButton1) + Up(kButton1));
+    const int32_t both = kButton1 | kButton2;
+    Send(kButton1), WaitMs(400), Send(both), WaitMs(400), Send(kButton2), WaitMs(1000);
+    Send(kAtRest);
+    EXPECT_EQ(Heard(),
+              Down(kButton1) + Down(kButton2) + Click(kButton1) + Up(kButton1) + Up(kButton2));
+    Send(kButton1), WaitMs(400), Send(both), WaitMs(525), Send(kButton2);
+    EXPECT_EQ(Heard(), Down(kButton1) + Down(kButton2) + LongClick(kButton2) + Up(kButton1));
+    EXPECT_EQ(upper.shpSwitch.FillColor, 0xFFFFFFU);
+    EXPECT_EQ(lower.shpSwitch.FillColor, 0x0000FFU);
 }
 
 // As when the simulator answers late: what counts is when a report came, not when it is taken.
 TEST_F(RadioPanelDeviceTest, ABusyMomentLosesNoPulseAndMakesNoClickALongOne) {
     const auto releaseWhileBusy = [this] {
         machine.clock.Sleep(50);
-        device.SendReport({0, 0, 0, 0});
+        Post(kAtRest);
         machine.clock.Sleep(600);
     };
-    Play("1,0 1 +100");
+    Turn(kInner1Right), Send(kInner1Right), WaitMs(100);
+    Heard();
     releaseWhileBusy();
-    EXPECT_EQ(Play("+1"), "+0 1 ");
-    Play("+2000 4000 +100");
+    WaitMs(1);
+    EXPECT_EQ(Heard(), Right(Inner1, 1));
+    WaitMs(2000), Send(kButton1), WaitMs(100);
+    EXPECT_EQ(Heard(), Down(kButton1));
     releaseWhileBusy();
-    EXPECT_EQ(Play("+2000 4000 +610"), "C4000 U4000 D4000 L4000 ");
-    Play("0 8000");
+    WaitMs(2000), Send(kButton1), WaitMs(610);
+    EXPECT_EQ(Heard(), Click(kButton1) + Up(kButton1) + Down(kButton1) + LongClick(kButton1));
+    Send(kAtRest, kButton2);
+    Heard();
     for (int time = 0; time < 5; ++time, machine.loop.RunPending()) machine.clock.Sleep(150);
-    EXPECT_EQ(Play(), "L8000 ") << "also where the loop is always late";
+    EXPECT_EQ(Heard(), LongClick(kButton2)) << "also where the loop is always late";
 }
 
 // As an action that sends a keystroke lets in what waits.
 TEST_F(RadioPanelDeviceTest, ReportsThatComeWithinAnEventAreTakenOnce) {
     const auto letRun = [this](auto...) { machine.loop.Advance(600); };
-    panel.SelectorChange.Connect(letRun);
-    panel.RotaryUp.Connect(letRun);
-    panel.ButtonClick.Connect(letRun);
-    EXPECT_EQ(Play("10100,20100,40100"), "s1 10000 0 s2 100 0 s1 20000 10000 s1 40000 20000 ");
-    EXPECT_EQ(Play("40101,40100,40101,40100,40101,40100,40101,40100"), "+0 1 +0 1 ");
-    EXPECT_EQ(Play("44100,40100,44100 +2000"), "D4000 C4000 U4000 D4000 L4000 ");
-    device.SendReport({0, 0x02, 0x41, 0});
-    EXPECT_EQ(Play("g"), "s1 0 0 s2 0 0 U4000 U8000 s1 20000 40000 ");
+    panel->SelectorChange.Connect(letRun);
+    panel->RotaryUp.Connect(letRun);
+    panel->ButtonClick.Connect(letRun);
+    const int32_t rest = kNAV1Of1 | kCOM2Of2;
+    SendAtOnce({kCOM1Of1 | kCOM2Of2, kCOM2Of1 | kCOM2Of2, rest});
+    EXPECT_EQ(Heard(), Selector(1, kCOM1Of1, 0) + Selector(2, kCOM2Of2, 0) +
+                           Selector(1, kCOM2Of1, kCOM1Of1) + Selector(1, kNAV1Of1, kCOM2Of1));
+    const int32_t pulse = rest | kInner1Right, pressed = rest | kButton1;
+    SendAtOnce({pulse, rest, pulse, rest, pulse, rest, pulse, rest});
+    EXPECT_EQ(Heard(), Right(Inner1, 1) + Right(Inner1, 1));
+    SendAtOnce({pressed, rest, pressed}), WaitMs(2000);
+    EXPECT_EQ(Heard(), Down(kButton1) + Click(kButton1) + Up(kButton1) + Down(kButton1) +
+                           LongClick(kButton1));
+    Post(kCOM2Of1 | kButton1 | kCOM2Of2);
+    panel->GetPositions();
+    machine.loop.RunPending();
+    EXPECT_EQ(Heard(), Selector(1, 0, 0) + Selector(2, 0, 0) + Up(kButton1) + Up(kButton2) +
+                           Selector(1, kCOM2Of1, kNAV1Of1));
 }
 
 TEST_F(RadioPanelDeviceTest, ABoxThatStandsWithinAnEventDoesNotHoldThePanelUp) {
-    panel.ButtonDown.Connect([this](int32_t) {
-        machine.loop.After(900, [this] { device.SendReport({0, 2, 0x40, 0}); });
-        machine.loop.After(1100, [this] { device.SendReport({0, 1, 0x40, 0}); });
+    constexpr Happening BoxCloses{"BoxCloses"};
+    panel->ButtonDown.Connect([this, BoxCloses](int32_t) {
+        machine.loop.After(900, [this] { Post(kCOM2Of1 | kButton1); });
+        machine.loop.After(1100, [this] { Post(kCOM1Of1 | kButton1); });
         machine.loop.Advance(2000);
-        log << "closed ";
+        told += BoxCloses();
     });
-    EXPECT_EQ(Play("4000"), "D4000 L4000 s1 20000 0 s1 10000 20000 closed ");
+    Send(kButton1);
+    EXPECT_EQ(Heard(), Down(kButton1) + LongClick(kButton1) + Selector(1, kCOM2Of1, 0) +
+                           Selector(1, kCOM1Of1, kCOM2Of1) + BoxCloses());
 }
 
 }  // namespace

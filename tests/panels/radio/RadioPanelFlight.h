@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <cstdio>
 
-#include "tests/panels/PanelFlight.h"
+#include "tests/panels/TextPanelFlight.h"
 
 // A session with two Radio Panels, whose logics are driven directly.
-struct RadioPanelFlight : PanelFlight {
+struct RadioPanelFlight : TextPanelFlight {
     VirtualDevice& device = Plug(PanelKind::Radio);
     VirtualDevice& device2 = Plug(PanelKind::Radio, 2);
     int panel = 1;

@@ -1,89 +1,124 @@
-#include <gtest/gtest.h>
-#include <sstream>
-
-#include "bench/virtual/VirtualCockpit.h"
+#include "panels/switch/ctlSwitchPanel.h"
+#include "tests/panels/DeviceTest.h"
 
 namespace {
 
-struct SwitchPanelDeviceTest : testing::Test, VirtualCockpit {
-    VirtualDevice& device = Plug(PanelKind::Switch);
-    ctlSwitchPanel& panel = (Start(), Switch());
-    std::ostringstream log;  // reports ("."), events and feature reports, in hexadecimal
+using Colors = std::array<Color, 3>;  // of the nose, the left and the right gear
+constexpr Color kGreen = 0x00FF00, kRed = 0x0000FF, kYellow = 0x00FFFF, kWhite = 0xFFFFFF;
 
+// The bits of the state word, as the panel sends them.
+constexpr int32_t kOff = 0x002000, kR = 0x004000, kL = 0x008000, kBoth = 0x000001,
+                  kStart = 0x000002;
+constexpr int32_t kBat = 0x010000, kPitot = 0x200000, kStrobe = 0x000400;
+constexpr int32_t kLeverUp = 0x000004, kLeverDown = 0x000008;
+constexpr int kTopOfLeverUp = 720, kTopOfLeverDown = 1380;
+
+constexpr Happening Reported{"Reported"}, Switch{"Switch"}, GearUp{"GearUp"}, GearDown{"GearDown"};
+constexpr Happening Selector{"Selector"};  // new and old position
+constexpr Happening Picture{"Picture"};  // toggles, right and down of the needle, top of the lever
+constexpr Happening Lights{"Lights"};    // how many reports of the lights there were
+
+// All switches are told in the order of the panel, BAT to LANDING, and are as in "0110...".
+std::string AllSwitches(const std::string& on) {
+    std::string text;
+    for (size_t i = 0; i < 13; ++i)
+        text += Switch(i < 8 ? 0x010000 << i : 0x000100 << (i - 8), on.at(i) == '1');
+    return text;
+}
+
+struct SwitchPanelDeviceTest : DeviceTest<ctlSwitchPanel, PanelKind::Switch> {
     SwitchPanelDeviceTest() {
-        panel.RawInput.Connect([this](auto...) { log << std::hex << '.'; });
-        panel.SwitchChange.Connect([this](int bit, bool on) { log << "-+"[on] << bit << ' '; });
-        panel.SelectorChange.Connect([this](int now, int old) { log << now << '/' << old << ' '; });
-        panel.GearUp.Connect([this] { log << "up "; });
-        panel.GearDown.Connect([this] { log << "down "; });
+        panel->RawInput.Connect([this](auto...) { told += Reported(); });
+        Listen(panel->SwitchChange, Switch);
+        Listen(panel->SelectorChange, Selector);
+        Listen(panel->GearUp, GearUp);
+        Listen(panel->GearDown, GearDown);
+        PlugIn();
     }
-    // Sends reports, as state words.
-    std::string Play(const std::string& reports = "") {
-        std::istringstream words(reports);
-        for (int state = 0; words >> std::hex >> state; machine.loop.RunPending())
-            device.SendReport({0, uint8_t(state >> 16), uint8_t(state >> 8), uint8_t(state)});
-        for (const auto& report : std::exchange(device.featureReports, {}))
-            for (const int byte : report) log << std::hex << byte / 16 << byte % 16;
-        return std::exchange(log, {}).str();
+    std::string Drawn() {
+        std::string toggles;
+        for (const Shape& toggle : panel->OnScreen.shpToggles)
+            toggles += toggle.Top == 300 ? '1' : toggle.Top == 720 ? '0' : '?';
+        const Line& needle = panel->OnScreen.lineSelector;
+        return Picture(toggles, needle.X2 - needle.X1, needle.Y2 - needle.Y1,
+                       int{panel->OnScreen.picGear.Top});
     }
-    // Switches, where the needle points, top of the lever, colours of the lights.
-    std::string Picture() {
-        const SwitchPanelPicture& shown = panel.OnScreen;
-        const Line& hand = shown.lineSelector;
-        std::ostringstream text;
-        for (const Shape& toggle : shown.shpToggles)
-            text << (toggle.Top == 300 ? '1' : toggle.Top == 720 ? '0' : '?');
-        text << ' ' << hand.X2 - hand.X1 << ',' << hand.Y2 - hand.Y1 << ' ' << shown.picGear.Top;
-        for (const Shape& light : shown.shpGearLights) text << std::hex << ' ' << light.FillColor;
-        return text.str();
+    Colors DrawnLights() {
+        const auto& lights = panel->OnScreen.shpGearLights;
+        return {lights[0].FillColor, lights[1].FillColor, lights[2].FillColor};
     }
 };
 
 TEST_F(SwitchPanelDeviceTest, FirstReportTellsEverythingAsIfItHadJustChanged) {
-    EXPECT_EQ(Play("55555c 55555c"),
-              ".4000/0 +10000 -20000 +40000 -80000 +100000 -200000 +400000 -800000 +100 -200 +400 "
-              "-800 +1000 down up .");
-    EXPECT_EQ(Picture(), "1010101010101 -509,-509 720 ffffff ffffff ffffff");
-    EXPECT_EQ(Play("aa8aa0"),
-              ".8000/4000 -10000 +20000 -40000 +80000 -100000 +200000 -400000 +800000 -100 +200 "
-              "-400 +800 -1000 ");
-    EXPECT_EQ(Picture(), "0101010101010 0,-720 720 ffffff ffffff ffffff");
+    Send(0x55555C, 0x55555C);  // R, every other switch, and the lever in both positions
+    EXPECT_EQ(Heard(), Reported() + Selector(kR, 0) + AllSwitches("1010101010101") + GearDown() +
+                           GearUp() + Reported());
+    EXPECT_EQ(Drawn(), Picture("1010101010101", -509, -509, kTopOfLeverUp));
+    Send(0xAA8AA0);  // L, the other switches
+    EXPECT_EQ(Heard(), Reported() + Selector(kL, kR) + AllSwitches("0101010101010"));
+    EXPECT_EQ(Drawn(), Picture("0101010101010", 0, -720, kTopOfLeverUp));
+    EXPECT_EQ(DrawnLights(), (Colors{kWhite, kWhite, kWhite}));
 }
 
 TEST_F(SwitchPanelDeviceTest, LaterReportsTellWhatChangesInTheOrderOfThePanel) {
-    EXPECT_EQ(Play("2000"),
-              ".2000/0 -10000 -20000 -40000 -80000 -100000 -200000 -400000 -800000 -100 -200 -400 "
-              "-800 -1000 ");
-    EXPECT_EQ(Picture(), "0000000000000 -695,-186 720 ffffff ffffff ffffff");
-    EXPECT_EQ(Play("20f0 200c 2000 2004 200c 2008"), "..down up ..up .down .");
-    EXPECT_EQ(Play("210409 210409"), ".1/2000 +10000 +200000 +400 .");
-    EXPECT_EQ(Picture(), "1000010000100 413,-590 1380 ffffff ffffff ffffff");
-    EXPECT_EQ(Play("200408"), ".0/1 -10000 ") << "between two positions";
-    EXPECT_EQ(Picture(), "0000010000100 0,-720 1380 ffffff ffffff ffffff");
-    EXPECT_EQ(Play("20040a"), ".2/0 ");
-    EXPECT_EQ(Picture(), "0000010000100 677,-246 1380 ffffff ffffff ffffff");
+    Send(kOff);
+    EXPECT_EQ(Heard(), Reported() + Selector(kOff, 0) + AllSwitches("0000000000000"));
+    EXPECT_EQ(Drawn(), Picture("0000000000000", -695, -186, kTopOfLeverUp));
+    Send(kOff | 0x0000F0);
+    EXPECT_EQ(Heard(), Reported()) << "bits without a meaning";
+    Send(kOff | kLeverUp | kLeverDown, kOff);
+    EXPECT_EQ(Heard(), Reported() + GearDown() + GearUp() + Reported());
+    Send(kOff | kLeverUp, kOff | kLeverUp | kLeverDown, kOff | kLeverDown);
+    EXPECT_EQ(Heard(), Reported() + GearUp() + Reported() + GearDown() + Reported());
+    const int32_t switches = kPitot | kStrobe;
+    Send(kBoth | kBat | switches | kLeverDown, kBoth | kBat | switches | kLeverDown);
+    EXPECT_EQ(Heard(), Reported() + Selector(kBoth, kOff) + Switch(kBat, true) +
+                           Switch(kPitot, true) + Switch(kStrobe, true) + Reported());
+    EXPECT_EQ(Drawn(), Picture("1000010000100", 413, -590, kTopOfLeverDown));
+    Send(switches | kLeverDown);
+    EXPECT_EQ(Heard(), Reported() + Selector(0, kBoth) + Switch(kBat, false))
+        << "between two positions";
+    EXPECT_EQ(Drawn(), Picture("0000010000100", 0, -720, kTopOfLeverDown));
+    Send(kStart | switches | kLeverDown);
+    EXPECT_EQ(Heard(), Reported() + Selector(kStart, 0));
+    EXPECT_EQ(Drawn(), Picture("0000010000100", 677, -246, kTopOfLeverDown));
+    EXPECT_EQ(DrawnLights(), (Colors{kWhite, kWhite, kWhite}));
 }
 
 TEST_F(SwitchPanelDeviceTest, LightsAreSentOnEachCallAndShownInThePicture) {
-    for (int time = 0; time < 2; ++time) panel.ChangeLights(0x00FFFF, 0x00FF00, 0x0000FF);
-    EXPECT_EQ(Play() + Picture().substr(20), "002b002b 720 ffff ff00 ff");
-    panel.ChangeLights({}, 0xFFFFFF, 0x00FFFF);
-    EXPECT_EQ(Play() + Picture().substr(20), "0024 720 ffff ffffff ffff") << "not given, not shown";
-    panel.ChangeLights(0x00FF01, 0x0000FF, {});
-    EXPECT_EQ(Play() + Picture().substr(20), "0010 720 ffffff ff ffff");
+    for (int time = 0; time < 2; ++time) panel->ChangeLights(kYellow, kGreen, kRed);
+    const Report shown = {0x00, 0x2B};  // 0x09 nose yellow, 0x02 left green, 0x20 right red
+    EXPECT_EQ(Written(), (Reports{shown, shown}));
+    EXPECT_EQ(DrawnLights(), (Colors{kYellow, kGreen, kRed}));
+    panel->ChangeLights({}, kWhite, kYellow);
+    EXPECT_EQ(Written(), (Reports{{0x00, 0x24}})) << "the right one alone";
+    EXPECT_EQ(DrawnLights(), (Colors{kYellow, kWhite, kYellow})) << "not given, not shown";
+    panel->ChangeLights(0x00FF01, kRed, {});
+    EXPECT_EQ(Written(), (Reports{{0x00, 0x10}})) << "the left one alone";
+    EXPECT_EQ(DrawnLights(), (Colors{kWhite, kRed, kYellow}));
+    EXPECT_EQ(panel->OnScreen.picGear.Top, kTopOfLeverUp);
 }
 
 TEST_F(SwitchPanelDeviceTest, SplashWaitsBehindEachStepAndTheEndIsDark) {
-    Play("0");
+    Send(0);
+    Heard(), Written();
     for (uint32_t end = 99; end < 1000; end += 100)
-        machine.loop.After(end, [&] { log << device.featureReports.size(); });
-    machine.loop.After(450, [this] { device.SendReport({0, 0, 0, 4}); });
-    panel.Splash();
-    EXPECT_EQ(Play(), "1234.up 567890001000200040009001200240008001000200000");
-    machine.loop.Advance(100);
-    EXPECT_EQ(Play(), "0") << "and no longer";
-    program.reset();
-    EXPECT_EQ(Play(), "0000");
+        machine.loop.After(end, [&] { told += Lights(device.featureReports.size()); });
+    machine.loop.After(450, [this] { Post(kLeverUp); });
+    panel->Splash();
+    EXPECT_EQ(Heard(), Lights(1) + Lights(2) + Lights(3) + Lights(4) + Reported() + GearUp() +
+                           Lights(5) + Lights(6) + Lights(7) + Lights(8) + Lights(9));
+    const Reports steps = {
+        {0x00, 0x01}, {0x00, 0x02}, {0x00, 0x04},  // green: nose, left, right
+        {0x00, 0x09}, {0x00, 0x12}, {0x00, 0x24},  // yellow, which is both
+        {0x00, 0x08}, {0x00, 0x10}, {0x00, 0x20},  // red
+        {0x00, 0x00},                              // dark
+    };
+    EXPECT_EQ(Written(), steps);
+    WaitMs(100);
+    EXPECT_EQ(Heard(), Lights(0)) << "and no longer";
+    panel.reset();
+    EXPECT_EQ(Written(), (Reports{{0x00, 0x00}}));
 }
 
 }  // namespace

@@ -1,173 +1,298 @@
-#include <cstdio>
+#include <array>
+#include <functional>
+#include <vector>
 
+#include "panels/switch/SwitchNumber.h"
 #include "tests/panels/PanelFlight.h"
 
 namespace {
 
+using namespace SwitchNumber;
 using enum ActionKind;
+
+constexpr bool On = true, Off = false;
+constexpr Happening Lights{"Lights"};  // green: 1 nose, 2 left, 4 right; red: 8, 16, 32
+constexpr int32_t kRightClick = INT32_MIN;
+
+constexpr uint32_t kBatteries = 0x3102, kAvionicsSwitch = 0x3103, kFuelPumps = 0x3125;
+constexpr uint32_t kPitotHeat = 0x029C, kGearHandle = 0x0BE8, kLights = 0x0D0C;
+constexpr uint32_t kNoseGear = 0x0BEC, kRightGear = 0x0BF0, kLeftGear = 0x0BF4;
+constexpr uint32_t kRetractable = 0x060C;
+using PerEngine = std::array<uint32_t, 4>;
+constexpr PerEngine kMagnetos = {0x0892, 0x092A, 0x09C2, 0x0A5A};
+constexpr PerEngine kAlternators = {0x3B78, 0x3AB8, 0x39F8, 0x3938};
+constexpr PerEngine kDeIcers = {0x08B2, 0x094A, 0x09E2, 0x0A7A};
+constexpr PerEngine kCowlFlaps = {0x37F0, 0x3730, 0x3670, 0x35B0};
+
+// The same for each engine, one behind the other.
+std::string Each(const PerEngine& offsets, auto wrote, auto value) {
+    std::string text;
+    for (const uint32_t offset : offsets) text += wrote(offset, value);
+    return text;
+}
 
 // A session with one Switch Panel, whose logic is driven directly.
 struct SwitchPanelLogicTest : PanelFlight {
     VirtualDevice& device = Plug(PanelKind::Switch);
-    int position = 1;
-    // Sizes of what is written, and the doubles, of which only the low half is told elsewhere.
-    ScopedConnection sizes = sim.Written.Connect([this](uint32_t at, auto bytes) {
-        if (at == 0x330A || at == 0x3110 || at == 0x3340) return;
-        if (bytes.size() == 8) told << ':' << sim.Get<double>(at);
-        if (bytes.size() != 8) told << '/' << bytes.size();
-    });
+    int32_t position = kSelectorOff;
 
     SwitchPanelLogicTest() {
-        base = std::hex;
         Start("Splash=0\r\nEngineStarterMode=1\r\n");
         Fly();
     }
     void Fly(const std::string& keys = "") {
         FlyWith("[Common]\n" + keys + "\n[SwitchPanel1]\n" + keys);
     }
-    // What the user does: "@4" selector, "+6" and "-6" switches, "down" and "up" lever, "a=b" a
-    // profile. "d0c:3f" is what the simulator has, "Baron" an aircraft, "again" a new session,
-    // "~50" a time that goes by. Gives what has gone out, with the times and the lights.
-    std::string Do(const std::string& acts) {
-        std::istringstream in(acts);
-        for (std::string word; in >> word;) {
-            const int n = std::atoi(&word[1]);
-            uint32_t at = 0, value = 0;
-            if (std::sscanf(word.c_str(), "%x:%x", &at, &value) == 2)
-                sim.Set<uint16_t>(at, uint16_t(value));
-            if (word[0] == '+' || word[0] == '-') SwitchLogic().SwitchChange(n, word[0] == '+');
-            if (word[0] == '@') SwitchLogic().SelectorChange(n, std::exchange(position, n));
-            if (word == "down") SwitchLogic().GearDown();
-            if (word == "up") SwitchLogic().GearUp();
-            if (word == "again") LoseSimulator(), Connect();
-            if (word.find('=') != word.npos) Fly(word);
-            if (word == "Baron" || word == "Glider") SetTitle(word);
-            if (word[0] == '~') machine.loop.Advance(uint32_t(n)), told << " ,";
-            for (const auto& report : std::exchange(device.featureReports, {}))
-                told << " L" << std::hex << int{report[1]} << std::dec;
-        }
-        return Sent();
+    // What the pilot does.
+    void Throw(int32_t number, bool on) { SwitchLogic().SwitchChange(number, on); }
+    void MoveSelectorTo(int32_t to) {
+        SwitchLogic().SelectorChange(to, std::exchange(position, to));
+    }
+    void LeverDown() { SwitchLogic().GearDown(); }
+    void LeverUp() { SwitchLogic().GearUp(); }
+
+    void TellPiledUp() override {
+        PanelFlight::TellPiledUp();
+        for (const auto& report : std::exchange(device.featureReports, {}))
+            told += Lights(report[1]);
+    }
+    // 16383 is down.
+    void Gear(int nose, int left, int right) {
+        Simulator<int32_t>(kNoseGear, nose);
+        Simulator<int32_t>(kLeftGear, left);
+        Simulator<int32_t>(kRightGear, right);
     }
 };
 
+std::string WroteLights(std::initializer_list<int> words) {
+    std::string text;
+    for (const int word : words) text += WroteWord(kLights, word);
+    return text;
+}
+
 TEST_F(SwitchPanelLogicTest, FirstReportBringsTheSimulatorIntoLine) {
-    device.SendReport({0, 0xFF, 0x5F, 0x08});
-    EXPECT_EQ(Sent(),
-              "892=1/2 92a=1/2 9c2=1/2 a5a=1/2 3102=1/1 3b78=1/4 3ab8=1/4 39f8=1/4 3938=1/4 "
-              "3103=1/1 3125=f/1 8b2=1/2 94a=1/2 9e2=1/2 a7a=1/2 29c=1/1 37f0=0:0 3730=0:0 "
-              "3670=0:0 35b0=0:0 d0c=20/2 d0c=22/2 d0c=23/2 d0c=33/2 d0c=3b/2 d0c=3f/2 be8=3fff/4");
-    device.SendReport({0, 0x00, 0x00, 0x06});
-    EXPECT_EQ(Sent(),
-              "892=4/2 92a=4/2 9c2=4/2 a5a=4/2 3102=0/1 3b78=0/4 3ab8=0/4 39f8=0/4 3938=0/4 "
-              "3103=0/1 3125=0/1 8b2=0/2 94a=0/2 9e2=0/2 a7a=0/2 29c=0/1 37f0=0:1 3730=0:1 "
-              "3670=0:1 35b0=0:1 d0c=1f/2 d0c=1d/2 d0c=1c/2 d0c=c/2 d0c=4/2 d0c=0/2 be8=0/4");
-    EXPECT_EQ(Do("+0 +1 +5 -19 +20 +21 @0"), "") << "none of these is a switch, or a position";
+    const auto all = [](int magneto, bool on) {
+        return Each(kMagnetos, WroteWord, magneto) + WroteByte(kBatteries, on) +
+               Each(kAlternators, WroteDword, on) + WroteByte(kAvionicsSwitch, on) +
+               WroteByte(kFuelPumps, on ? 0x0F : 0) + Each(kDeIcers, WroteWord, on) +
+               WroteByte(kPitotHeat, on) + Each(kCowlFlaps, WroteDouble, on ? 0.0 : 1.0);
+    };
+    device.SendReport({0x00, 0xFF, 0x5F, 0x08});  // the selector at R, all switches, lever down
+    EXPECT_EQ(Sent(), all(1, On) + WroteLights({0x20, 0x22, 0x23, 0x33, 0x3B, 0x3F}) +
+                          WroteDword(kGearHandle, 16383));
+    device.SendReport({0x00, 0x00, 0x00, 0x06});  // START, lever up
+    EXPECT_EQ(Sent(), all(4, Off) + WroteLights({0x1F, 0x1D, 0x1C, 0x0C, 0x04, 0x00}) +
+                          WroteDword(kGearHandle, 0));
+    for (const int none : {0, 1, 5, 20, 21}) Throw(none, On);
+    Throw(19, Off), MoveSelectorTo(0);
+    EXPECT_EQ(Sent(), kNothing) << "none of these is a switch, or a position";
 }
 
 TEST_F(SwitchPanelLogicTest, OptionsHoldTheirSwitchesToTheSelectedEngine) {
-    const std::array<std::string, 6> cases[] = {
-        {"StarterSelector", "@4", "892=3/2", "92a=3/2", "9c2=3/2", "a5a=3/2"},
-        {"AltSwitch", "+7", "3b78=1/4", "3ab8=1/4", "39f8=1/4", "3938=1/4"},
-        {"FuelPump", "+9", "3125=a5/1", "3125=a7/1", "3125=a5/1", "3125=ad/1"},
-        {"FuelPump", "-9", "3125=a4/1", "3125=a5/1", "3125=a1/1", "3125=a5/1"},
-        {"DeIce", "-10", "8b2=0/2", "94a=0/2", "9e2=0/2", "a7a=0/2"},
-        {"CowlFlaps", "-12", "37f0=0:1", "3730=0:1", "3670=0:1", "35b0=0:1"}};
-    for (const auto& each : cases)
+    const struct {
+        std::string option;
+        std::function<void()> act;
+        std::function<std::string(size_t)> sent;  // for engine 0 to 3
+    } cases[] = {
+        {"StarterSelector", [&] { MoveSelectorTo(kSelectorBoth); },
+         [](size_t i) { return WroteWord(kMagnetos[i], 3); }},
+        {"AltSwitch", [&] { Throw(kAlt, On); },
+         [](size_t i) { return WroteDword(kAlternators[i], 1); }},
+        {"FuelPump", [&] { Throw(kFuelPump, On); },
+         [](size_t i) {
+             return WroteByte(kFuelPumps, std::array{0xA5, 0xA7, 0xA5, 0xAD}[i]);
+         }},
+        {"FuelPump", [&] { Throw(kFuelPump, Off); },
+         [](size_t i) {
+             return WroteByte(kFuelPumps, std::array{0xA4, 0xA5, 0xA1, 0xA5}[i]);
+         }},
+        {"DeIce", [&] { Throw(kDeIce, Off); }, [](size_t i) { return WroteWord(kDeIcers[i], 0); }},
+        {"CowlFlaps", [&] { Throw(kCowl, Off); },
+         [](size_t i) { return WroteDouble(kCowlFlaps[i], 1.0); }},
+    };
+    for (const auto& test : cases)
         for (uint8_t engine = 1; engine <= 4; ++engine) {
-            Do("3125:a5 Single" + each[0] + "=1");
+            Simulator(kFuelPumps, 0xA5);
+            Fly("Single" + test.option + "=1");
             program->Session.EngineSelected = engine;
-            EXPECT_EQ(Do(each[1]), each[engine + 1U]);
+            test.act();
+            EXPECT_EQ(Sent(), test.sent(engine - 1U)) << test.option << int{engine};
         }
 }
 
 TEST_F(SwitchPanelLogicTest, LightSwitchesChangeTheWordAsItIsJustThen) {
-    EXPECT_EQ(Do("d0c:8014 +13 +14 -13 -14"), "d0c=8034/2 d0c=8036/2 d0c=8016/2 d0c=8014/2");
-    EXPECT_EQ(Do("d0c:15 +15 +16 +18 d0c:3a -15 -18 d0c:ffff -16"), "d0c=ffef/2");
+    Simulator(kLights, 0x8014);
+    Throw(kPanel, On), Throw(kBeacon, On), Throw(kPanel, Off), Throw(kBeacon, Off);
+    EXPECT_EQ(Sent(), WroteLights({0x8034, 0x8036, 0x8016, 0x8014}));
+    Simulator(kLights, 0x15);
+    Throw(kNav, On), Throw(kStrobe, On), Throw(kLanding, On);
+    Simulator(kLights, 0x3A);
+    Throw(kNav, Off), Throw(kLanding, Off);
+    Simulator(kLights, 0xFFFF);
+    Throw(kStrobe, Off);
+    EXPECT_EQ(Sent(), WroteLights({0xFFEF})) << "the others are as they should be";
     machine.ipc.AnswerWith(0, 1);
-    EXPECT_EQ(Do("d0c:0 +13"), "") << "nothing is known of the other lights";
+    Simulator(kLights, 0);
+    Throw(kPanel, On);
+    EXPECT_EQ(Sent(), kNothing) << "nothing is known of the other lights";
     machine.ipc.TimeOut(100);
     const uint64_t before = machine.clock.Elapsed();
-    for (int number = 13; number <= 18; ++number) SwitchLogic().SwitchChange(number, true);
+    for (int32_t number = kPanel; number <= kLanding; ++number) Throw(number, On);
     EXPECT_LT(machine.clock.Elapsed() - before, 30000U) << "only one of them waits in vain";
 }
 
-// Clicks of the left and the right button, on and off, from each position of the add-on's switch.
 TEST_F(SwitchPanelLogicTest, AddOnsLightsAreClickedFromWhereTheyStand) {
     Fly("SpecialMode=ngx");
-    const std::tuple<int, uint32_t, std::string, std::string> cases[] = {
-        {13, 0x642F, "69890", "LL,L,L,,,R,,,"}, {14, 0x6501, "69756", "L,,,L,,,,,"},
-        {15, 0x6500, "69755", ",R,L,,,,,,"},    {16, 0x6500, "69755", "RR,,R,,,L,,,"},
-        {17, 0x64FA, "69749", "L,,,L,,,,,"},    {18, 0, "69742", "L,R,L,R,L,R,L,R,"}};
-    for (const auto& [number, offset, control, expected] : cases) {
-        const std::string left = control + ":20000000", right = control + ":80000000";
-        std::string seen;
-        for (int at = 0; at < 8; ++at) {
-            for (const uint32_t place : {0x642F, 0x6501, 0x6500, 0x64FA, 0x0D0C})
-                sim.Set<uint8_t>(place, uint8_t((at / 2 + (place != offset)) % 4));
-            std::istringstream in(Do("+-"[at % 2] + std::to_string(number) + " ~1010"));
-            for (std::string word; in >> word;)
-                seen += word == left ? "L" : word == right ? "R" : word;
-        }
-        EXPECT_EQ(seen, expected) << number;
-    }
+    constexpr int32_t L = kLeftClick, R = kRightClick;
+    using Clicks = std::vector<int32_t>;
+    struct Thrown {
+        Clicks on, off;
+    };
+    const struct {
+        int32_t number;
+        uint32_t offset;
+        int32_t control;
+        std::array<Thrown, 4> clicks;  // by the position of the add-on's switch
+    } cases[] = {
+        {kPanel, 0x642F, 69890, {{{{L, L}, {L}}, {{L}, {}}, {{}, {R}}, {{}, {}}}}},
+        {kBeacon, 0x6501, 69756, {{{{L}, {}}, {{}, {L}}, {{}, {}}, {{}, {}}}}},
+        {kNav, 0x6500, 69755, {{{{}, {R}}, {{L}, {}}, {{}, {}}, {{}, {}}}}},
+        {kStrobe, 0x6500, 69755, {{{{R, R}, {}}, {{R}, {}}, {{}, {L}}, {{}, {}}}}},
+        {kTaxi, 0x64FA, 69749, {{{{L}, {}}, {{}, {L}}, {{}, {}}, {{}, {}}}}},
+        {kLanding, 0, 69742, {{{{L}, {R}}, {{L}, {R}}, {{L}, {R}}, {{L}, {R}}}}},
+    };
+    for (const auto& test : cases)
+        for (const size_t at : {0, 1, 2, 3})
+            for (const bool on : {On, Off}) {
+                for (const uint32_t place : {0x642F, 0x6501, 0x6500, 0x64FA, 0x0D0C})
+                    Simulator<uint8_t>(place, uint8_t((at + (place != test.offset)) % 4));
+                std::string sent;
+                for (const int32_t click : on ? test.clicks[at].on : test.clicks[at].off)
+                    sent += SentControl(test.control, click);
+                Throw(test.number, on);
+                WaitMs(1010);  // a second click comes a second later
+                EXPECT_EQ(Sent(), sent + Waited(1010)) << test.number << " from " << at;
+            }
     machine.ipc.AnswerWith(0, 1);
-    EXPECT_EQ(Do("+14"), "") << "the position isn't known";
+    Throw(kBeacon, On);
+    EXPECT_EQ(Sent(), kNothing) << "the position isn't known";
 }
 
 TEST_F(SwitchPanelLogicTest, SecondClickComesASecondLaterAndAllElseGoesOnMeanwhile) {
     Fly("SpecialMode=ngx\nSwitchGEARDOWNOn=VKey,1,0,0\nSwitchGEARUPOn=None\nSwitchNAVOn=None\n"
         "SwitchTAXIOn=VKey,9,0,0");
-    EXPECT_EQ(Do("+15 +17"), "9") << "the lights' own actions count, not the lever's";
-    EXPECT_EQ(Do("+13 ~500 down +6 ~490 ~20 ~480 ~20"),
-              "69890:20000000 , 70087:20000000 3102=1/1 , 69890:20000000 , , 70087:20000000 ,");
-    EXPECT_EQ(Do("up ~1100 +13 down ~500 again ~1000"),
-              "70087:80000000 , 69890:20000000 70087:20000000 , L0 ,");
-    EXPECT_EQ(Do("SpecialMode=maddog d0c:0 +15 up"), "d0c=1/2 be8=0/4");
+    const std::string panelLight = SentControl(69890, kLeftClick);
+    const std::string gearDown = SentControl(70087, kLeftClick);
+    const std::string gearUp = SentControl(70087, kRightClick);
+    Throw(kNav, On), Throw(kTaxi, On);
+    EXPECT_EQ(Sent(), Typed(9)) << "the lights' own actions count, not the lever's";
+    Throw(kPanel, On), WaitMs(500);
+    LeverDown(), Throw(kBat, On), WaitMs(490);
+    WaitMs(20), WaitMs(480), WaitMs(20);
+    EXPECT_EQ(Sent(), panelLight + Waited(500) + gearDown + WroteByte(kBatteries, 1) + Waited(490) +
+                          panelLight + Waited(20) + Waited(480) + gearDown + Waited(20));
+    LeverUp(), WaitMs(1100);
+    Throw(kPanel, On), LeverDown(), WaitMs(500);
+    Reconnect(), WaitMs(1000);
+    EXPECT_EQ(Sent(), gearUp + Waited(1100) + panelLight + gearDown + Waited(500) + Lights(0) +
+                          Waited(1000));
+    Fly("SpecialMode=maddog");
+    Simulator(kLights, 0);
+    Throw(kNav, On), LeverUp();
+    EXPECT_EQ(Sent(), WroteLights({0x01}) + WroteDword(kGearHandle, 0));
 }
 
 TEST_F(SwitchPanelLogicTest, BoundActionsGoOutInsteadOfTheBuiltInBehaviour) {
     for (const ActionKind kind : {VKey, None}) {
-        std::ostringstream acts, keys;
+        std::string keys;
         for (int n = 1; n <= 20; ++n) {
             SwitchLogic().SPActions->SetSwitchActions(n, 1, {kind, uint8_t(n), 0, 0});
             SwitchLogic().SPActions->SetSwitchActions(n, 0, {kind, uint8_t(100 + n), 0, 0});
-            if (n > 5 && n < 19) acts << '+' << n << " -" << n << ' ';
-            if (n > 5 && n < 19) keys << n << ' ' << 100 + n << ' ';
         }
-        keys << "101 2 102 5 105 1 20 19";
-        EXPECT_EQ(Do(acts.str() + "@2 @0 @5 @1 down up"), kind == VKey ? keys.str() : "");
+        for (int n = kBat; n <= kLanding; ++n) {
+            Throw(n, On), Throw(n, Off);
+            keys += Typed(n) + Typed(100 + n);
+        }
+        for (const int32_t to : {+kSelectorR, 0, +kSelectorStart, +kSelectorOff})
+            MoveSelectorTo(to);
+        LeverDown(), LeverUp();
+        for (const int key : {101, 2, 102, 5, 105, 1, 20, 19}) keys += Typed(key);
+        EXPECT_EQ(Sent(), kind == VKey ? keys : kNothing);
     }
 }
 
-TEST_F(SwitchPanelLogicTest, VirtualButtonsAreDownForAWhileOrAsLongAsTheLeverStands) {
+TEST_F(SwitchPanelLogicTest, VirtualButtonsOfSwitchesAreDownForAWhile) {
     Fly("SwitchBATOn=VButton,64,1\nSwitchSELOFFOff=VButton,64,2\nSwitchSELROn=VButton,64,3");
-    EXPECT_EQ(Do("+6 +8 ~40 ~20"), "+1 3103=1/1 , -1 ,");
-    EXPECT_EQ(Do("@2 ~40 ~20 ~30 ~20 @0"), "+2 , -2 +3 , , -3 ,");
-    position = 1;
-    EXPECT_EQ(Do("@2"), "+2");
+    Throw(kBat, On), Throw(kAvionics, On), WaitMs(40), WaitMs(20);
+    EXPECT_EQ(Sent(),
+              Pressed(1) + WroteByte(kAvionicsSwitch, 1) + Waited(40) + Released(1) + Waited(20));
+    MoveSelectorTo(kSelectorR), WaitMs(40), WaitMs(20), WaitMs(30), WaitMs(20), MoveSelectorTo(0);
+    EXPECT_EQ(Sent(), Pressed(2) + Waited(40) + Released(2) + Pressed(3) + Waited(20) + Waited(30) +
+                          Released(3) + Waited(20));
+    position = kSelectorOff;
+    MoveSelectorTo(kSelectorR);
+    EXPECT_EQ(Sent(), Pressed(2));
     machine.clock.Sleep(85);
-    EXPECT_EQ(Do("~1 ~45 ~20"), "-2 +3 , , -3 ,") << "after a stutter the next one has its time";
+    WaitMs(1), WaitMs(45), WaitMs(20);
+    EXPECT_EQ(Sent(), Released(2) + Pressed(3) + Waited(1) + Waited(45) + Released(3) + Waited(20))
+        << "after a stutter the next one has its time";
+}
+
+TEST_F(SwitchPanelLogicTest, VirtualButtonOfTheLeverIsDownAsLongAsItStands) {
     Fly("SwitchGEARDOWNOn=VButton,64,1\nSwitchGEARUPOn=VButton,64,2\nSwitchGEARUPOff=VKey,3,0,0");
-    EXPECT_EQ(Do("down ~500 up ~500 down ~500"), "+1 -0 , +2 -1 , +1 -2 ,") << "-0 is up already";
+    LeverDown(), WaitMs(500), LeverUp(), WaitMs(500), LeverDown(), WaitMs(500);
+    EXPECT_EQ(Sent(), Pressed(1) + ButtonsWrittenAsTheyWere() + Waited(500) + Pressed(2) +
+                          Released(1) + Waited(500) + Pressed(1) + Released(2) + Waited(500));
     Fly("SwitchGEARDOWNOn=VButton,64,3\nSwitchGEARUPOn=VButton,64,4");
-    EXPECT_EQ(Do("up"), "+4 -0 -1") << "that of the profile before comes up as well";
+    LeverUp();
+    EXPECT_EQ(Sent(), Pressed(4) + ButtonsWrittenAsTheyWere() + Released(1))
+        << "that of the profile before comes up as well";
     Fly("SwitchGEARDOWNOn=VButton,64,5\nSwitchGEARUPOn=VKey,65,1,97");
-    EXPECT_EQ(Do("up down"), "-4 +5 16") << "a key lets the button go";
+    LeverUp(), LeverDown();
+    EXPECT_EQ(Sent(), Released(4) + Pressed(5) + Typed(16)) << "a key lets the button go";
     Fly("SwitchGEARDOWNOn=VKey,65,0,98");
     Fly("SwitchGEARDOWNOn=VButton,64,5");
-    EXPECT_EQ(Do("down"), "-0") << "it is down, and stays so";
+    LeverDown();
+    EXPECT_EQ(Sent(), ButtonsWrittenAsTheyWere()) << "it is down, and stays so";
 }
 
 TEST_F(SwitchPanelLogicTest, GearLightsShowARetractableGear) {
-    EXPECT_EQ(Do("bec:3fff bf4:3fff bf0:3fff ~10 60c:100 Baron ~20 ~20"), ", , L7 ,");
-    EXPECT_EQ(Do("bf4:1 bf0:0 ~10 bec:3ffe bf4:0 bf0:3fff ~10 bec:0 bf4:3fff bf2:1 ~10"),
-              ", L11 , Lc , L22");
-    EXPECT_EQ(Do("bec:1 bf4:4000 ~10 bec:7fff bf4:ffff ~10 281c:0 ~10 bf4:0 ~10"),
-              ", L38 , , L0 ,");
-    EXPECT_EQ(Do("281c:100 bec:3fff ~10 again ~20 bf4:3fff ~10"), ", L21 L0 , , L23");
-    EXPECT_EQ(Do("RetractableGear=0 ~10 60c:0 Glider ~20 3308:7 again ~20"), ", , L0 L0 ,");
-    EXPECT_EQ(Do("RetractableGear=1"), "L23") << "the option counts on FS2004 only";
-    EXPECT_EQ(Do("RetractableGear=0 ~10 60c:1 Baron ~20"), "L0 , , L23");
+    constexpr int down = 16383;
+    Gear(down, down, down), WaitMs(10);
+    EXPECT_EQ(Sent(), Waited(10)) << "it is fixed";
+    Simulator(kRetractable, 0x0100), SetTitle("Baron"), WaitMs(20), WaitMs(20);
+    EXPECT_EQ(Sent(), Lights(0x07) + Waited(20) + Waited(20));
+    const struct {
+        int nose, left, right;
+        std::string lights;
+    } cases[] = {
+        {down, 1, 0, Lights(0x11)},
+        {down - 1, 0, down, Lights(0x0C)},
+        {0, down, down + 0x10000, Lights(0x22)},
+        {1, down + 1, down + 0x10000, Lights(0x38)},
+        {0x7FFF, 0xFFFF, down + 0x10000, kNothing},
+    };
+    for (const auto& [nose, left, right, lights] : cases) {
+        Gear(nose, left, right), WaitMs(10);
+        EXPECT_EQ(Sent(), lights + Waited(10)) << nose;
+    }
+    Simulator(kBatteryMaster, 0), WaitMs(10);
+    Simulator(kLeftGear, 0), WaitMs(10);
+    EXPECT_EQ(Sent(), Lights(0) + Waited(10) + Waited(10)) << "dark without power";
+    Simulator(kBatteryMaster, 0x0100), Simulator(kNoseGear, down), WaitMs(10);
+    EXPECT_EQ(Sent(), Lights(0x21) + Waited(10));
+    Reconnect(), WaitMs(20);
+    Simulator(kLeftGear, down), WaitMs(10);
+    EXPECT_EQ(Sent(), Lights(0) + Waited(20) + Lights(0x23) + Waited(10));
+    Fly("RetractableGear=0"), WaitMs(10);
+    Simulator(kRetractable, 0), SetTitle("Glider"), WaitMs(20);
+    Simulator(0x3308, 7), Reconnect(), WaitMs(20);  // FS2004
+    EXPECT_EQ(Sent(), Waited(10) + Lights(0) + Waited(20) + Lights(0) + Waited(20));
+    Fly("RetractableGear=1");
+    EXPECT_EQ(Sent(), Lights(0x23)) << "the option counts on FS2004 only";
+    Fly("RetractableGear=0"), WaitMs(10);
+    Simulator(kRetractable, 1), SetTitle("Baron"), WaitMs(20);
+    EXPECT_EQ(Sent(), Lights(0) + Waited(10) + Lights(0x23) + Waited(20));
 }
 
 }  // namespace
