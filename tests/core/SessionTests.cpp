@@ -85,6 +85,41 @@ TEST_F(SessionTest, AircraftIsBoundWhenItsTitleChanges) {
     EXPECT_EQ(Window().Aircraft.Text.Get(), "Aircraft in use: " + std::string(60, 'T'));
 }
 
+// As while a flight loads.
+TEST_F(SessionTest, WhatTheSimulatorDoesNotGiveAtOnceIsAskedForAgain) {
+    const std::pair<uint32_t, uint32_t> asked[] = {{0x3304, 4}, {0x3308, 2}, {0x060C, 2}};
+    machine.server.Set<int16_t>(0x060C, 1);
+    machine.server.SetVersion(0x39990005, 7);
+    int refusals = 0;
+    bool open = false;
+    const ScopedConnection reads =
+        machine.server.Reading.Connect([&](uint32_t offset, uint32_t count) {
+            if (!open || refusals == 0) return;
+            for (const auto& each : asked) {
+                if (each != std::pair(offset, count)) continue;
+                --refusals;
+                machine.ipc.AnswerWith(0, 1);
+            }
+        });
+    ASSERT_TRUE(Start());
+    Window().Driver.Connected.Connect([&] { open = true, refusals = 6; });
+    Connect();
+    EXPECT_EQ(program->Session.FSVersion, 0);
+    EXPECT_EQ(Texts(),
+              "FSUIPC Status: Connected|FSUIPC Version:|Flight Simulator Version:|"
+              "Aircraft in use: Baron 58");
+    for (int tick = 0; tick < 6; ++tick) Tick();
+    EXPECT_EQ(refusals, 0);
+    EXPECT_EQ(program->Session.FSVersion, 7);
+    EXPECT_TRUE(program->Session.GearIsRetractable);
+    EXPECT_EQ(Texts(),
+              "FSUIPC Status: Connected|FSUIPC Version: 3.9990|Flight Simulator Version: FS2004|"
+              "Aircraft in use: Baron 58");
+    machine.ipc.ForgetSentMessages();
+    machine.loop.Advance(100);
+    EXPECT_EQ(machine.ipc.SentMessages().size(), 10U) << "and not once it is known";
+}
+
 TEST_F(SessionTest, KnobAtHeadingMovesTheSimulatorAndThePanelShowsIt) {
     panel.positions = {0, 0x08, 0, 0};
     machine.server.Set<uint16_t>(0x07CC, 14564);  // 80 degrees

@@ -91,12 +91,20 @@ TEST_F(FsuipcTest, AskingForAnotherSimulatorClosesAndOpeningTwiceChangesNothing)
 }
 
 TEST_F(FsuipcTest, ZerosAreAskedForFiveTimes) {
+    std::vector<size_t> notices;
+    const ScopedConnection writing =
+        machine.server.Writing.Connect([&](uint32_t offset, std::span<const uint8_t> bytes) {
+            EXPECT_EQ(offset, 0x330AU);
+            EXPECT_EQ(LoadLE16(bytes.data()), 0);
+            notices.push_back(bytes.size());
+        });
     machine.server.Set<uint32_t>(0x3304, 0);
     machine.server.Set<uint32_t>(0x3308, 0);
     EXPECT_FALSE(Open());
     EXPECT_EQ(result, 7);
     EXPECT_EQ(machine.ipc.SentMessages().size(), 5U);
     EXPECT_EQ(machine.clock.Elapsed(), 5 * 60U);
+    EXPECT_EQ(notices, std::vector<size_t>(5, 2)) << "each time with the library's version";
 }
 
 TEST_F(FsuipcTest, BatchLimitsToTheByte) {
@@ -211,6 +219,44 @@ TEST_F(FsuipcTest, ReplyOfZerosEndsTheWalk) {
     machine.ipc.AfterServing([](std::span<uint8_t> b) { std::fill(b.begin(), b.end(), 0); });
     EXPECT_TRUE(fsuipc.FSUIPC_Process(result));
     EXPECT_EQ(data[0], 0xAA) << "what isn't answered keeps its value";
+    EXPECT_FALSE(fsuipc.AllRead());
+}
+
+// Between two ticks the session may go on, so what was to be written is still to be.
+TEST_F(FsuipcTest, EventsExchangeInVainKeepsItsWritesAndNoRead) {
+    ASSERT_TRUE(Open());
+    for (const bool refused : {true, false}) {
+        machine.server.Set<uint32_t>(0x200, 0);
+        machine.server.Set<uint16_t>(0x300, 0);
+        const uint8_t value[] = {1, 2, 3, 4};
+        data.fill(0xAA);
+        fsuipc.FSUIPC_Read(0x100, 4, data.data(), result);
+        fsuipc.FSUIPC_Write(0x200, 4, value, result);
+        fsuipc.FSUIPC_Read(0x200, 4, &data[8], result);
+        fsuipc.FSUIPC_Write(0x300, 2, value, result);
+        machine.ipc.ForgetSentMessages();
+        if (refused) {
+            machine.ipc.RemoveWindows();
+        } else {
+            machine.ipc.TimeOut(11);
+        }
+        EXPECT_FALSE(fsuipc.ProcessForEvent(result));
+        const uint64_t before = machine.clock.Elapsed();
+        EXPECT_FALSE(fsuipc.ProcessForEvent(result)) << "it isn't asked a second time";
+        EXPECT_EQ(machine.clock.Elapsed(), before);
+        EXPECT_EQ(machine.ipc.SentMessages().size(), 11U);
+        if (!refused) break;
+        fsuipc.FSUIPC_Close();
+        machine.ipc.AddWindow("UIPCMAIN");
+        ASSERT_TRUE(fsuipc.FSUIPC_Open(0, result));
+        EXPECT_EQ(machine.server.Get<uint16_t>(0x300), 0) << "not in another session";
+    }
+    ASSERT_TRUE(fsuipc.FSUIPC_Process(result));
+    EXPECT_EQ(machine.server.Get<uint32_t>(0x200), 0x04030201U);
+    EXPECT_EQ(machine.server.Get<uint16_t>(0x300), 0x0201);
+    EXPECT_EQ(data[0] & data[8], 0xAA);
+    EXPECT_FALSE(fsuipc.FSUIPC_Process(result));
+    EXPECT_EQ(result, 10) << "once";
 }
 
 }  // namespace

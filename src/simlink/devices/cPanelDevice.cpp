@@ -43,9 +43,13 @@ bool cPanelDevice::Connect(const std::string& DevicePathName) {
     return true;
 }
 
+// Looked at as it comes, so that presses and pulses have their own time, whatever waits to be told.
 void cPanelDevice::TakeReport(uint8_t byte0, uint8_t byte1, uint8_t byte2, uint8_t byte3) {
-    reports_.push_back({StateWord(byte1, byte2, byte3), link_->ReportClock});
+    const uint32_t clock = link_->ReportClock;
+    const int32_t state = StateWord(byte1, byte2, byte3);
     RawInput.Raise(byte0, byte1, byte2, byte3);
+    const bool first = std::exchange(firstReportPending_, false);
+    HandleReport({std::exchange(lastState_, state), state, first}, clock);
     TellWaiting();
 }
 
@@ -66,27 +70,15 @@ void cPanelDevice::TellWaiting() {
     timerWaiting_.SetEnabled(false);
     const bool within = std::exchange(telling_, true);
     const uint32_t since = tellingSince_;
-    for (std::function<void()> act; NextAct(act);) {
+    while (!acts_.empty()) {
+        const auto act = std::move(acts_.front());
+        acts_.pop_front();
         tellingSince_ = services_.clock.GetTickCount();
         act();
     }
     timerWaiting_.SetEnabled(false);
     telling_ = within;
     tellingSince_ = since;
-}
-
-// A report is looked at when all that came before it is told.
-bool cPanelDevice::NextAct(std::function<void()>& act) {
-    while (acts_.empty() && !reports_.empty()) {
-        const auto [state, clock] = reports_.front();
-        reports_.pop_front();
-        const bool first = std::exchange(firstReportPending_, false);
-        HandleReport({std::exchange(lastState_, state), state, first}, clock);
-    }
-    if (acts_.empty()) return false;
-    act = std::move(acts_.front());
-    acts_.pop_front();
-    return true;
 }
 
 void cPanelDevice::End() {
@@ -97,7 +89,6 @@ void cPanelDevice::End() {
 void cPanelDevice::Disconnect() {
     if (ended_) return;
     ended_ = true;
-    reports_.clear();
     acts_.clear();
     timerWaiting_.SetEnabled(false);
     MessageLoop& loop = services_.loop;

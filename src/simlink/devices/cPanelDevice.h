@@ -83,7 +83,7 @@ class cPanelDevice : public Picture {
     virtual void Connected() {}
 
     uintptr_t DeviceHandle() const { return deviceHandle_; }
-    // State word of the last report that has been looked at.
+    // State word of the last report.
     int32_t LastState() const { return lastState_; }
     const DeviceServices& Services() const { return services_; }
 
@@ -95,21 +95,14 @@ class cPanelDevice : public Picture {
     void Resized() override;
 
   private:
-    struct Report {
-        int32_t state;
-        uint32_t clock;
-    };
-
     void Disconnect();
     void TakeReport(uint8_t byte0, uint8_t byte1, uint8_t byte2, uint8_t byte3);
-    bool NextAct(std::function<void()>& act);
 
     const DeviceServices services_;
     const PanelKind kind_;
     std::unique_ptr<PanelLink> link_;
     uintptr_t deviceHandle_ = 0;
-    std::deque<Report> reports_;              // not looked at yet
-    std::deque<std::function<void()>> acts_;  // what the last one has brought, not yet told
+    std::deque<std::function<void()>> acts_;  // what reports have brought, not yet told
     bool telling_ = false;
     uint32_t tellingSince_ = 0;
     Timer timerWaiting_;  // runs only while something waits behind a listener

@@ -318,4 +318,61 @@ TEST_F(MultiPanelDeviceTest, EndTurnsOffStopsAndCloses) {
         << "what had come in was still taken";
 }
 
+// As when the simulator answers late: reports wait, and all come at once.
+TEST_F(MultiPanelDeviceTest, SpeedIsThatOfTheHandHoweverLateTheLoopIs) {
+    const struct {
+        uint32_t betweenMs;
+        int pulses;
+        int slowest, fastest;
+    } turns[] = {{20, 24, 1, 1}, {6, 120, 1, 20}};
+    for (const auto& turn : turns) {
+        WaitMs(2000);
+        panel->RotAcceleration(50);  // 200 ms
+        for (int pulse = 0; pulse < turn.pulses; ++pulse) {
+            for (const int32_t state : {kKnobRight, kAtRest}) {
+                Post(state);
+                machine.clock.Sleep(turn.betweenMs / 2);
+            }
+        }
+        WaitMs(1);
+        std::string steps;
+        const std::string heard = Heard();
+        EXPECT_TRUE(heard.starts_with(KnobRight(turn.slowest)));
+        EXPECT_TRUE(heard.ends_with(KnobRight(turn.fastest))) << heard;
+        if (turn.slowest != turn.fastest) continue;
+        for (int step = 0; step < turn.pulses / 2; ++step) steps += KnobRight(1);
+        EXPECT_EQ(heard, steps);
+    }
+    WaitMs(1000);
+    EXPECT_EQ(panel->OnScreen.labSpeed.Caption.Get(), "1");
+}
+
+TEST_F(MultiPanelDeviceTest, WhatWaitsBehindAListenerIsToldWhenItsSecondIsUp) {
+    std::vector<uint64_t> times;
+    panel->ButtonClick.Connect([&](int32_t) { times.push_back(machine.clock.Elapsed()); });
+    const uint64_t start = machine.clock.Elapsed();
+    panel->FlapsUp.Connect([&] {
+        machine.loop.After(300, [this] { Post(Button::kVS); });
+        machine.loop.After(400, [this] { Post(kAtRest); });
+        WaitMs(5000);
+    });
+    Send(kFlapsUp);
+    EXPECT_EQ(times, std::vector{start + 1000});
+    EXPECT_EQ(Heard(), FlapsUp() + Click(Button::kVS));
+    EXPECT_EQ(machine.loop.TimerCount(), 0U);
+}
+
+// The press of the first report is told before the release of the second, and makes a click.
+TEST_F(MultiPanelDeviceTest, RestOfAReportComesBeforeTheNextOne) {
+    panel->SelectorChange.Connect([this](int32_t now, int32_t) {
+        if (now != Position::kHDG) return;
+        machine.loop.After(200, [this] { Post(Position::kCRS); });
+        WaitMs(3000);
+    });
+    Send(Position::kHDG | Button::kAP | kArm);
+    EXPECT_EQ(Heard(), Selector(Position::kHDG, Position::kNone) + Armed(true) +
+                           Selector(Position::kCRS, Position::kHDG) + Click(Button::kAP) +
+                           Armed(false));
+}
+
 }  // namespace

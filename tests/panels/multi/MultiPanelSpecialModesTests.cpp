@@ -188,4 +188,20 @@ TEST_F(MultiPanelSpecialModeTest, MaddogStartsAfreshAndShowsNothingNewByItself) 
     }
 }
 
+TEST_F(MultiPanelSpecialModeTest, NGXLightsOfTwoPanelsFollowTheirOwnFunctions) {
+    VirtualDevice& second = Plug(PanelKind::Multi, 2);
+    FlyWith("[Common]\nSpecialMode=ngx\n[MultiPanel1]\nNGXAPShort=4\n[MultiPanel2]\nNGXAPShort=7");
+    const auto lights = [&] {
+        Tick();
+        return std::pair(Lights(), int{second.featureReports.back()[11]});
+    };
+    Simulator<uint8_t>(0x6540, 1);  // LNAV
+    EXPECT_EQ(lights(), std::pair(1 | 4, 4)) << "of AP, and of NAV on both";
+    Simulator<uint8_t>(0x6540, 0);
+    Simulator<uint8_t>(0x653F, 1);  // HDG SEL
+    EXPECT_EQ(lights(), std::pair(2, 1 | 2));
+    Multi().cmdSetup.Press();
+    EXPECT_EQ(lights(), std::pair(2, 1 | 2)) << "whoever was set up last";
+}
+
 }  // namespace
