@@ -367,12 +367,13 @@ TEST_F(MultiPanelDeviceTest, RestOfAReportComesBeforeTheNextOne) {
     panel->SelectorChange.Connect([this](int32_t now, int32_t) {
         if (now != Position::kHDG) return;
         machine.loop.After(200, [this] { Post(Position::kCRS); });
+        machine.loop.After(1500, [this] { Post(Position::kIAS); });
         WaitMs(3000);
     });
     Send(Position::kHDG | Button::kAP | kArm);
     EXPECT_EQ(Heard(), Selector(Position::kHDG, Position::kNone) + Armed(true) +
                            Selector(Position::kCRS, Position::kHDG) + Click(Button::kAP) +
-                           Armed(false));
+                           Armed(false) + Selector(Position::kIAS, Position::kCRS));
 }
 
 }  // namespace
