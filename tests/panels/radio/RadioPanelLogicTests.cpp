@@ -74,8 +74,7 @@ TEST_F(RadioPanelLogicTest, WithoutPowerThePanelIsDarkButTunes) {
     for (const uint32_t power : {kBatteryMaster, kAvionicsMaster}) {
         Simulator(power, 0), Simulator(kNAV1Standby, 0x1040);
         At(Upper), MoveSelectorTo(XPDR);
-        At(Lower), MoveSelectorTo(NAV1);
-        EXPECT_EQ(SentAndShown(), Shows("|"));
+        EXPECT_EQ((At(Lower), MoveSelectorTo(NAV1), SentAndShown()), Shows("|"));
         EXPECT_EQ((TurnInner(+1), SentAndShown()), WroteWord(kNAV1Standby, 0x1045) + Shows("|"));
         EXPECT_EQ((At(Upper), SentAndShown()), Shows("|"));
         Simulator(power, 1), Simulator(kNAV1Standby, 0x1030);
@@ -157,14 +156,11 @@ TEST_F(RadioPanelLogicTest, TuningKeepsToTheChannelsOfTheBand) {
 }
 
 TEST_F(RadioPanelLogicTest, AdfAsItsModeSays) {
-    Fly("ADFMode=3"), MoveSelectorTo(ADF);
-    EXPECT_EQ(SentAndShown(), Shows("0345.3|0345.3"));
-    Fly("ADFMode=0"), Click(), LongClick();
-    EXPECT_EQ(SentAndShown(), Shows("05.6|0345.3"));
+    EXPECT_EQ((Fly("ADFMode=3"), MoveSelectorTo(ADF), SentAndShown()), Shows("0345.3|0345.3"));
+    EXPECT_EQ((Fly("ADFMode=0"), Click(), LongClick(), SentAndShown()), Shows("05.6|0345.3"));
     EXPECT_EQ((TurnInner(+1), SentAndShown()), WroteADF1(0x345, 0x4) + Shows("05.6|0345.4"));
     EXPECT_EQ((TurnOuter(-5), SentAndShown()), WroteADF1(0x340, 0x4) + Shows("05.6|0340.4"));
-    Fly("ADFMode=1"), Click(), LongClick();
-    EXPECT_EQ(SentAndShown(), Shows("123|1234.5"));
+    EXPECT_EQ((Fly("ADFMode=1"), Click(), LongClick(), SentAndShown()), Shows("123|1234.5"));
     EXPECT_EQ((TurnOuter(+20), SentAndShown()), WroteADF2(0x254, 0x105) + Shows("123|1254.5"));
     Fly("ADFMode=2"), TurnInner(-1);
     EXPECT_EQ(SentAndShown(), WroteADF1(0x340, 0x3) + Shows("1254.5|0340.3."));
@@ -229,8 +225,7 @@ TEST_F(RadioPanelLogicTest, DmeShowsBothDistancesOrOneStation) {
     EXPECT_EQ(SentAndShown(), Shows("2  . . .| . . ."));
     Fly("DMEMode=1"), Simulator(kDME1, 1), Simulator(kDME2, 999);
     EXPECT_EQ(SentAndShown(), Shows("00.1|99.9"));
-    Simulator(kDME1, 1000), Simulator(kDME2, 9999);
-    EXPECT_EQ(SentAndShown(), Shows("100|999"));
+    EXPECT_EQ((Simulator(kDME1, 1000), Simulator(kDME2, 9999), SentAndShown()), Shows("100|999"));
 }
 
 TEST_F(RadioPanelLogicTest, TransponderAndAltimeter) {
@@ -333,8 +328,7 @@ TEST_F(RadioPanelLogicTest, BoundVirtualButtonIsDownAsLongAsThePanelsOwn) {
     EXPECT_EQ(Sent(), Pressed(3) + tick + Released(1) + Pressed(1) + tick + Released(3) + tick +
                           Released(1));
     MoveSelectorTo(COM1), LongClick(), Sent();
-    Reconnect();
-    EXPECT_EQ(Sent(), Released(2)) << "in the next session";
+    EXPECT_EQ((Reconnect(), Sent()), Released(2)) << "in the next session";
     RadioLogic().ButtonClick(0x2000);  // not one of the panel's
     MoveSelectorTo(COM1), Click(), MoveSelectorTo(DME), Release(), Click(), LongClick(), Release();
     EXPECT_EQ(Sent(), Pressed(1) + Released(1) + Pressed(3) + Released(3) + Typed(65))
@@ -352,8 +346,7 @@ TEST_F(RadioPanelLogicTest, SelectorHoldsItsVirtualButtonForAWhileAndGoesOnMeanw
     machine.loop.Advance(200);
     EXPECT_EQ(Sent(), Released(2) + Pressed(1) + Released(1) + Pressed(2) + Released(2))
         << "one after the other";
-    MoveSelectorTo(DME), MoveSelectorTo(ADF), MoveSelectorTo(DME);
-    EXPECT_EQ(Sent(), Pressed(1));
+    EXPECT_EQ((MoveSelectorTo(DME), MoveSelectorTo(ADF), MoveSelectorTo(DME), Sent()), Pressed(1));
     LoseSimulator();
     machine.loop.Advance(100);
     Connect();
