@@ -1,4 +1,4 @@
-#include <functional>
+#include <array>
 #include <tuple>
 #include <utility>
 
@@ -95,53 +95,36 @@ TEST_F(RadioPanelLogicTest, MaddogsNavRadiosAreTunedByControls) {
 }
 
 TEST_F(RadioPanelLogicTest, TuningKeepsToTheChannelsOfTheBand) {
+    struct Band {
+        int start;
+        std::array<int, 4> inner, outer;  // where 1, 5, 10 and 20 steps down end
+    };
+    const Band com = {0x1800, {0x3697, 0x3687, 0x3675, 0x3650}, {0x3600, 0x3200, 0x2700, 0x1700}};
+    const Band nav = {0x0800, {0x1795, 0x1775, 0x1750, 0x1700}, {0x1700, 0x1300, 0x0800, 0x9800}};
     const struct {
         uint32_t offset;
         Row row;
         Position position;
-        int start;
-        std::array<int, 4> inner, outer;  // where 1, 5, 10 and 20 steps down end
-    } bands[] = {
-        {kCOM1Standby,
-         Upper,
-         COM1,
-         0x1800,
-         {0x3697, 0x3687, 0x3675, 0x3650},
-         {0x3600, 0x3200, 0x2700, 0x1700}},
-        {kCOM2Standby,
-         Lower,
-         COM2,
-         0x1800,
-         {0x3697, 0x3687, 0x3675, 0x3650},
-         {0x3600, 0x3200, 0x2700, 0x1700}},
-        {kNAV1Standby,
-         Upper,
-         NAV1,
-         0x0800,
-         {0x1795, 0x1775, 0x1750, 0x1700},
-         {0x1700, 0x1300, 0x0800, 0x9800}},
-        {kNAV2Standby,
-         Lower,
-         NAV2,
-         0x0800,
-         {0x1795, 0x1775, 0x1750, 0x1700},
-         {0x1700, 0x1300, 0x0800, 0x9800}},
-    };
-    for (const auto& band : bands) Simulator(band.offset, static_cast<uint16_t>(band.start));
+        Band band;
+    } radios[] = {{kCOM1Standby, Upper, COM1, com},
+                  {kCOM2Standby, Lower, COM2, com},
+                  {kNAV1Standby, Upper, NAV1, nav},
+                  {kNAV2Standby, Lower, NAV2, nav}};
+    for (const auto& each : radios) Simulator(each.offset, static_cast<uint16_t>(each.band.start));
     Sent();
-    for (const auto& band : bands) {
-        At(band.row), MoveSelectorTo(band.position);
-        std::string sent;
+    for (const auto& [offset, theRow, position, band] : radios) {
+        At(theRow), MoveSelectorTo(position);
+        std::string inner, outer;
         const int speeds[] = {1, 5, 10, 20};
         for (size_t i = 0; i < 4; ++i) {
             TurnInner(-speeds[i]), TurnInner(speeds[i]);
-            sent += WroteWord(band.offset, band.inner[i]) + WroteWord(band.offset, band.start);
+            inner += WroteWord(offset, band.inner[i]) + WroteWord(offset, band.start);
         }
         for (size_t i = 0; i < 4; ++i) {
             TurnOuter(-speeds[i]), TurnOuter(speeds[i]);
-            sent += WroteWord(band.offset, band.outer[i]) + WroteWord(band.offset, band.start);
+            outer += WroteWord(offset, band.outer[i]) + WroteWord(offset, band.start);
         }
-        EXPECT_EQ(Sent(), sent) << band.position;
+        EXPECT_EQ(Sent(), inner + outer) << position;
     }
     At(Lower), MoveSelectorTo(None);
     At(Upper), MoveSelectorTo(COM1), TurnInner(+1), Sent();
