@@ -1,171 +1,277 @@
+#include <array>
+#include <vector>
+
 #include "tests/panels/PanelFlight.h"
 
 namespace {
 
+constexpr Color kRed = 0x0000FF, kGreen = 0x00FF00, kYellow = 0x00FFFF;
+constexpr Color kDark = 0x8000000F;  // the button face
+using Faces = std::array<Color, 4>;  // of the tiles 0, 1, 2 and 23
+
+constexpr Happening Sends{"Sends"};  // so many reports
+constexpr Happening Face{"Face"};
+
+// What two ticks send, and the same faces after each.
+std::string Ticks(int first, int second, const Faces& faces) {
+    std::string shown;
+    for (const Color face : faces) shown += Face(face);
+    return Sends(first) + shown + Sends(second) + shown;
+}
+
 struct BIPPanelFlight : PanelFlight {
     VirtualDevice &device = Plug(PanelKind::BIP), &device2 = Plug(PanelKind::BIP, 2);
     void TestBody() override {}
-    std::string Seen(int number = 1) {
-        std::string seen;
-        for (const size_t tile : {0, 1, 2, 23}) {
-            const Color face = BIP(number).OnScreen.shpTile[tile].FillColor;
-            seen += face == 0xFF ? 'r' : face == 0xFF00 ? 'g' : face == 0xFFFF ? 'y' : '-';
-        }
-        return seen;
+    Faces Shown(int number = 1) {
+        const auto& tiles = BIP(number).OnScreen.shpTile;
+        return {tiles[0].FillColor, tiles[1].FillColor, tiles[2].FillColor, tiles[23].FillColor};
     }
-    // How many reports each of two ticks sends, and what is shown then.
-    std::string Next(int ticks = 2) {
-        device.featureReports.clear();
-        Tick();
-        const std::string now = std::to_string(device.featureReports.size()) + Seen();
-        return ticks == 1 ? now : now + Next(ticks - 1);
+    std::string NextTicks() {
+        std::string text;
+        for (int tick = 0; tick < 2; ++tick) {
+            device.featureReports.clear();
+            Tick();
+            text += Sends(device.featureReports.size());
+            for (const Color face : Shown()) text += Face(face);
+        }
+        return text;
     }
 };
 
-// "NAME@offset:type" that a function reads; its key; its mode (s all but NGX, n NGX, b all) and, if
-// it isn't the standard one, threshold; values of what it reads, and what the tile shows then: "+"
-// its own colour, "-" off, "=" what it showed before, or a colour.
-const char kRules[] = R"(
-NO_TILE b - MASTER_CAUTION s = AP_PRST s = AT_PRST s = FMC_PRST s =
-ROTOR-RPM@908:5 ROTOR_LOW_RPM b 16384=
-ENGINE-FIRE@3366:1 ENG_FIRE s 0- 1+ 128+ ENG_1_FIRE s 1+ 0xfe- ENG_2_FIRE s 2+ 0xfd- ENG_3_FIRE b
-    4+ 0xfb- ENG_4_FIRE b 8+ 0xf7- LEFT_ENG_FIRE s 1+ 0xfe-
-NGX-FIRE-ENG1@6504:1 n 0- 1+ 2+
-ENGINE-FIRE@3366:1 RIGHT_ENG_FIRE s 2+ 0xfd-
-NGX-FIRE-ENG2@6505:1 n 0- 1+ 2+
-NGX-FIRE-ENG1@6504:1 NGX-FIRE-ENG2@6505:1 ENG_FIRE n 0,0- 2,0+ 0,2+ ENG_1_FIRE n 2,0+ 0,2-
-    ENG_2_FIRE n 2,0- 0,2+
-ENG1-FUEL-PRESSURE@8f8:5 LOW_PRESSURE s 569+ 570- 571-
-NGX-FCTL_annunLOW_PRESSURE@644b:1 n 0- 1+ 2-
-ENG1-OIL-PRESSURE@8ba:3 OIL_PRESSURE s 5999+ 6000- 6001- s,0 0- s,100 29999+ 30000-
-NGX-APU_annunLOW_OIL_PRESSURE@6491:1 n 0- 1+ 2-
-ENG1-OIL-PRESSURE@8ba:3 ENG_1_OIL_PRESSURE s 5999+ 6000- 6001-
-NGX-FCTL_annunFC_LOW_PRESSURE1@6447:1 n 0- 1+ 2-
-ENG2-OIL-PRESSURE@952:3 ENG_2_OIL_PRESSURE s 5999+ 6000- 6001-
-NGX-FCTL_annunFC_LOW_PRESSURE2@6448:1 n 0- 1+ 2-
-ENG3-OIL-PRESSURE@9ea:3 ENG_3_OIL_PRESSURE b 5999+ 6000- 6001-
-ENG4-OIL-PRESSURE@a82:3 ENG_4_OIL_PRESSURE b 5999+ 6000- 6001-
-ENG1-OIL-TEMP@8b8:3 ENG_OIL_TEMP b 15209- 15210- 15211+ b,100 23400- 23401+ ENG_1_OIL_TEMP b
-    15209- 15210- 15211+
-ENG2-OIL-TEMP@950:3 ENG_2_OIL_TEMP b 15209- 15210- 15211+
-ENG3-OIL-TEMP@9e8:3 ENG_3_OIL_TEMP b 15209- 15210- 15211+
-ENG4-OIL-TEMP@a80:3 ENG_4_OIL_TEMP b 15209- 15210- 15211+
-FUEL-CAPACITY@1240:5 FUEL-QUANTITY@1264:5 FUEL_LOW s 0,9= 1000,149+ 1000,150- 1000,151-
-    0x800000,0x13ffff+
-NGX-WARN_annunFUEL@650a:1 n 0- 1+ 2-
-LEFT-TANK-LEVEL@b7c:5 LEFT_FUEL_LOW b 0xccccc+ 0x13a613+ 0x13a614- 0x13a615- b,100 0x7f0000+
-    0x800000-
-CENTER-TANK-LEVEL@b74:5 CENTRE_FUEL_LOW b 0x13a613+ 0x13a614- 0x13a615-
-RIGHT-TANK-LEVEL@b94:5 RIGHT_FUEL_LOW b 0x13a613+ 0x13a614- 0x13a615-
-CROSSFEED-SWITCH@341f:1 FUEL_CROSS_FEED s 0- 1+ 2+
-NGX-FUEL_annunXFEED_VALVE_OPEN@6469:1 n 0- 1+ 2-
-GEARNOSE@bec:4 GEARRIGHT@bf0:4 GEARLEFT@bf4:4 GEAR_DOWN s 16383,16383,16383+ 0,16383,16383-
-    16383,1,16383- 16383,16383,1- GEAR_UP s 0,0,0+ 1,0,0- 0,16383,0- 0,0,1- GEAR_UNSAFE s
-    0,16383,0- 1,0,0+ 16383,16384,0+ 0,0,-1+ COMBINED_GEAR s 0,0,0- 16383,16383,16383g 16383,0,0=
-    1,0,0r 0,1,16383r NOSE_GEAR s 0,1,16383- 16383,0,1g 1,16383,0r RIGHT_GEAR s 1,0,16383-
-    0,16383,1g 16383,1,0r LEFT_GEAR s 1,16383,0- 0,1,16383g 16383,0,1r
-NGX-MAIN_annunGEAR_transit1@6570:1 NGX-MAIN_annunGEAR_transit2@6571:1
-    NGX-MAIN_annunGEAR_transit3@6572:1 NGX-MAIN_annunGEAR_locked1@6573:1
-    NGX-MAIN_annunGEAR_locked2@6574:1 NGX-MAIN_annunGEAR_locked3@6575:1 GEAR_DOWN n 0,0,0,1,1,1+
-    1,1,1,1,1,1+ 0,0,0,2,1,1- 0,0,1,1,1,0- GEAR_UP n 0,0,0,0,0,0+ 2,2,2,2,2,2+ 0,1,0,0,0,0-
-    0,0,0,0,0,1- GEAR_UNSAFE n 0,0,0,0,1,1- 2,0,0,1,0,0- 1,0,0,0,1,1+ 0,1,0,1,0,1+ COMBINED_GEAR n
-    0,0,0,0,0,0- 0,0,0,1,1,1g 0,0,0,1,0,0= 1,0,0,0,1,1r NOSE_GEAR n 1,0,1,1,0,1- 0,1,0,0,1,0g
-    0,1,0,1,0,1r RIGHT_GEAR n 0,1,1,0,1,1- 1,0,0,1,0,0g 1,0,0,0,1,1r LEFT_GEAR n 1,1,0,1,1,0-
-    0,0,1,0,0,1g 0,0,1,1,1,0r
-RADIO-IDENT-SWITCHES@3122:1 DME b 2+ 0xfd- NAV_1 b 16+ 0xef- NAV_2 b 8+ 0xf7- COM_1 b 128+ 0x7f-
-    COM_2 b 64+ 0xbf- BOTH b 32+ 0xdf- MKR b 4+ 0xfb- ADF b 1+ 0xfe-
-NAV-GPS-SWITCH@132c:5 GPS b 0- 1+ 2- NAV b 0+ 1- 2-
-AP-MASTER-SWITCH@7bc:5 AUTO_PILOT b 0- 1+ 2- AP_MASTER b 0- 1+ 2-
-LIGHTS-SWITCHES@d0c:3 BEACON_LIGHT b 2+ 0xfffd- LANDING_LIGHT b 4+ 0xfffb- STROBE_LIGHT s 16+
-    0xffef- n 1+ 0xfffe- NAV_LIGHT b 1+ 0xfffe- TAXI_LIGHT b 8+ 0xfff7- INSTR_LIGHT b 32+ 0xffdf-
-    RECOG_LIGHT b 64+ 0xffbf- WING_LIGHT b 128+ 0xff7f- LOGO_LIGHT b 256+ 0xfeff- CABIN_LIGHT b
-    512+ 0xfdff-
-VAC-PRESSURE@b18:8 VAC_LOW b 2.999+ 3- 3.001-
-STALL-WARNING@36c:1 STALL_WARNING b 0- 1+ 2-
-DOORS-OPEN@3367:1 DOOR_WARNING s 0- 1+ 2+
-NGX-WARN_annunDOORS@6510:1 n 0- 1+ 2-
-PITOT-SWITCH@29c:1 PITOT_HEAT s 0- 1+ 2-
-NGX-ICE_annunCAPT_PITOT@64ae:1 n 0- 1+ 2-
-PARKING-BRAKE@bc8:3 PARKING_BRAKES s 0- 1+ 32767+
-NGX-PED_annunParkingBrake@65a7:1 n 0- 1+ 2-
-INNER-MARKER@bac:3 MIDDLE-MARKER@bae:3 OUTER-MARKER@bb0:3 OUTER_MARKER b 0,0,256+ 1,1,0-
-    MIDDLE_MARKER b 0,256,0+ 1,0,1- INNER_MARKER b 256,0,0+ 0,1,1- COMBINED_OMI b 0,0,0- 0,0,256g
-    0,256,0r 0,1,1r 256,0,0y 1,0,1y 1,1,1y
-NGX-WARN_annunMASTER_CAUTION@6506:1 MASTER_CAUTION n 0- 1+ 2-
-NGX-MAIN_annunAP1@6550:1 NGX-ANY_AP_Mode@6545:5 AP_PRST n 0,0- 0,1- 1,0r 2,0r 1,1y 2,256y
-NGX-MAIN_annunAT1@6552:1 AT_PRST n 0- 1r 2r
-NGX-MAIN_annunFMC1@6554:1 FMC_PRST n 0- 1r 2r
-)";
+enum class Mode { Any, NotNGX, NGX };
+using enum Mode;
+enum class Tile { On, Off, Kept, Red, Green, Yellow };  // On is its own colour
+using enum Tile;
 
-// Each function in a program of its own, which reads the title and the masters besides.
-TEST_F(BIPPanelFlight, FunctionsReadWhatTheyNeedAndLightByIt) {
-    for (const std::string mode : {"", "maddog", "ngx"}) {
-        std::unique_ptr<BIPPanelFlight> flight;
-        std::vector<std::tuple<std::string, int32_t, int32_t>> reads;
-        std::istringstream words(kRules);
-        for (std::string key, rule, word; words >> word;) {
-            char* end = word.data();
-            if (const size_t mark = word.find('@'); mark != word.npos) {
-                if (!std::exchange(rule, {}).empty()) reads.clear();
-                reads.emplace_back(word.substr(0, mark), std::strtol(end + mark + 1, nullptr, 16),
-                                   word.back() - '0');
-            } else if (std::isupper(*end)) {
-                key = word;
-            } else if (std::islower(*end)) {
-                rule = mode + ' ' + key + ' ';
-                flight.reset();
-                if (*end++ == (mode == "ngx" ? 's' : 'n')) continue;
-                flight = std::make_unique<BIPPanelFlight>();
-                flight->FlyWith("[Common]\nSpecialMode=" + mode + "\n[BIPPanel1]\nT0=" + key +
-                                ",Red" + end + "\nT23=" + key + ",Green" + end);
-                EXPECT_EQ(flight->program->Session.OffsetTable.Shape(), 4 + reads.size()) << rule;
-                for (const auto& [name, at, type] : reads) {
-                    const cOFFSET* entry = flight->program->Session.OffsetTable.Item(name);
-                    EXPECT_TRUE(entry && entry->Offset == at && entry->DataType() == type) << name;
-                }
-            } else if (flight) {
-                for (const auto& [name, at, type] : reads) {  // upward: each one's bytes stay
-                    const double value = std::strtod(end, &end);
-                    flight->sim.Set<int32_t>(at, static_cast<int32_t>(value));
-                    if (type == 8) flight->sim.Set<double>(at, value);
-                    end += *end == ',';
-                }
-                flight->BIP().TurnPanel(0x00FFFF);
-                flight->Tick();
-                std::string shown = "r--g";
-                if (*end != '+') shown[0] = shown[3] = *end == '=' ? 'y' : *end;
-                EXPECT_EQ(flight->Seen(), shown) << rule << word;
-            }
+// What the simulator has at each place that the function reads, and what the tile shows then.
+struct Case {
+    std::vector<double> values;
+    Tile tile;
+};
+using Cases = std::vector<Case>;
+
+Cases ByteBit(int bit) { return {{{1.0 * bit}, On}, {{1.0 * (0xFF ^ bit)}, Off}}; }
+Cases WordBit(int bit) { return {{{1.0 * bit}, On}, {{1.0 * (0xFFFF ^ bit)}, Off}}; }
+Cases NotZero() { return {{{0}, Off}, {{1}, On}, {{2}, On}}; }
+Cases OnlyAt1() { return {{{0}, Off}, {{1}, On}, {{2}, Off}}; }
+Cases Below(double limit) { return {{{limit - 1}, On}, {{limit}, Off}, {{limit + 1}, Off}}; }
+Cases Above(double limit) { return {{{limit - 1}, Off}, {{limit}, Off}, {{limit + 1}, On}}; }
+
+struct Function {
+    const char* key;
+    Mode mode;
+    Cases cases;
+    int threshold = -1;  // the function's own one
+};
+struct Place {
+    const char* name;
+    int32_t offset;
+    int32_t type;
+};
+// Functions that read the same places.
+struct Group {
+    std::vector<Place> reads;
+    std::vector<Function> functions;
+};
+
+constexpr int D = 16383;  // a gear that is down; 0 is up, all else on the way
+// clang-format off
+const Group kGroups[] = {
+    {{},
+     {{"NO_TILE", Any, {{{}, Off}}}, {"MASTER_CAUTION", NotNGX, {{{}, Kept}}},
+      {"AP_PRST", NotNGX, {{{}, Kept}}}, {"AT_PRST", NotNGX, {{{}, Kept}}},
+      {"FMC_PRST", NotNGX, {{{}, Kept}}}}},
+    {{{"ROTOR-RPM", 0x0908, 5}}, {{"ROTOR_LOW_RPM", Any, {{{16384}, Kept}}}}},
+    {{{"ENGINE-FIRE", 0x3366, 1}},
+     {{"ENG_FIRE", NotNGX, {{{0}, Off}, {{1}, On}, {{128}, On}}},
+      {"ENG_1_FIRE", NotNGX, ByteBit(0x01)}, {"ENG_2_FIRE", NotNGX, ByteBit(0x02)},
+      {"ENG_3_FIRE", Any, ByteBit(0x04)}, {"ENG_4_FIRE", Any, ByteBit(0x08)},
+      {"LEFT_ENG_FIRE", NotNGX, ByteBit(0x01)}}},
+    {{{"NGX-FIRE-ENG1", 0x6504, 1}}, {{"LEFT_ENG_FIRE", NGX, NotZero()}}},
+    {{{"ENGINE-FIRE", 0x3366, 1}}, {{"RIGHT_ENG_FIRE", NotNGX, ByteBit(0x02)}}},
+    {{{"NGX-FIRE-ENG2", 0x6505, 1}}, {{"RIGHT_ENG_FIRE", NGX, NotZero()}}},
+    {{{"NGX-FIRE-ENG1", 0x6504, 1}, {"NGX-FIRE-ENG2", 0x6505, 1}},
+     {{"ENG_FIRE", NGX, {{{0, 0}, Off}, {{2, 0}, On}, {{0, 2}, On}}},
+      {"ENG_1_FIRE", NGX, {{{2, 0}, On}, {{0, 2}, Off}}},
+      {"ENG_2_FIRE", NGX, {{{2, 0}, Off}, {{0, 2}, On}}}}},
+    {{{"ENG1-FUEL-PRESSURE", 0x08F8, 5}}, {{"LOW_PRESSURE", NotNGX, Below(570)}}},
+    {{{"NGX-FCTL_annunLOW_PRESSURE", 0x644B, 1}}, {{"LOW_PRESSURE", NGX, OnlyAt1()}}},
+    {{{"ENG1-OIL-PRESSURE", 0x08BA, 3}},
+     {{"OIL_PRESSURE", NotNGX, Below(6000)}, {"OIL_PRESSURE", NotNGX, {{{0}, Off}}, 0},
+      {"OIL_PRESSURE", NotNGX, {{{29999}, On}, {{30000}, Off}}, 100}}},
+    {{{"NGX-APU_annunLOW_OIL_PRESSURE", 0x6491, 1}}, {{"OIL_PRESSURE", NGX, OnlyAt1()}}},
+    {{{"ENG1-OIL-PRESSURE", 0x08BA, 3}}, {{"ENG_1_OIL_PRESSURE", NotNGX, Below(6000)}}},
+    {{{"NGX-FCTL_annunFC_LOW_PRESSURE1", 0x6447, 1}}, {{"ENG_1_OIL_PRESSURE", NGX, OnlyAt1()}}},
+    {{{"ENG2-OIL-PRESSURE", 0x0952, 3}}, {{"ENG_2_OIL_PRESSURE", NotNGX, Below(6000)}}},
+    {{{"NGX-FCTL_annunFC_LOW_PRESSURE2", 0x6448, 1}}, {{"ENG_2_OIL_PRESSURE", NGX, OnlyAt1()}}},
+    {{{"ENG3-OIL-PRESSURE", 0x09EA, 3}}, {{"ENG_3_OIL_PRESSURE", Any, Below(6000)}}},
+    {{{"ENG4-OIL-PRESSURE", 0x0A82, 3}}, {{"ENG_4_OIL_PRESSURE", Any, Below(6000)}}},
+    {{{"ENG1-OIL-TEMP", 0x08B8, 3}},
+     {{"ENG_OIL_TEMP", Any, Above(15210)},
+      {"ENG_OIL_TEMP", Any, {{{23400}, Off}, {{23401}, On}}, 100},
+      {"ENG_1_OIL_TEMP", Any, Above(15210)}}},
+    {{{"ENG2-OIL-TEMP", 0x0950, 3}}, {{"ENG_2_OIL_TEMP", Any, Above(15210)}}},
+    {{{"ENG3-OIL-TEMP", 0x09E8, 3}}, {{"ENG_3_OIL_TEMP", Any, Above(15210)}}},
+    {{{"ENG4-OIL-TEMP", 0x0A80, 3}}, {{"ENG_4_OIL_TEMP", Any, Above(15210)}}},
+    {{{"FUEL-CAPACITY", 0x1240, 5}, {"FUEL-QUANTITY", 0x1264, 5}},
+     {{"FUEL_LOW", NotNGX, {{{0, 9}, Kept}, {{1000, 149}, On}, {{1000, 150}, Off},
+           {{1000, 151}, Off}, {{0x800000, 0x13FFFF}, On}}}}},
+    {{{"NGX-WARN_annunFUEL", 0x650A, 1}}, {{"FUEL_LOW", NGX, OnlyAt1()}}},
+    {{{"LEFT-TANK-LEVEL", 0x0B7C, 5}},
+     {{"LEFT_FUEL_LOW", Any, {{{0xCCCCC}, On}, {{0x13A613}, On}, {{0x13A614}, Off},
+           {{0x13A615}, Off}}},
+      {"LEFT_FUEL_LOW", Any, {{{0x7F0000}, On}, {{0x800000}, Off}}, 100}}},
+    {{{"CENTER-TANK-LEVEL", 0x0B74, 5}}, {{"CENTRE_FUEL_LOW", Any, Below(0x13A614)}}},
+    {{{"RIGHT-TANK-LEVEL", 0x0B94, 5}}, {{"RIGHT_FUEL_LOW", Any, Below(0x13A614)}}},
+    {{{"CROSSFEED-SWITCH", 0x341F, 1}}, {{"FUEL_CROSS_FEED", NotNGX, NotZero()}}},
+    {{{"NGX-FUEL_annunXFEED_VALVE_OPEN", 0x6469, 1}}, {{"FUEL_CROSS_FEED", NGX, OnlyAt1()}}},
+    {{{"GEARNOSE", 0x0BEC, 4}, {"GEARRIGHT", 0x0BF0, 4}, {"GEARLEFT", 0x0BF4, 4}},
+     {{"GEAR_DOWN", NotNGX, {{{D, D, D}, On}, {{0, D, D}, Off}, {{D, 1, D}, Off},
+           {{D, D, 1}, Off}}},
+      {"GEAR_UP", NotNGX, {{{0, 0, 0}, On}, {{1, 0, 0}, Off}, {{0, D, 0}, Off}, {{0, 0, 1}, Off}}},
+      {"GEAR_UNSAFE", NotNGX, {{{0, D, 0}, Off}, {{1, 0, 0}, On}, {{D, 16384, 0}, On},
+           {{0, 0, -1}, On}}},
+      {"COMBINED_GEAR", NotNGX, {{{0, 0, 0}, Off}, {{D, D, D}, Green}, {{D, 0, 0}, Kept},
+           {{1, 0, 0}, Red}, {{0, 1, D}, Red}}},
+      {"NOSE_GEAR", NotNGX, {{{0, 1, D}, Off}, {{D, 0, 1}, Green}, {{1, D, 0}, Red}}},
+      {"RIGHT_GEAR", NotNGX, {{{1, 0, D}, Off}, {{0, D, 1}, Green}, {{D, 1, 0}, Red}}},
+      {"LEFT_GEAR", NotNGX, {{{1, D, 0}, Off}, {{0, 1, D}, Green}, {{D, 0, 1}, Red}}}}},
+    {{{"NGX-MAIN_annunGEAR_transit1", 0x6570, 1}, {"NGX-MAIN_annunGEAR_transit2", 0x6571, 1},
+      {"NGX-MAIN_annunGEAR_transit3", 0x6572, 1}, {"NGX-MAIN_annunGEAR_locked1", 0x6573, 1},
+      {"NGX-MAIN_annunGEAR_locked2", 0x6574, 1}, {"NGX-MAIN_annunGEAR_locked3", 0x6575, 1}},
+     {{"GEAR_DOWN", NGX, {{{0, 0, 0, 1, 1, 1}, On}, {{1, 1, 1, 1, 1, 1}, On},
+           {{0, 0, 0, 2, 1, 1}, Off}, {{0, 0, 1, 1, 1, 0}, Off}}},
+      {"GEAR_UP", NGX, {{{0, 0, 0, 0, 0, 0}, On}, {{2, 2, 2, 2, 2, 2}, On},
+           {{0, 1, 0, 0, 0, 0}, Off}, {{0, 0, 0, 0, 0, 1}, Off}}},
+      {"GEAR_UNSAFE", NGX, {{{0, 0, 0, 0, 1, 1}, Off}, {{2, 0, 0, 1, 0, 0}, Off},
+           {{1, 0, 0, 0, 1, 1}, On}, {{0, 1, 0, 1, 0, 1}, On}}},
+      {"COMBINED_GEAR", NGX, {{{0, 0, 0, 0, 0, 0}, Off}, {{0, 0, 0, 1, 1, 1}, Green},
+           {{0, 0, 0, 1, 0, 0}, Kept}, {{1, 0, 0, 0, 1, 1}, Red}}},
+      {"NOSE_GEAR", NGX, {{{1, 0, 1, 1, 0, 1}, Off}, {{0, 1, 0, 0, 1, 0}, Green},
+           {{0, 1, 0, 1, 0, 1}, Red}}},
+      {"RIGHT_GEAR", NGX, {{{0, 1, 1, 0, 1, 1}, Off}, {{1, 0, 0, 1, 0, 0}, Green},
+           {{1, 0, 0, 0, 1, 1}, Red}}},
+      {"LEFT_GEAR", NGX, {{{1, 1, 0, 1, 1, 0}, Off}, {{0, 0, 1, 0, 0, 1}, Green},
+           {{0, 0, 1, 1, 1, 0}, Red}}}}},
+    {{{"RADIO-IDENT-SWITCHES", 0x3122, 1}},
+     {{"DME", Any, ByteBit(0x02)}, {"NAV_1", Any, ByteBit(0x10)}, {"NAV_2", Any, ByteBit(0x08)},
+      {"COM_1", Any, ByteBit(0x80)}, {"COM_2", Any, ByteBit(0x40)}, {"BOTH", Any, ByteBit(0x20)},
+      {"MKR", Any, ByteBit(0x04)}, {"ADF", Any, ByteBit(0x01)}}},
+    {{{"NAV-GPS-SWITCH", 0x132C, 5}}, {{"GPS", Any, OnlyAt1()}, {"NAV", Any, Below(1)}}},
+    {{{"AP-MASTER-SWITCH", 0x07BC, 5}},
+     {{"AUTO_PILOT", Any, OnlyAt1()}, {"AP_MASTER", Any, OnlyAt1()}}},
+    {{{"LIGHTS-SWITCHES", 0x0D0C, 3}},
+     {{"BEACON_LIGHT", Any, WordBit(0x02)}, {"LANDING_LIGHT", Any, WordBit(0x04)},
+      {"STROBE_LIGHT", NotNGX, WordBit(0x10)}, {"STROBE_LIGHT", NGX, WordBit(0x01)},
+      {"NAV_LIGHT", Any, WordBit(0x01)}, {"TAXI_LIGHT", Any, WordBit(0x08)},
+      {"INSTR_LIGHT", Any, WordBit(0x20)}, {"RECOG_LIGHT", Any, WordBit(0x40)},
+      {"WING_LIGHT", Any, WordBit(0x80)}, {"LOGO_LIGHT", Any, WordBit(0x100)},
+      {"CABIN_LIGHT", Any, WordBit(0x200)}}},
+    {{{"VAC-PRESSURE", 0x0B18, 8}},
+     {{"VAC_LOW", Any, {{{2.999}, On}, {{3}, Off}, {{3.001}, Off}}}}},
+    {{{"STALL-WARNING", 0x036C, 1}}, {{"STALL_WARNING", Any, OnlyAt1()}}},
+    {{{"DOORS-OPEN", 0x3367, 1}}, {{"DOOR_WARNING", NotNGX, NotZero()}}},
+    {{{"NGX-WARN_annunDOORS", 0x6510, 1}}, {{"DOOR_WARNING", NGX, OnlyAt1()}}},
+    {{{"PITOT-SWITCH", 0x029C, 1}}, {{"PITOT_HEAT", NotNGX, OnlyAt1()}}},
+    {{{"NGX-ICE_annunCAPT_PITOT", 0x64AE, 1}}, {{"PITOT_HEAT", NGX, OnlyAt1()}}},
+    {{{"PARKING-BRAKE", 0x0BC8, 3}},
+     {{"PARKING_BRAKES", NotNGX, {{{0}, Off}, {{1}, On}, {{32767}, On}}}}},
+    {{{"NGX-PED_annunParkingBrake", 0x65A7, 1}}, {{"PARKING_BRAKES", NGX, OnlyAt1()}}},
+    {{{"INNER-MARKER", 0x0BAC, 3}, {"MIDDLE-MARKER", 0x0BAE, 3}, {"OUTER-MARKER", 0x0BB0, 3}},
+     {{"OUTER_MARKER", Any, {{{0, 0, 256}, On}, {{1, 1, 0}, Off}}},
+      {"MIDDLE_MARKER", Any, {{{0, 256, 0}, On}, {{1, 0, 1}, Off}}},
+      {"INNER_MARKER", Any, {{{256, 0, 0}, On}, {{0, 1, 1}, Off}}},
+      {"COMBINED_OMI", Any, {{{0, 0, 0}, Off}, {{0, 0, 256}, Green}, {{0, 256, 0}, Red},
+           {{0, 1, 1}, Red}, {{256, 0, 0}, Yellow}, {{1, 0, 1}, Yellow}, {{1, 1, 1}, Yellow}}}}},
+    {{{"NGX-WARN_annunMASTER_CAUTION", 0x6506, 1}}, {{"MASTER_CAUTION", NGX, OnlyAt1()}}},
+    {{{"NGX-MAIN_annunAP1", 0x6550, 1}, {"NGX-ANY_AP_Mode", 0x6545, 5}},
+     {{"AP_PRST", NGX, {{{0, 0}, Off}, {{0, 1}, Off}, {{1, 0}, Red}, {{2, 0}, Red},
+           {{1, 1}, Yellow}, {{2, 256}, Yellow}}}}},
+    {{{"NGX-MAIN_annunAT1", 0x6552, 1}}, {{"AT_PRST", NGX, {{{0}, Off}, {{1}, Red}, {{2}, Red}}}}},
+    {{{"NGX-MAIN_annunFMC1", 0x6554, 1}},
+     {{"FMC_PRST", NGX, {{{0}, Off}, {{1}, Red}, {{2}, Red}}}}},
+};
+// clang-format on
+
+// Tiles 0, red, and 23, green, have the function, the others none; all were yellow before.
+void ExpectTiles(BIPPanelFlight& flight, Tile tile) {
+    const std::array faces = {kRed, kDark, kYellow, kRed, kGreen, kYellow};  // as Tile names them
+    const Color face = faces[static_cast<size_t>(tile)];
+    EXPECT_EQ(flight.Shown(), (Faces{face, kDark, kDark, tile == On ? kGreen : face}));
+}
+
+// In a program of its own, which reads the title and the masters besides.
+void FlyFunction(const Group& group, const Function& function, const std::string& mode) {
+    SCOPED_TRACE(mode + " " + function.key);
+    BIPPanelFlight flight;
+    const std::string key = function.key;
+    const std::string end = function.threshold < 0 ? "" : "," + std::to_string(function.threshold);
+    flight.FlyWith("[Common]\nSpecialMode=" + mode + "\n[BIPPanel1]\nT0=" + key + ",Red" + end +
+                   "\nT23=" + key + ",Green" + end);
+    const cOffsetTable& table = flight.program->Session.OffsetTable;
+    EXPECT_EQ(table.Shape(), 4 + group.reads.size());
+    for (const Place& place : group.reads) {
+        const cOFFSET* entry = table.Item(place.name);
+        ASSERT_TRUE(entry) << place.name;
+        EXPECT_EQ(entry->Offset, place.offset) << place.name;
+        EXPECT_EQ(entry->DataType(), place.type) << place.name;
+    }
+    for (const Case& test : function.cases) {
+        for (size_t i = 0; i < test.values.size(); ++i) {  // upward: each one's bytes stay
+            const double value = test.values[i];
+            const auto at = static_cast<uint32_t>(group.reads[i].offset);
+            flight.Simulator<int32_t>(at, static_cast<int32_t>(value));
+            if (group.reads[i].type == 8) flight.Simulator<double>(at, value);
         }
+        flight.BIP().TurnPanel(kYellow);
+        flight.Tick();
+        SCOPED_TRACE(testing::PrintToString(test.values));
+        ExpectTiles(flight, test.tile);
     }
 }
 
+TEST_F(BIPPanelFlight, FunctionsReadWhatTheyNeedAndLightByIt) {
+    for (const std::string mode : {"", "maddog", "ngx"})
+        for (const Group& group : kGroups)
+            for (const Function& function : group.functions)
+                if (function.mode != (mode == "ngx" ? NotNGX : NGX))
+                    FlyFunction(group, function, mode);
+}
+
 TEST_F(BIPPanelFlight, OnlyChangesAreSentButADarkPanelIsToldAtEveryTick) {
-    for (const uint32_t lit : {0x0BAC, 0x0BB0, 0x6506}) sim.Set<uint8_t>(lit, 1);
+    for (const uint32_t lit : {0x0BAC, 0x0BB0, 0x6506}) Simulator<uint8_t>(lit, 1);
     FlyWith("[Common]\nSpecialMode=ngx\n[BIPPanel1]\nT0=MASTER_CAUTION,Red\nT1=COMBINED_OMI,Red");
-    EXPECT_EQ(Next(), "2ry--2ry--") << "the tile of both markers changes twice";
-    EXPECT_EQ(device.featureReports[0], (VirtualDevice::Report{0xB8, 2, 0, 0, 1, 0, 0}));
+    EXPECT_EQ(NextTicks(), Ticks(2, 2, {kRed, kYellow, kDark, kDark}))
+        << "the tile of both markers changes twice";
+    const VirtualDevice::Report first = {
+        0xB8,              // tiles
+        0x02, 0x00, 0x00,  // the second one green on its way to yellow
+        0x01, 0x00, 0x00,  // the first one red
+    };
+    EXPECT_EQ(device.featureReports[0], first);
     FlyWith("[BIPPanel1]\nT0=MASTER_CAUTION,Green\nT2=GEAR_UP,Green");
     EXPECT_EQ(BIP().OnScreen.lblTileR3[2].Caption.Get(), "UP");
-    sim.Set<uint8_t>(0x6506, 0);
+    Simulator<uint8_t>(0x6506, 0);
     BIPLogic().BPActions->SetTileFunction(2, 43);
-    EXPECT_EQ(Next(), "0r-g-0r-g-") << "nothing is said of these tiles";
+    EXPECT_EQ(NextTicks(), Ticks(0, 0, {kRed, kDark, kGreen, kDark}))
+        << "nothing is said of these tiles";
     FlyWith("[BIPPanel1]\nT0=ADF\nT1=DME,Red\nT2=MKR,Yellow\nT23=BOTH,Red\n[BIPPanel2]\nT1=BOTH");
-    sim.Set<uint8_t>(0x3122, 0x07);
-    EXPECT_EQ(Next(), "3gry-0gry-");
-    sim.Set<uint8_t>(0x3122, 0x26);
-    EXPECT_EQ(Next(), "2-ryr0-ryr");
-    EXPECT_EQ(Seen(2), "-g--");
-    for (const uint32_t master : {0x281C, 0x2E80}) {
-        sim.Set<int32_t>(master, 0);
-        EXPECT_EQ(Next(), "1----1----");
-        sim.Set<int32_t>(master, 1);
-        EXPECT_EQ(Next(), "3-ryr0-ryr");
+    Simulator<uint8_t>(0x3122, 0x07);
+    EXPECT_EQ(NextTicks(), Ticks(3, 0, {kGreen, kRed, kYellow, kDark}));
+    Simulator<uint8_t>(0x3122, 0x26);
+    EXPECT_EQ(NextTicks(), Ticks(2, 0, {kDark, kRed, kYellow, kRed}));
+    EXPECT_EQ(Shown(2), (Faces{kDark, kGreen, kDark, kDark}));
+    for (const uint32_t master : {kBatteryMaster, kAvionicsMaster}) {
+        Simulator<int32_t>(master, 0);
+        EXPECT_EQ(NextTicks(), Ticks(1, 1, {kDark, kDark, kDark, kDark}));
+        Simulator<int32_t>(master, 1);
+        EXPECT_EQ(NextTicks(), Ticks(3, 0, {kDark, kRed, kYellow, kRed}));
     }
     program->Windows.BIPSetupOpen = true;
     for (const uint32_t offset : {0x3122, 0x281C}) {
-        sim.Set<uint8_t>(offset, 0);
-        EXPECT_EQ(Next(), "0-ryr0-ryr") << "the setup window has the tiles";
+        Simulator<uint8_t>(offset, 0);
+        EXPECT_EQ(NextTicks(), Ticks(0, 0, {kDark, kRed, kYellow, kRed}))
+            << "the setup window has the tiles";
     }
 }
 

@@ -75,23 +75,13 @@ TEST_F(MultiPanelDeviceTest, ReportsThatComeWithinAnEventAreTakenOnce) {
 TEST_F(MultiPanelDeviceTest, TwoPulsesMakeAStep) {
     Pulse(kKnobRight);
     EXPECT_EQ(Heard(), kNothing);
-    WaitMs(5000);
-    Pulse(kKnobRight);
+    WaitMs(5000), Pulse(kKnobRight);
     EXPECT_EQ(Heard(), KnobRight(1)) << "after any pause";
-    WaitMs(300);
-    Pulse(kKnobLeft);
-    WaitMs(300);
-    Pulse(kKnobRight);
+    WaitMs(300), Pulse(kKnobLeft), WaitMs(300), Pulse(kKnobRight);
     EXPECT_EQ(Heard(), kNothing) << "each direction has its own pair";
-    WaitMs(300);
-    Pulse(kKnobLeft);
+    WaitMs(300), Pulse(kKnobLeft);
     EXPECT_EQ(Heard(), KnobLeft(1));
-    WaitMs(1000);
-    Send(kTrimUp);
-    WaitMs(249);
-    Send(kAtRest, kTrimUp);
-    WaitMs(250);
-    Send(kAtRest);
+    WaitMs(1000), Send(kTrimUp), WaitMs(249), Send(kAtRest, kTrimUp), WaitMs(250), Send(kAtRest);
     EXPECT_EQ(Heard(), kNothing) << "released too late";
     Pulse(kTrimUp);
     EXPECT_EQ(Heard(), TrimUp(1));
@@ -102,8 +92,7 @@ TEST_F(MultiPanelDeviceTest, OtherReportsWithinTheWindowCountAsReleases) {
     EXPECT_EQ(Heard(), kNothing);
     Send(Button::kAP);
     EXPECT_EQ(Heard(), KnobRight(1)) << "the second report without the bit";
-    WaitMs(200);
-    Send(kAtRest);
+    WaitMs(200), Send(kAtRest);
     EXPECT_EQ(Heard(), Click(Button::kAP)) << "the window of the other direction is over";
 }
 
@@ -121,14 +110,11 @@ TEST_F(MultiPanelDeviceTest, SpeedFollowsThePulsesOfAPeriod) {
     };
     for (const auto& test : cases) {
         SCOPED_TRACE(test.pulses);
-        WaitMs(1000);
-        Pulse(test.bit, test.pulses);
-        WaitMs(200);
+        WaitMs(1000), Pulse(test.bit, test.pulses), WaitMs(200);
         Heard();
         Pulse(test.bit, 2);
         EXPECT_TRUE(Heard().starts_with(test.step(test.speed)));
-        WaitMs(200);
-        Pulse(test.bit, 2);
+        WaitMs(200), Pulse(test.bit, 2);
         EXPECT_TRUE(Heard().starts_with(test.step(test.speed))) << "a few pulses keep the speed";
         if (test.pulses % 2 != 0) Pulse(test.bit);
     }
@@ -141,14 +127,9 @@ TEST_F(MultiPanelDeviceTest, AccelerationSetsThePeriod) {
     panel->TrimAcceleration(0);
     Pulse(kKnobRight, 20);
     Heard();
-    WaitMs(199);
-    Pulse(kKnobRight, 2);
-    WaitMs(1);
-    Pulse(kKnobRight, 2);
+    WaitMs(199), Pulse(kKnobRight, 2), WaitMs(1), Pulse(kKnobRight, 2);
     EXPECT_EQ(Heard(), KnobRight(1) + KnobRight(20));
-    WaitMs(1000);
-    Pulse(kTrimUp, 20);
-    WaitMs(1000);
+    WaitMs(1000), Pulse(kTrimUp, 20), WaitMs(1000);
     Heard();
     Pulse(kTrimUp, 2);
     EXPECT_EQ(Heard(), TrimUp(1)) << "no sampling";
@@ -158,36 +139,26 @@ TEST_F(MultiPanelDeviceTest, ClicksAndLongClicksAtTheThreshold) {
     setup.ClickThreshold = 500;
     Send(Button::kHDG);
     EXPECT_EQ(ButtonColor(1), kRed);
-    WaitMs(499);
-    Send(kAtRest);
+    WaitMs(499), Send(kAtRest);
     EXPECT_EQ(Heard(), Click(Button::kHDG));
     EXPECT_EQ(ButtonColor(1), kWhite);
     WaitMs(1000);
     EXPECT_EQ(Heard(), kNothing);
-    Send(Button::kHDG);
-    WaitMs(500);
-    Send(kAtRest);
+    Send(Button::kHDG), WaitMs(500), Send(kAtRest);
     EXPECT_EQ(Heard(), kNothing) << "at the threshold itself no click";
     WaitMs(15);
     EXPECT_EQ(Heard(), LongClick(Button::kHDG)) << "but the long click, even after the release";
-    Send(Button::kREV);
-    WaitMs(2000);
+    Send(Button::kREV), WaitMs(2000);
     EXPECT_EQ(Heard(), LongClick(Button::kREV));
-    Send(kAtRest);
-    WaitMs(1000);
+    Send(kAtRest), WaitMs(1000);
     EXPECT_EQ(Heard(), kNothing);
     setup.ClickThreshold = 100;
-    Send(Button::kHDG);
-    WaitMs(150);
+    Send(Button::kHDG), WaitMs(150);
     EXPECT_EQ(Heard(), LongClick(Button::kHDG)) << "the option counts at once";
 }
 
 TEST_F(MultiPanelDeviceTest, SecondButtonTakesOverTheTime) {
-    Send(Button::kAP);
-    WaitMs(400);
-    Send(Button::kAP | Button::kVS);
-    WaitMs(400);
-    Send(Button::kVS);
+    Send(Button::kAP), WaitMs(400), Send(Button::kAP | Button::kVS), WaitMs(400), Send(Button::kVS);
     EXPECT_EQ(Heard(), Click(Button::kAP));
     WaitMs(400);
     EXPECT_EQ(Heard(), kNothing) << "the click ended the watch for both";
@@ -216,14 +187,12 @@ TEST_F(MultiPanelDeviceTest, PointersAndTrimBarGoRound) {
     EXPECT_EQ(screen.SelectorSign.Y2, 1020 - 129);
     Pulse(kKnobRight, 2 * 6);
     EXPECT_EQ(screen.RotarySign.X2, 7110 + 500) << "90 degrees";
-    WaitMs(300);
-    Pulse(kKnobLeft, 2 * 12);
+    WaitMs(300), Pulse(kKnobLeft, 2 * 12);
     EXPECT_EQ(screen.RotarySign.X2, 7110 - 500);
     const int32_t start = screen.lineTrim.Y1;
     Pulse(kTrimUp, 2 * 8);
     EXPECT_EQ(screen.lineTrim.Y1, 2340);
-    WaitMs(300);
-    Pulse(kTrimDown, 2 * 8);
+    WaitMs(300), Pulse(kTrimDown, 2 * 8);
     EXPECT_EQ(screen.lineTrim.Y2, start);
 }
 

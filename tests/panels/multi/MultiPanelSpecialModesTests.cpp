@@ -42,18 +42,15 @@ TEST_F(MultiPanelSpecialModeTest, NGXKnobsTurnByTheWheel) {
                  {Position::VS, 70033, kWheelDown, kWheelUp},  // reversed
                  {Position::IAS, 70016, kWheelUp, kWheelDown},
                  {Position::HDG, 70022, kWheelUp, kWheelDown}};
-    TurnKnob(+1);
-    EXPECT_EQ(Sent(), kNothing) << "no position";
+    EXPECT_EQ((TurnKnob(+1), Sent()), kNothing) << "no position";
     for (const auto& knob : knobs) {
         MoveSelectorTo(knob.position), TurnKnob(+20), TurnKnob(-1);
         EXPECT_EQ(Sent(),
                   SentControl(knob.control, knob.up) + SentControl(knob.control, knob.down));
     }
-    MoveSelectorTo(Position::CRS), TurnKnob(+1);
-    EXPECT_EQ(Sent(), SentControl(70008, kWheelUp));
+    EXPECT_EQ((MoveSelectorTo(Position::CRS), TurnKnob(+1), Sent()), SentControl(70008, kWheelUp));
     program->Session.EngineSelected = 4;
-    TurnKnob(-1);
-    EXPECT_EQ(Sent(), SentControl(70041, kWheelDown));
+    EXPECT_EQ((TurnKnob(-1), Sent()), SentControl(70041, kWheelDown));
 }
 
 TEST_F(MultiPanelSpecialModeTest, NGXButtonsAndLeversGoOutAsControls) {
@@ -61,20 +58,16 @@ TEST_F(MultiPanelSpecialModeTest, NGXButtonsAndLeversGoOutAsControls) {
     Click(Button::AP), LongClick(Button::AP), Click(Button::IAS);
     EXPECT_EQ(Sent(), SentControl(70034, kLeftClick) + SentControl(70035, kLeftClick) +
                           SentControl(70019, kLeftClick));
-    Click(Button::REV);
-    EXPECT_EQ(Sent(), Pressed(1) + Released(1)) << "a record comes first";
+    EXPECT_EQ((Click(Button::REV), Sent()), Pressed(1) + Released(1)) << "a record comes first";
     const uint64_t before = machine.clock.Elapsed();
     const std::string trimUp = SentControl(65615, 0), trimDown = SentControl(65607, 0);
     const std::string flapsUp = SentControl(65759, 0), flapsDown = SentControl(65758, 0);
-    TurnTrim(+3), TurnTrim(-1);
-    EXPECT_EQ(Sent(), trimUp + trimUp + trimUp + trimDown);
+    EXPECT_EQ((TurnTrim(+3), TurnTrim(-1), Sent()), trimUp + trimUp + trimUp + trimDown);
     EXPECT_EQ(machine.clock.Elapsed(), before + 4 * 50 + 10) << "a pause after each";
-    FlapsUp(), FlapsDown();
-    EXPECT_EQ(Sent(), flapsUp + flapsDown);
+    EXPECT_EQ((FlapsUp(), FlapsDown(), Sent()), flapsUp + flapsDown);
     Logic().MPActions->ReverseTrim = 2;
     Logic().MPActions->ReverseFlaps = 2;
-    TurnTrim(+1), FlapsDown();
-    EXPECT_EQ(Sent(), trimDown + flapsUp);
+    EXPECT_EQ((TurnTrim(+1), FlapsDown(), Sent()), trimDown + flapsUp);
     for (const uint8_t addOn : {uint8_t{0}, uint8_t{1}, uint8_t{2}}) {
         Simulator<uint8_t>(0x6535, addOn);
         Tick();
@@ -102,14 +95,11 @@ TEST_F(MultiPanelSpecialModeTest, MaddogButtons) {
         {Button{9}, kNothing, kNothing},
     };
     for (const auto& [button, click, longClick] : cases) {
-        Click(button);
-        EXPECT_EQ(Sent(), click) << static_cast<int>(button);
-        LongClick(button);
-        EXPECT_EQ(Sent(), longClick) << static_cast<int>(button);
+        EXPECT_EQ((Click(button), Sent()), click) << static_cast<int>(button);
+        EXPECT_EQ((LongClick(button), Sent()), longClick) << static_cast<int>(button);
     }
     for (const int mode : {1, 5, 3, 4, 6, 2, 1}) {
-        Click(Button::REV);
-        EXPECT_EQ(Sent(), SentControl(69740, mode) + SentControl(69671, 1));
+        EXPECT_EQ((Click(Button::REV), Sent()), SentControl(69740, mode) + SentControl(69671, 1));
     }
     LongClick(Button::REV), Click(Button::IAS);
     EXPECT_EQ(Sent(), SentControl(69655, 1) + SentControl(69745, 1)) << "Mach";
@@ -141,12 +131,10 @@ TEST_F(MultiPanelSpecialModeTest, MaddogKnobChangesAndSendsThePanelsOwnValues) {
     TurnKnob(+5), Click(Button::ALT);
     EXPECT_EQ(SentAndShown(),
               altitude(500) + SentControl(69663, 500) + SentControl(69664, 1) + Shows("00500|0"));
-    TurnKnob(+986);
-    EXPECT_EQ(SentAndShown(), altitude(99000) + Shows("99000|0"));
+    EXPECT_EQ((TurnKnob(+986), SentAndShown()), altitude(99000) + Shows("99000|0"));
     MoveSelectorTo(Position::VS), TurnKnob(+41);
     EXPECT_EQ(SentAndShown(), verticalSpeed(4000) + Shows("99000|4000"));
-    TurnKnob(-121);
-    EXPECT_EQ(SentAndShown(), verticalSpeed(-8000) + Shows("99000|-8000"));
+    EXPECT_EQ((TurnKnob(-121), SentAndShown()), verticalSpeed(-8000) + Shows("99000|-8000"));
     MoveSelectorTo(Position::IAS), TurnKnob(-1);
     EXPECT_EQ(SentAndShown(), speed(100) + Shows("100|-8000"));
     TurnKnob(+249), TurnKnob(+5);
@@ -155,18 +143,15 @@ TEST_F(MultiPanelSpecialModeTest, MaddogKnobChangesAndSendsThePanelsOwnValues) {
     EXPECT_EQ(SentAndShown(), SentControl(69655, 1) + SentControl(69654, 500) +
                                   SentControl(69654, 900) + Shows("0900|-8000"))
         << "Mach";
-    LongClick(Button::REV);
-    EXPECT_EQ(SentAndShown(), SentControl(69655, 0) + Shows("350|-8000"));
+    EXPECT_EQ((LongClick(Button::REV), SentAndShown()), SentControl(69655, 0) + Shows("350|-8000"));
     MoveSelectorTo(Position::HDG), TurnKnob(+358), TurnKnob(+5);
     EXPECT_EQ(SentAndShown(), SentControl(69656, 358) + SentControl(69656, 3) + Shows("003|-8000"));
     TurnKnob(-4), LongClick(Button::REV);
     EXPECT_EQ(SentAndShown(), SentControl(69656, 359) + SentControl(69655, 1) + Shows("359|-8000"));
     MoveSelectorTo(Position::CRS), TurnKnob(+360);
     EXPECT_EQ(SentAndShown(), SentControl(65717, 0) + Shows("000|-8000"));
-    MoveSelectorTo(Position::IAS);
-    EXPECT_EQ(SentAndShown(), Shows("0900|-8000"));
-    MoveSelectorTo(Position::ALT);
-    EXPECT_EQ(SentAndShown(), Shows("99000|-8000"));
+    EXPECT_EQ((MoveSelectorTo(Position::IAS), SentAndShown()), Shows("0900|-8000"));
+    EXPECT_EQ((MoveSelectorTo(Position::ALT), SentAndShown()), Shows("99000|-8000"));
     EXPECT_EQ(Lights(), 128) << "Mach";
 }
 

@@ -1,61 +1,62 @@
 #pragma once
 
-#include <algorithm>
-#include <cstdio>
+#include <cstdlib>
 
-#include "tests/panels/TextPanelFlight.h"
+#include "tests/panels/PanelFlight.h"
+
+// What the simulator has for the panel. Most of it is BCD without the leading digit.
+inline constexpr uint32_t kCOM1 = 0x034E, kCOM1Standby = 0x311A, kCOM2 = 0x3118,
+                          kCOM2Standby = 0x311C, kNAV1 = 0x0350, kNAV1Standby = 0x311E,
+                          kNAV2 = 0x0352, kNAV2Standby = 0x3120;
+inline constexpr uint32_t kADF1 = 0x034C, kADF1Extension = 0x0356, kADF2 = 0x02D4,
+                          kADF2Extension = 0x02D6;
+inline constexpr uint32_t kDME1 = 0x0300, kDME1Speed = 0x0302, kDME1Time = 0x0304, kDME2 = 0x0306,
+                          kDME2Speed = 0x0308, kDME2Time = 0x030A;  // tenths
+inline constexpr uint32_t kXPDR = 0x0354;
+inline constexpr uint32_t kAltimeter = 0x0330;  // sixteenths of a hPa
+inline constexpr uint32_t kSwap = 0x3123;       // 8 COM1, 4 COM2, 2 NAV1, 1 NAV2
 
 // A session with two Radio Panels, whose logics are driven directly.
-struct RadioPanelFlight : TextPanelFlight {
+struct RadioPanelFlight : PanelFlight {
+    enum Row : uint8_t { Upper = 1, Lower };
+    enum Position : int32_t { None, COM1, COM2, NAV1, NAV2, ADF, DME, XPDR };
+
     VirtualDevice& device = Plug(PanelKind::Radio);
     VirtualDevice& device2 = Plug(PanelKind::Radio, 2);
+    Row row = Upper;
     int panel = 1;
-    uint8_t side = 1;
-    int16_t ring = 0;
 
-    RadioPanelFlight() { base = std::hex; }  // BCD reads as its digits
-    void Fly(std::string keys = "") {
-        std::ranges::replace(keys, '&', '\n');
+    void Fly(const std::string& keys = "") {
         FlyWith("[Common]\n" + keys + "\n[RadioPanel1]\n" + keys + "\n[RadioPanel2]\nADFMode=3");
     }
-    // What the user does, as in "upper 1 inner +5 outer -1 click long up": a number moves the row's
-    // selector, or with a sign its ring; panel, row and ring stay as named last. "ADFMode=3&a=b" is
-    // a profile, "354:1200" what the simulator has, "," a tick. Gives what has gone out, with the
-    // ticks, and with the engine where "?" asks for it.
-    std::string Do(const std::string& acts) {
-        std::istringstream in(acts);
-        for (std::string word; in >> word;) {
-            cRadioPanelLogic& logic = RadioLogic(panel);
-            const int n = std::atoi(word.c_str()), button = 0x4000 * side;
-            const auto speed = static_cast<uint8_t>(std::abs(n));
-            uint32_t at = 0, value = 0;
-            const bool sets = std::sscanf(word.c_str(), "%x:%x", &at, &value) == 2;
-            if (sets) sim.Set<uint16_t>(at, static_cast<uint16_t>(value));
-            if (word == "first" || word == "second") panel = word == "first" ? 1 : 2;
-            if (word == "upper" || word == "lower") side = word == "upper" ? 1 : 2;
-            if (word == "inner" || word == "outer") ring = word == "inner" ? 0 : 1;
-            if (word == "click") logic.ButtonClick(button);
-            if (word == "long") logic.ButtonLongClick(button);
-            if (word == "up") logic.ButtonUp(button);
-            if (word[0] >= '0' && word[0] <= '7' && !sets) logic.SelectorChange(side, n, 0);
-            if (word[0] == '+' || word[0] == '-') logic.Rotary(ring, n > 0, side, speed);
-            if (word.find('=') != std::string::npos) Fly(word);
-            if (word == ",") Tick();
-            if (word == ",") told << " ,";
-            if (word == "?") told << " " << int{program->Session.EngineSelected};
-        }
-        return Sent();
+    // What the pilot does, in the row where the hand is. Steps are clockwise, with a minus the
+    // other way, and so many within one event.
+    void At(Row theRow, int thePanel = 1) {
+        row = theRow;
+        panel = thePanel;
     }
-    // Steps, with ';' or a new line between: "acts => what that has sent, and active|standby then".
-    void Check(std::string steps) {
-        std::ranges::replace(steps, '\n', ';');
-        std::istringstream in(steps);
-        for (std::string step; std::getline(in, step, ';');) {
-            const size_t arrow = step.find("=> ");
-            std::string seen = Do(step.substr(0, arrow));
-            const auto& row = Radio(panel).OnScreen.At(side);
-            seen.append(seen.empty() ? "" : " ").append(row.labActive.Caption.Get());
-            EXPECT_EQ(seen + "|" + row.labStandby.Caption.Get(), step.substr(arrow + 3)) << step;
-        }
+    void MoveSelectorTo(Position to) { RadioLogic(panel).SelectorChange(row, to, None); }
+    void TurnInner(int steps) { Turn(0, steps); }
+    void TurnOuter(int steps) { Turn(1, steps); }
+    void Click() { RadioLogic(panel).ButtonClick(Button()); }
+    void LongClick() { RadioLogic(panel).ButtonLongClick(Button()); }
+    void Release() { RadioLogic(panel).ButtonUp(Button()); }
+
+    // "active|standby" of the row.
+    std::string Shown() {
+        const auto& shown = Radio(panel).OnScreen.At(row);
+        return shown.labActive.Caption.Get() + "|" + shown.labStandby.Caption.Get();
+    }
+    std::string SentAndShown() {
+        const std::string sent = Sent();
+        return sent + Shows(Shown());
+    }
+    int Engine() const { return program->Session.EngineSelected; }
+
+  private:
+    int32_t Button() const { return 0x4000 * row; }
+    void Turn(int16_t ring, int steps) {
+        const auto speed = static_cast<uint8_t>(std::abs(steps));
+        RadioLogic(panel).Rotary(ring, steps > 0 ? 1 : 0, row, speed);
     }
 };

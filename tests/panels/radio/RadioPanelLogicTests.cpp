@@ -1,4 +1,6 @@
-#include <regex>
+#include <array>
+#include <tuple>
+#include <utility>
 
 #include "tests/panels/radio/RadioPanelFlight.h"
 
@@ -7,157 +9,349 @@ namespace {
 struct RadioPanelLogicTest : RadioPanelFlight {
     RadioPanelLogicTest() {
         Fly();
-        Do("34e:1802 311a:1807 3118:3697 311c:2150 350:995 311e:1030 352:1795 3120:800 34c:345 "
-           "356:3 2d4:234 2d6:105 300:38 306:4d2 302:4dd 308:f 304:e0f 30a:ffff 354:270 330:3f54");
+        const std::pair<uint32_t, uint16_t> radios[] = {
+            {kCOM1, 0x1802},  {kCOM1Standby, 0x1807}, {kCOM2, 0x3697},   {kCOM2Standby, 0x2150},
+            {kNAV1, 0x0995},  {kNAV1Standby, 0x1030}, {kNAV2, 0x1795},   {kNAV2Standby, 0x0800},
+            {kADF1, 0x0345},  {kADF1Extension, 0x3},  {kADF2, 0x0234},   {kADF2Extension, 0x0105},
+            {kDME1, 56},      {kDME1Speed, 1245},     {kDME1Time, 3599}, {kDME2, 1234},
+            {kDME2Speed, 15}, {kDME2Time, 65535},     {kXPDR, 0x0270},   {kAltimeter, 0x3F54},
+        };
+        for (const auto& [offset, value] : radios) Simulator(offset, value);
+        Sent();
     }
 };
 
-TEST_F(RadioPanelLogicTest, ChannelsEngineAndPower) {
-    for (const std::string row : {"upper ", "lower "})
-        Check(row + R"(1 click => 3123=8 118.02|118.07; up long => 3123=8 118.02|118.07
-            2 click up long up => 3123=4 3123=4 136.97|121.50; 3 click => 3123=2 109.95|110.30
-            4 long => 3123=1 117.95|108.00; SpecialMode=maddog click => 3123=1 |117.95
-            3 => |109.95; 2 => 136.97|121.50; SpecialMode=ngx 3 long => 3123=2 109.95|110.30
-            0 inner +1 outer -20 click up long up => 109.95|110.30; DMEMode=0 => 109.95|110.30)");
-    EXPECT_EQ(Do("upper 3 ? 2 ? 1 ? 4 ? 5 6 7 0 lower 2 ? second upper 3 ? first"), "3 2 1 4 4 4");
-    for (const std::string power : {"281c", "2e80"})
-        Check(power + ":0 upper 7 lower 3 311e:1040 => |; inner +1 => 311e=1045 |; upper => |;" +
-              power + ":1 311e:1030 => 29.92|0.270; lower => 109.95|110.30");
-    EXPECT_EQ(Do("SpecialMode=maddog upper 3 click inner +1 +1 lower 4 outer -1 ? 1 inner -1"),
-              "3 3123=2 69633:1000 69633:1005 69634:1695 311a=1805");
+// The frequency of an ADF radio goes out in two words.
+std::string WroteADF1(int main, int extension) {
+    return WroteWord(kADF1, main) + WroteWord(kADF1Extension, extension);
+}
+std::string WroteADF2(int main, int extension) {
+    return WroteWord(kADF2, main) + WroteWord(kADF2Extension, extension);
+}
+
+TEST_F(RadioPanelLogicTest, ChannelsOfBothRows) {
+    for (const Row each : {Upper, Lower}) {
+        At(each);
+        Fly();
+        MoveSelectorTo(COM1), Click();
+        EXPECT_EQ(SentAndShown(), WroteByte(kSwap, 8) + Shows("118.02|118.07"));
+        Release(), LongClick();
+        EXPECT_EQ(SentAndShown(), WroteByte(kSwap, 8) + Shows("118.02|118.07"));
+        MoveSelectorTo(COM2), Click(), Release(), LongClick(), Release();
+        EXPECT_EQ(SentAndShown(),
+                  WroteByte(kSwap, 4) + WroteByte(kSwap, 4) + Shows("136.97|121.50"));
+        MoveSelectorTo(NAV1), Click();
+        EXPECT_EQ(SentAndShown(), WroteByte(kSwap, 2) + Shows("109.95|110.30"));
+        MoveSelectorTo(NAV2), LongClick();
+        EXPECT_EQ(SentAndShown(), WroteByte(kSwap, 1) + Shows("117.95|108.00"));
+        Fly("SpecialMode=maddog"), Click();
+        EXPECT_EQ(SentAndShown(), WroteByte(kSwap, 1) + Shows("|117.95"));
+        EXPECT_EQ((MoveSelectorTo(NAV1), SentAndShown()), Shows("|109.95"));
+        EXPECT_EQ((MoveSelectorTo(COM2), SentAndShown()), Shows("136.97|121.50"));
+        Fly("SpecialMode=ngx"), MoveSelectorTo(NAV1), LongClick();
+        EXPECT_EQ(SentAndShown(), WroteByte(kSwap, 2) + Shows("109.95|110.30"));
+        MoveSelectorTo(None), TurnInner(+1), TurnOuter(-20);
+        Click(), Release(), LongClick(), Release();
+        EXPECT_EQ(SentAndShown(), Shows("109.95|110.30"));
+        EXPECT_EQ((Fly("DMEMode=0"), SentAndShown()), Shows("109.95|110.30"));
+    }
+}
+
+TEST_F(RadioPanelLogicTest, UpperRowOfTheFirstPanelSelectsTheEngine) {
+    for (const Position engine : {NAV1, COM2, COM1, NAV2}) {
+        MoveSelectorTo(engine);
+        EXPECT_EQ(Engine(), engine);
+    }
+    for (const Position none : {ADF, DME, XPDR, None}) MoveSelectorTo(none);
+    At(Lower), MoveSelectorTo(COM2);
+    EXPECT_EQ(Engine(), 4);
+    At(Upper, 2), MoveSelectorTo(NAV1);
+    EXPECT_EQ(Engine(), 4);
+    EXPECT_EQ(Sent(), kNothing);
+}
+
+TEST_F(RadioPanelLogicTest, WithoutPowerThePanelIsDarkButTunes) {
+    for (const uint32_t power : {kBatteryMaster, kAvionicsMaster}) {
+        Simulator(power, 0), Simulator(kNAV1Standby, 0x1040);
+        At(Upper), MoveSelectorTo(XPDR);
+        EXPECT_EQ((At(Lower), MoveSelectorTo(NAV1), SentAndShown()), Shows("|"));
+        EXPECT_EQ((TurnInner(+1), SentAndShown()), WroteWord(kNAV1Standby, 0x1045) + Shows("|"));
+        EXPECT_EQ((At(Upper), SentAndShown()), Shows("|"));
+        Simulator(power, 1), Simulator(kNAV1Standby, 0x1030);
+        EXPECT_EQ(SentAndShown(), Shows("29.92|0.270"));
+        EXPECT_EQ((At(Lower), SentAndShown()), Shows("109.95|110.30"));
+    }
+}
+
+TEST_F(RadioPanelLogicTest, MaddogsNavRadiosAreTunedByControls) {
+    Fly("SpecialMode=maddog");
+    At(Upper), MoveSelectorTo(NAV1), Click(), TurnInner(+1), TurnInner(+1);
+    At(Lower), MoveSelectorTo(NAV2), TurnOuter(-1);
+    EXPECT_EQ(Engine(), 3);
+    MoveSelectorTo(COM1), TurnInner(-1);
+    EXPECT_EQ(Sent(), WroteByte(kSwap, 2) + SentControl(69633, 0x1000) +
+                          SentControl(69633, 0x1005) + SentControl(69634, 0x1695) +
+                          WroteWord(kCOM1Standby, 0x1805));
 }
 
 TEST_F(RadioPanelLogicTest, TuningKeepsToTheChannelsOfTheBand) {
-    Do("311a:1800 311c:1800 311e:800 3120:800");
-    for (const std::string row : {"311a upper 1", "311c lower 2", "311e upper 3", "3120 lower 4"}) {
-        const std::string digits = row.back() < '3'
-                                       ? "=3697 =1800 =3687 =1800 =3675 =1800 =3650 =1800 "
-                                         "=3600 =1800 =3200 =1800 =2700 =1800 =1700 =1800"
-                                       : "=1795 =800 =1775 =800 =1750 =800 =1700 =800 "
-                                         "=1700 =800 =1300 =800 =800 =800 =9800 =800";
-        EXPECT_EQ(Do(row.substr(4) +
-                     " inner -1 +1 -5 +5 -10 +10 -20 +20 outer -1 +1 -5 +5 -10 +10 -20 +20"),
-                  std::regex_replace(digits, std::regex("="), row.substr(0, 4) + "="));
+    struct Band {
+        int start;
+        std::array<int, 4> inner, outer;  // where 1, 5, 10 and 20 steps down end
+    };
+    const Band com = {0x1800, {0x3697, 0x3687, 0x3675, 0x3650}, {0x3600, 0x3200, 0x2700, 0x1700}};
+    const Band nav = {0x0800, {0x1795, 0x1775, 0x1750, 0x1700}, {0x1700, 0x1300, 0x0800, 0x9800}};
+    const struct {
+        uint32_t offset;
+        Row row;
+        Position position;
+        Band band;
+    } radios[] = {{kCOM1Standby, Upper, COM1, com},
+                  {kCOM2Standby, Lower, COM2, com},
+                  {kNAV1Standby, Upper, NAV1, nav},
+                  {kNAV2Standby, Lower, NAV2, nav}};
+    for (const auto& each : radios) Simulator(each.offset, static_cast<uint16_t>(each.band.start));
+    Sent();
+    for (const auto& [offset, theRow, position, band] : radios) {
+        At(theRow), MoveSelectorTo(position);
+        std::string inner, outer;
+        const int speeds[] = {1, 5, 10, 20};
+        for (size_t i = 0; i < 4; ++i) {
+            TurnInner(-speeds[i]), TurnInner(speeds[i]);
+            inner += WroteWord(offset, band.inner[i]) + WroteWord(offset, band.start);
+        }
+        for (size_t i = 0; i < 4; ++i) {
+            TurnOuter(-speeds[i]), TurnOuter(speeds[i]);
+            outer += WroteWord(offset, band.outer[i]) + WroteWord(offset, band.start);
+        }
+        EXPECT_EQ(Sent(), inner + outer) << position;
     }
-    Do("lower 0 upper 1 inner +1");
+    At(Lower), MoveSelectorTo(None);
+    At(Upper), MoveSelectorTo(COM1), TurnInner(+1), Sent();
     for (int turn = 1; turn <= 2000; ++turn) {
         const int channel = (turn <= 1000 ? 1 + turn : 2001 - turn) % 760;
-        std::string text = std::to_string((118000 + channel * 25) / 10);
-        ASSERT_EQ(Do(turn <= 1000 ? "+1" : "-1"), "311a=" + text.substr(1)) << turn;
-        ASSERT_EQ(RadioShown().substr(0, 13), "118.02|" + text.insert(3, ".")) << turn;
+        std::string digits = std::to_string((118000 + channel * 25) / 10);
+        TurnInner(turn <= 1000 ? +1 : -1);
+        ASSERT_EQ(Sent(), WroteWord(kCOM1Standby, std::stoi(digits.substr(1), nullptr, 16)))
+            << turn;
+        ASSERT_EQ(Shown(), "118.02|" + digits.insert(3, ".")) << turn;
     }
 }
 
-TEST_F(RadioPanelLogicTest, Adf) {
-    Check(R"(ADFMode=3 upper 5 => 0345.3|0345.3; ADFMode=0 click long => 05.6|0345.3
-        inner +1 => 34c=345 356=4 05.6|0345.4; outer -5 => 34c=340 356=4 05.6|0340.4
-        ADFMode=1 click long => 123|1234.5; outer +20 => 2d4=254 2d6=105 123|1254.5
-        ADFMode=2 inner -1 => 34c=340 356=3 1254.5|0340.3.; click => 1254.5.|0340.3
-        inner +5 => 2d4=255 2d6=100 1255.0.|0340.3; long => 1255.0|0340.3.
-        ADFMode=3 outer +5 => 0340.3|0350.3; click => 34c=350 356=3 0350.3|0340.3
-        inner -1 -1 -1 => 0350.3|0340.0; ADFMode=4 +5 => 1255.0|1235.0
-        long => 2d4=235 2d6=100 1235.0|1255.0; ADFMode=5 => 0350.3|0340.0
-        lower 5 outer +1 => 1235.0|1256.0; click => 2d4=256 2d6=100 1256.0|1235.0
-        ADFMode=6 1 => 118.02|118.07; 5 inner +1 click long => 118.02|0350.3
-        ADFMode=255 +1 outer -20 click long => 118.02|0350.3; second upper 5 => 0350.3|0340.0
-        first ADFMode=3&ADFInnStep=0.25 inner +1 => 0350.3|0340.3
-        ADFMode=0 34c:799 356:109 => 05.6|1799.9; +1 => 34c=100 356=0 05.6|0100.0
-        -1 outer +20 -20 => 34c=799 356=109 34c=119 356=9 34c=799 356=109 05.6|1799.9
-        34c:999 356:9 => 05.6|0999.9; inner +1 => 34c=1000 356=0 05.6|1000.0
-        +5 => 34c=0 356=105 05.6|1000.5; -5 -1 => 34c=1000 356=0 34c=999 356=9 05.6|0999.9)");
+TEST_F(RadioPanelLogicTest, AdfAsItsModeSays) {
+    EXPECT_EQ((Fly("ADFMode=3"), MoveSelectorTo(ADF), SentAndShown()), Shows("0345.3|0345.3"));
+    EXPECT_EQ((Fly("ADFMode=0"), Click(), LongClick(), SentAndShown()), Shows("05.6|0345.3"));
+    EXPECT_EQ((TurnInner(+1), SentAndShown()), WroteADF1(0x345, 0x4) + Shows("05.6|0345.4"));
+    EXPECT_EQ((TurnOuter(-5), SentAndShown()), WroteADF1(0x340, 0x4) + Shows("05.6|0340.4"));
+    EXPECT_EQ((Fly("ADFMode=1"), Click(), LongClick(), SentAndShown()), Shows("123|1234.5"));
+    EXPECT_EQ((TurnOuter(+20), SentAndShown()), WroteADF2(0x254, 0x105) + Shows("123|1254.5"));
+    Fly("ADFMode=2"), TurnInner(-1);
+    EXPECT_EQ(SentAndShown(), WroteADF1(0x340, 0x3) + Shows("1254.5|0340.3."));
+    EXPECT_EQ((Click(), SentAndShown()), Shows("1254.5.|0340.3"));
+    EXPECT_EQ((TurnInner(+5), SentAndShown()), WroteADF2(0x255, 0x100) + Shows("1255.0.|0340.3"));
+    EXPECT_EQ((LongClick(), SentAndShown()), Shows("1255.0|0340.3."));
+    EXPECT_EQ((Fly("ADFMode=3"), TurnOuter(+5), SentAndShown()), Shows("0340.3|0350.3"));
+    EXPECT_EQ((Click(), SentAndShown()), WroteADF1(0x350, 0x3) + Shows("0350.3|0340.3"));
+    TurnInner(-1), TurnInner(-1), TurnInner(-1);
+    EXPECT_EQ(SentAndShown(), Shows("0350.3|0340.0"));
+    EXPECT_EQ((Fly("ADFMode=4"), TurnInner(+5), SentAndShown()), Shows("1255.0|1235.0"));
+    EXPECT_EQ((LongClick(), SentAndShown()), WroteADF2(0x235, 0x100) + Shows("1235.0|1255.0"));
+    EXPECT_EQ((Fly("ADFMode=5"), SentAndShown()), Shows("0350.3|0340.0"));
+    At(Lower), MoveSelectorTo(ADF), TurnOuter(+1);
+    EXPECT_EQ(SentAndShown(), Shows("1235.0|1256.0"));
+    EXPECT_EQ((Click(), SentAndShown()), WroteADF2(0x256, 0x100) + Shows("1256.0|1235.0"));
+    EXPECT_EQ((Fly("ADFMode=6"), MoveSelectorTo(COM1), SentAndShown()), Shows("118.02|118.07"));
+    MoveSelectorTo(ADF), TurnInner(+1), Click(), LongClick();
+    EXPECT_EQ(SentAndShown(), Shows("118.02|0350.3"));
+    Fly("ADFMode=255"), TurnInner(+1), TurnOuter(-20), Click(), LongClick();
+    EXPECT_EQ(SentAndShown(), Shows("118.02|0350.3"));
+    EXPECT_EQ((At(Upper, 2), MoveSelectorTo(ADF), SentAndShown()), Shows("0350.3|0340.0"));
 }
 
-TEST_F(RadioPanelLogicTest, DmeTransponderAndAltimeter) {
-    Check(R"(6516:1 upper 6 inner +1 outer -20 => 05.6|123; click => 1 05.6|125; long => 1 05.6|05.
-        click => 2 123|109.; lower 6 => 05.6|123; upper long => 2 123|002; click => 05.6|123
-        click => 1 05.6|125; DMEMode=0 click => 1 05.6|125; DMEMode=4 click => 1 05.6|125
-        DMEMode=3 click => 2 123|002; DMEMode=1 click => 05.6|123; DMEMode=2 click => 1 05.6|125
-        long => 1 05.6|05.; 300:0 => 1  . . .| . . .; 306:2710 DMEMode=3 => 2  . . .| . . .
-        DMEMode=1 300:1 306:3e7 => 00.1|99.9; 300:3e8 306:270f => 100|999; 7 => 29.92|0.270
-        inner +20 => 354=1270 29.92|1.270; click inner +1 click +1 => 354=1370 354=1300 29.92|130.0
-        click -1 => 354=1307 29.92|1307.; click -1 click => 354=307 29.92|03.07
-        outer +20 => 330=3f58 29.93|03.07; long => 1014|03.07; +1 => 330=3f60 1014|03.07
-        -1 -1 => 330=3f50 330=3f40 1012|03.07; AltimeterUnit=0 => 29.88|03.07
-        AltimeterUnit=1 long => 1012|03.07; AltimeterUnit=2 long => 29.88|03.07
-        AltimeterUnit=3 long => 29.88|03.07
-        SpecialMode=ngx +20 -1 long => 69997:4000 69997:2000 69998:20000000 1012|03.07
-        SpecialMode=ngx&AltimeterUnit=2 long => 1012|03.07; 6516:ff00 => 29.88|03.07
-        DMEMode=0 long => 1012|03.07)");
+TEST_F(RadioPanelLogicTest, AdfWrapsAtTheEndsOfItsBand) {
+    Fly("ADFMode=3"), MoveSelectorTo(ADF), TurnInner(-1), TurnInner(-1), TurnInner(-1);
+    EXPECT_EQ((Fly("ADFMode=3\nADFInnStep=0.25"), TurnInner(+1), SentAndShown()),
+              Shows("0345.3|0345.3"));
+    Fly("ADFMode=0"), Simulator(kADF1, 0x0799), Simulator(kADF1Extension, 0x0109);
+    EXPECT_EQ(SentAndShown(), Shows("05.6|1799.9"));
+    EXPECT_EQ((TurnInner(+1), SentAndShown()), WroteADF1(0x100, 0x0) + Shows("05.6|0100.0"));
+    TurnInner(-1), TurnOuter(+20), TurnOuter(-20);
+    EXPECT_EQ(SentAndShown(), WroteADF1(0x799, 0x109) + WroteADF1(0x119, 0x9) +
+                                  WroteADF1(0x799, 0x109) + Shows("05.6|1799.9"));
+    Simulator(kADF1, 0x0999), Simulator(kADF1Extension, 0x0009);
+    EXPECT_EQ(SentAndShown(), Shows("05.6|0999.9"));
+    EXPECT_EQ((TurnInner(+1), SentAndShown()), WroteADF1(0x1000, 0x0) + Shows("05.6|1000.0"));
+    EXPECT_EQ((TurnInner(+5), SentAndShown()), WroteADF1(0x0, 0x105) + Shows("05.6|1000.5"));
+    EXPECT_EQ((TurnInner(-5), TurnInner(-1), SentAndShown()),
+              WroteADF1(0x1000, 0x0) + WroteADF1(0x999, 0x9) + Shows("05.6|0999.9"));
+}
+
+TEST_F(RadioPanelLogicTest, DmeShowsBothDistancesOrOneStation) {
+    MoveSelectorTo(DME), TurnInner(+1), TurnOuter(-20);
+    EXPECT_EQ(SentAndShown(), Shows("05.6|123"));
+    EXPECT_EQ((Click(), SentAndShown()), Shows("1 05.6|125"));
+    EXPECT_EQ((LongClick(), SentAndShown()), Shows("1 05.6|05."));
+    EXPECT_EQ((Click(), SentAndShown()), Shows("2 123|109."));
+    EXPECT_EQ((At(Lower), MoveSelectorTo(DME), SentAndShown()), Shows("05.6|123"));
+    EXPECT_EQ((At(Upper), LongClick(), SentAndShown()), Shows("2 123|002"));
+    EXPECT_EQ((Click(), SentAndShown()), Shows("05.6|123"));
+    EXPECT_EQ((Click(), SentAndShown()), Shows("1 05.6|125"));
+    const std::pair<const char*, const char*> modes[] = {
+        {"0", "1 05.6|125"}, {"4", "1 05.6|125"}, {"3", "2 123|002"},
+        {"1", "05.6|123"},   {"2", "1 05.6|125"},
+    };
+    for (const auto& [mode, shown] : modes)
+        EXPECT_EQ((Fly(std::string("DMEMode=") + mode), Click(), SentAndShown()), Shows(shown));
+    EXPECT_EQ((LongClick(), SentAndShown()), Shows("1 05.6|05."));
+    EXPECT_EQ((Simulator(kDME1, 0), SentAndShown()), Shows("1  . . .| . . ."));
+    Simulator(kDME2, 10000), Fly("DMEMode=3");
+    EXPECT_EQ(SentAndShown(), Shows("2  . . .| . . ."));
+    Fly("DMEMode=1"), Simulator(kDME1, 1), Simulator(kDME2, 999);
+    EXPECT_EQ(SentAndShown(), Shows("00.1|99.9"));
+    EXPECT_EQ((Simulator(kDME1, 1000), Simulator(kDME2, 9999), SentAndShown()), Shows("100|999"));
+}
+
+TEST_F(RadioPanelLogicTest, TransponderAndAltimeter) {
+    const auto code = [](int bcd) { return WroteWord(kXPDR, bcd); };
+    const auto altimeter = [](int sixteenths) { return WroteWord(kAltimeter, sixteenths); };
+    Simulator(0x6516, 1);  // hPa, in the NGX; nothing in the other modes
+    EXPECT_EQ((MoveSelectorTo(XPDR), SentAndShown()), Shows("29.92|0.270"));
+    EXPECT_EQ((TurnInner(+20), SentAndShown()), code(0x1270) + Shows("29.92|1.270"));
+    EXPECT_EQ((Click(), TurnInner(+1), Click(), TurnInner(+1), SentAndShown()),
+              code(0x1370) + code(0x1300) + Shows("29.92|130.0"));
+    EXPECT_EQ((Click(), TurnInner(-1), SentAndShown()), code(0x1307) + Shows("29.92|1307."));
+    EXPECT_EQ((Click(), TurnInner(-1), Click(), SentAndShown()),
+              code(0x0307) + Shows("29.92|03.07"));
+    EXPECT_EQ((TurnOuter(+20), SentAndShown()), altimeter(0x3F58) + Shows("29.93|03.07"));
+    EXPECT_EQ((LongClick(), SentAndShown()), Shows("1014|03.07"));
+    EXPECT_EQ((TurnOuter(+1), SentAndShown()), altimeter(0x3F60) + Shows("1014|03.07"));
+    EXPECT_EQ((TurnOuter(-1), TurnOuter(-1), SentAndShown()),
+              altimeter(0x3F50) + altimeter(0x3F40) + Shows("1012|03.07"));
+    EXPECT_EQ((Fly("AltimeterUnit=0"), SentAndShown()), Shows("29.88|03.07"));
+    EXPECT_EQ((Fly("AltimeterUnit=1"), LongClick(), SentAndShown()), Shows("1012|03.07"));
+    EXPECT_EQ((Fly("AltimeterUnit=2"), LongClick(), SentAndShown()), Shows("29.88|03.07"));
+    EXPECT_EQ((Fly("AltimeterUnit=3"), LongClick(), SentAndShown()), Shows("29.88|03.07"));
+    Fly("SpecialMode=ngx"), TurnOuter(+20), TurnOuter(-1), LongClick();
+    EXPECT_EQ(SentAndShown(), SentControl(69997, 0x4000) + SentControl(69997, 0x2000) +
+                                  SentControl(69998, kLeftClick) + Shows("1012|03.07"));
+    EXPECT_EQ((Fly("SpecialMode=ngx\nAltimeterUnit=2"), LongClick(), SentAndShown()),
+              Shows("1012|03.07"));
+    EXPECT_EQ((Simulator(0x6516, 0xFF00), SentAndShown()), Shows("29.88|03.07"));
+    EXPECT_EQ((Fly("DMEMode=0"), LongClick(), SentAndShown()), Shows("1012|03.07"));
     EXPECT_FALSE(program->Session.OffsetTable.OffsetRegistered("NGX-IN-HPA"));
 }
 
 TEST_F(RadioPanelFlight, KnobStartsFromWhatTheSimulatorHas) {
     ASSERT_TRUE(Start());
-    Do("311a:2475 311e:1030 354:1200 34c:345 330:3e80");
+    Simulator(kCOM1Standby, 0x2475), Simulator(kNAV1Standby, 0x1030), Simulator(kXPDR, 0x1200);
+    Simulator(kADF1, 0x0345), Simulator(kAltimeter, 0x3E80);
+    Sent();
     Connect();
     RadioLogic().RPActions->ADFMode = 3;
-    EXPECT_EQ(Do("1 +1 5 click 7 +1 outer -1 1"), "") << "nothing is known before the first tick";
-    EXPECT_EQ(Do("3 inner +1 ? 7 -1 outer +1 ?"), "311e=1035 3 354=200 330=3e84 3");
-    EXPECT_EQ(Do("1 inner +1 lower 1 +1"), "311a=2477 311a=2480") << "no turn is lost";
+    MoveSelectorTo(COM1), TurnInner(+1), MoveSelectorTo(ADF), TurnInner(+5), Click();
+    MoveSelectorTo(XPDR), TurnInner(+1), TurnOuter(-1), MoveSelectorTo(COM1);
+    EXPECT_EQ(Sent(), kNothing) << "nothing is known before the first tick";
+    MoveSelectorTo(NAV1), TurnInner(+1);
+    EXPECT_EQ(Engine(), 3);
+    MoveSelectorTo(XPDR), TurnInner(-1), TurnOuter(+1);
+    EXPECT_EQ(Engine(), 3);
+    EXPECT_EQ(Sent(), WroteWord(kNAV1Standby, 0x1035) + WroteWord(kXPDR, 0x0200) +
+                          WroteWord(kAltimeter, 0x3E84));
+    MoveSelectorTo(COM1), TurnInner(+1), At(Lower), MoveSelectorTo(COM1), TurnInner(+1);
+    EXPECT_EQ(Sent(), WroteWord(kCOM1Standby, 0x2477) + WroteWord(kCOM1Standby, 0x2480))
+        << "no turn is lost";
     RadioLogic().SetupChanged();
-    EXPECT_EQ(Do("+1"), "") << "nor is anything known of a new mode";
-    EXPECT_EQ(Do("5 outer +1 upper 5 +1 click"), "34c=347 356=0");
+    EXPECT_EQ((TurnInner(+1), Sent()), kNothing) << "nor is anything known of a new mode";
+    MoveSelectorTo(ADF), TurnOuter(+1), At(Upper), MoveSelectorTo(ADF), TurnOuter(+1), Click();
+    EXPECT_EQ(Sent(), WroteADF1(0x347, 0x0));
 }
 
 TEST_F(RadioPanelLogicTest, RecordsGoOutInsteadOfTheBuiltInBehaviour) {
+    const std::tuple<Row, Position, std::string> places[] = {
+        {Upper, COM1, "COM1"}, {Lower, ADF, "ADF"}, {Upper, XPDR, "XPDR"}};
     for (const std::string kind : {"=VButton,64,", "=VKey,", "=None,"})
-        for (const std::string at : {"upper 1 COM1", "lower 5 ADF", "upper 7 XPDR"}) {
-            std::string keys, sent = kind == "=VKey," ? "1, 2 3 4 4 5 6 7" : ",";
-            if (kind[2] == 'B') sent = "+1, -1 +2 -2 +3 -3 +4 -4 +4 -4 +5 -5 +6 -6 +7 -7";
+        for (const auto& [theRow, position, name] : places) {
+            const auto action = [&](int n) -> std::string {
+                if (kind == "=VKey,") return Typed(n);
+                return kind == "=None," ? kNothing : Pressed(n) + Released(n);
+            };
+            std::string keys;
             int number = 0;
             for (const std::string control : {"SelectorAction", "ButtonAction", "LongButtonAction",
                                               "InnRotUp", "InnRotDown", "OutRotUp", "OutRotDown"})
-                keys += control + at.substr(8) + kind + std::to_string(++number) + ",0,0&";
+                keys += control + name + kind + std::to_string(++number) + ",0,0\n";
             Fly(keys);
-            std::string seen = Do(at) + ',';
+            At(theRow), MoveSelectorTo(position);
+            std::string seen = Sent();
             machine.loop.Advance(50);
-            const std::string rest = Do("click up long up inner +2 -1 outer +1 -1");
-            EXPECT_EQ(seen.append(rest.empty() ? "" : " ").append(rest), sent) << keys;
+            Click(), Release(), LongClick(), Release();
+            TurnInner(+2), TurnInner(-1), TurnOuter(+1), TurnOuter(-1);
+            EXPECT_EQ(seen + Sent(), action(1) + action(2) + action(3) + action(4) + action(4) +
+                                         action(5) + action(6) + action(7))
+                << keys;
         }
 }
 
 TEST_F(RadioPanelLogicTest, BoundVirtualButtonIsDownAsLongAsThePanelsOwn) {
-    Fly("ButtonActionCOM1=VButton,64,1&LongButtonActionCOM1=VButton,64,2&"
-        "ButtonActionDME=VButton,64,3&LongButtonActionDME=VKey,65,0,0");
-    EXPECT_EQ(Do("upper 1 click , , up , up , long , , up"), "+1 , , -1 , , +2 , , -2");
-    EXPECT_EQ(Do("up , long up , long click ,"), ", +2 -2 , +2 -2 +1 ,") << "each comes up";
-    EXPECT_EQ(Do("lower 6 click , upper up click , lower up , upper up"), "+3 , -1 +1 , -3 , -1");
-    Do("1 long");
-    LoseSimulator();
-    Connect();
-    EXPECT_EQ(Sent(), "-2") << "in the next session";
+    const std::string tick = Waited(10);
+    const auto nextTick = [this] { WaitMs(10); };
+    Fly("ButtonActionCOM1=VButton,64,1\nLongButtonActionCOM1=VButton,64,2\n"
+        "ButtonActionDME=VButton,64,3\nLongButtonActionDME=VKey,65,0,0");
+    MoveSelectorTo(COM1), Click(), nextTick(), nextTick(), Release(), nextTick(), Release();
+    nextTick(), LongClick(), nextTick(), nextTick(), Release();
+    EXPECT_EQ(Sent(), Pressed(1) + tick + tick + Released(1) + tick + tick + Pressed(2) + tick +
+                          tick + Released(2));
+    Release(), nextTick(), LongClick(), Release(), nextTick(), LongClick(), nextTick(), Click();
+    nextTick();
+    EXPECT_EQ(Sent(), tick + Pressed(2) + Released(2) + tick + Pressed(2) + tick + Released(2) +
+                          Pressed(1) + tick)
+        << "each comes up";
+    At(Lower), MoveSelectorTo(DME), Click(), nextTick(), At(Upper), Release(), Click(), nextTick();
+    At(Lower), Release(), nextTick(), At(Upper), Release();
+    EXPECT_EQ(Sent(), Pressed(3) + tick + Released(1) + Pressed(1) + tick + Released(3) + tick +
+                          Released(1));
+    MoveSelectorTo(COM1), LongClick(), Sent();
+    EXPECT_EQ((Reconnect(), Sent()), Released(2)) << "in the next session";
     RadioLogic().ButtonClick(0x2000);  // not one of the panel's
-    EXPECT_EQ(Do("1 click 6 up click long up"), "+1 -1 +3 -3 65") << "the selector has moved";
-    EXPECT_EQ(Do("click ADFMode=0 up , 1 click up"), "-3 , 3123=8") << "the bindings are new";
+    MoveSelectorTo(COM1), Click(), MoveSelectorTo(DME), Release(), Click(), LongClick(), Release();
+    EXPECT_EQ(Sent(), Pressed(1) + Released(1) + Pressed(3) + Released(3) + Typed(65))
+        << "the selector has moved";
+    Click(), Fly("ADFMode=0"), Release(), nextTick(), MoveSelectorTo(COM1), Click(), Release();
+    EXPECT_EQ(Sent(), Released(3) + tick + WroteByte(kSwap, 8)) << "the bindings are new";
 }
 
 TEST_F(RadioPanelLogicTest, SelectorHoldsItsVirtualButtonForAWhileAndGoesOnMeanwhile) {
-    Fly("SelectorActionDME=VButton,64,1&SelectorActionADF=VButton,64,2");
-    Check("upper 6 , , , , => +1 , , , , -1 05.6|123; 5 6 5 => +2 05.6|0345.3");
+    Fly("SelectorActionDME=VButton,64,1\nSelectorActionADF=VButton,64,2");
+    MoveSelectorTo(DME), WaitMs(40);
+    EXPECT_EQ(SentAndShown(), Pressed(1) + Waited(40) + Released(1) + Shows("05.6|123"));
+    MoveSelectorTo(ADF), MoveSelectorTo(DME), MoveSelectorTo(ADF);
+    EXPECT_EQ(SentAndShown(), Pressed(2) + Shows("05.6|0345.3"));
     machine.loop.Advance(200);
-    EXPECT_EQ(Sent(), "-2 +1 -1 +2 -2") << "one after the other";
-    EXPECT_EQ(Do("6 5 6"), "+1");
+    EXPECT_EQ(Sent(), Released(2) + Pressed(1) + Released(1) + Pressed(2) + Released(2))
+        << "one after the other";
+    EXPECT_EQ((MoveSelectorTo(DME), MoveSelectorTo(ADF), MoveSelectorTo(DME), Sent()), Pressed(1));
     LoseSimulator();
     machine.loop.Advance(100);
     Connect();
     machine.loop.Advance(200);
-    EXPECT_EQ(Sent(), "-1") << "those that waited are not for the next session";
+    EXPECT_EQ(Sent(), Released(1)) << "those that waited are not for the next session";
 }
 
 // Twenty pulses in 200 ms are fast only to a sampler whose period is long enough to see them all.
 TEST_F(RadioPanelLogicTest, DeviceDrivesItsLogicAndTakesAccelerationsByRow) {
     const auto speeds = [this](uint8_t high, uint8_t middle) {
         machine.loop.Advance(2000);
-        for (int i = 0; i < 40; ++i, machine.loop.Advance(5))
-            device.SendReport({0, high, middle, i % 2 ? uint8_t{0} : uint8_t{0x11}});
+        for (int i = 0; i < 40; ++i, machine.loop.Advance(5))  // inner rings of both rows
+            device.SendReport({0x00, high, middle, i % 2 ? uint8_t{0} : uint8_t{0x11}});
         RadioPanelPicture& shown = Radio().OnScreen;
         return shown.At(1).labSpeed.Caption.Get() + "|" + shown.At(2).labSpeed.Caption.Get();
     };
     Fly("RotAccelerationNAV1=50");
-    for (const uint8_t byte : {uint8_t{0x42}, uint8_t{2}}) device.SendReport({0, 2, byte, 0});
-    EXPECT_EQ(Sent(), "3123=4") << "COM2, NAV1";
+    device.SendReport({0x00, 0x02, 0x42, 0x00});  // COM2, NAV1, and the upper row's button
+    device.SendReport({0x00, 0x02, 0x02, 0x00});  // released
+    EXPECT_EQ(Sent(), WroteByte(kSwap, 4));
     EXPECT_EQ(speeds(0x04, 0x01), "20|1") << "NAV1, COM2";
-    EXPECT_EQ(speeds(0x02, 0x02), "1|20");
+    EXPECT_EQ(speeds(0x02, 0x02), "1|20") << "COM2, NAV1";
     Fly();
     EXPECT_EQ(speeds(0x02, 0x02), "1|1");
 }

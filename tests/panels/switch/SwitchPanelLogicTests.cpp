@@ -56,7 +56,7 @@ struct SwitchPanelLogicTest : PanelFlight {
         for (const auto& report : std::exchange(device.featureReports, {}))
             told += Lights(report[1]);
     }
-    // 16383 is down.
+    // 16383 is down, 0 up.
     void Gear(int nose, int left, int right) {
         Simulator<int32_t>(kNoseGear, nose);
         Simulator<int32_t>(kLeftGear, left);
@@ -89,26 +89,25 @@ TEST_F(SwitchPanelLogicTest, FirstReportBringsTheSimulatorIntoLine) {
 }
 
 TEST_F(SwitchPanelLogicTest, OptionsHoldTheirSwitchesToTheSelectedEngine) {
+    using Sents = std::array<std::string, 4>;  // with the first engine selected to the fourth
+    const auto one = [](const PerEngine& at, auto wrote, auto value) -> Sents {
+        return {wrote(at[0], value), wrote(at[1], value), wrote(at[2], value), wrote(at[3], value)};
+    };
+    const auto pumps = [](const PerEngine& bits) -> Sents {
+        return {WroteByte(kFuelPumps, bits[0]), WroteByte(kFuelPumps, bits[1]),
+                WroteByte(kFuelPumps, bits[2]), WroteByte(kFuelPumps, bits[3])};
+    };
     const struct {
         std::string option;
         std::function<void()> act;
-        std::function<std::string(size_t)> sent;  // for engine 0 to 3
+        Sents sent;
     } cases[] = {
-        {"StarterSelector", [&] { MoveSelectorTo(kSelectorBoth); },
-         [](size_t i) { return WroteWord(kMagnetos[i], 3); }},
-        {"AltSwitch", [&] { Throw(kAlt, On); },
-         [](size_t i) { return WroteDword(kAlternators[i], 1); }},
-        {"FuelPump", [&] { Throw(kFuelPump, On); },
-         [](size_t i) {
-             return WroteByte(kFuelPumps, std::array{0xA5, 0xA7, 0xA5, 0xAD}[i]);
-         }},
-        {"FuelPump", [&] { Throw(kFuelPump, Off); },
-         [](size_t i) {
-             return WroteByte(kFuelPumps, std::array{0xA4, 0xA5, 0xA1, 0xA5}[i]);
-         }},
-        {"DeIce", [&] { Throw(kDeIce, Off); }, [](size_t i) { return WroteWord(kDeIcers[i], 0); }},
-        {"CowlFlaps", [&] { Throw(kCowl, Off); },
-         [](size_t i) { return WroteDouble(kCowlFlaps[i], 1.0); }},
+        {"StarterSelector", [&] { MoveSelectorTo(kSelectorBoth); }, one(kMagnetos, WroteWord, 3)},
+        {"AltSwitch", [&] { Throw(kAlt, On); }, one(kAlternators, WroteDword, 1)},
+        {"FuelPump", [&] { Throw(kFuelPump, On); }, pumps({0xA5, 0xA7, 0xA5, 0xAD})},
+        {"FuelPump", [&] { Throw(kFuelPump, Off); }, pumps({0xA4, 0xA5, 0xA1, 0xA5})},
+        {"DeIce", [&] { Throw(kDeIce, Off); }, one(kDeIcers, WroteWord, 0)},
+        {"CowlFlaps", [&] { Throw(kCowl, Off); }, one(kCowlFlaps, WroteDouble, 1.0)},
     };
     for (const auto& test : cases)
         for (uint8_t engine = 1; engine <= 4; ++engine) {
@@ -116,7 +115,7 @@ TEST_F(SwitchPanelLogicTest, OptionsHoldTheirSwitchesToTheSelectedEngine) {
             Fly("Single" + test.option + "=1");
             program->Session.EngineSelected = engine;
             test.act();
-            EXPECT_EQ(Sent(), test.sent(engine - 1U)) << test.option << int{engine};
+            EXPECT_EQ(Sent(), test.sent[engine - 1U]) << test.option << int{engine};
         }
 }
 
@@ -152,14 +151,14 @@ TEST_F(SwitchPanelLogicTest, AddOnsLightsAreClickedFromWhereTheyStand) {
         int32_t number;
         uint32_t offset;
         int32_t control;
-        std::array<Thrown, 4> clicks;  // by the position of the add-on's switch
+        Thrown clicks[4];  // by the position that the add-on's switch has
     } cases[] = {
-        {kPanel, 0x642F, 69890, {{{{L, L}, {L}}, {{L}, {}}, {{}, {R}}, {{}, {}}}}},
-        {kBeacon, 0x6501, 69756, {{{{L}, {}}, {{}, {L}}, {{}, {}}, {{}, {}}}}},
-        {kNav, 0x6500, 69755, {{{{}, {R}}, {{L}, {}}, {{}, {}}, {{}, {}}}}},
-        {kStrobe, 0x6500, 69755, {{{{R, R}, {}}, {{R}, {}}, {{}, {L}}, {{}, {}}}}},
-        {kTaxi, 0x64FA, 69749, {{{{L}, {}}, {{}, {L}}, {{}, {}}, {{}, {}}}}},
-        {kLanding, 0, 69742, {{{{L}, {R}}, {{L}, {R}}, {{L}, {R}}, {{L}, {R}}}}},
+        {kPanel, 0x642F, 69890, {{{L, L}, {L}}, {{L}, {}}, {{}, {R}}, {{}, {}}}},
+        {kBeacon, 0x6501, 69756, {{{L}, {}}, {{}, {L}}, {{}, {}}, {{}, {}}}},
+        {kNav, 0x6500, 69755, {{{}, {R}}, {{L}, {}}, {{}, {}}, {{}, {}}}},
+        {kStrobe, 0x6500, 69755, {{{R, R}, {}}, {{R}, {}}, {{}, {L}}, {{}, {}}}},
+        {kTaxi, 0x64FA, 69749, {{{L}, {}}, {{}, {L}}, {{}, {}}, {{}, {}}}},
+        {kLanding, 0, 69742, {{{L}, {R}}, {{L}, {R}}, {{L}, {R}}, {{L}, {R}}}},
     };
     for (const auto& test : cases)
         for (const size_t at : {0, 1, 2, 3})
