@@ -45,7 +45,7 @@ class PanelLink {
     uint32_t ReportClock = 0;
 };
 
-// Where the two come from.
+// Makes the enumerators and the links of this machine.
 class Deckhub {
   public:
     virtual ~Deckhub() = default;

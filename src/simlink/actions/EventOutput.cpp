@@ -4,7 +4,6 @@
 #include <utility>
 
 #include "base/Bytes.h"
-#include "simlink/actions/HeldButton.h"
 
 namespace {
 
@@ -78,7 +77,7 @@ void EventOutput::SessionLost() {
 
 void EventOutput::ReleaseAll() {
     SessionLost();
-    for (HeldButton* holder : holders_) holder->LetGo();
+    Ending.Raise();
     while (session_.Acts.DoFirst()) {
     }
     int32_t result = 0;

@@ -4,15 +4,12 @@
 #include <deque>
 #include <list>
 #include <optional>
-#include <vector>
 
 #include "platform/KeyboardPort.h"
 #include "platform/MessageLoop.h"
 #include "platform/Timer.h"
 #include "simlink/actions/ActionRecord.h"
 #include "simlink/channel/cSession.h"
-
-class HeldButton;
 
 // The ways in which what the user does reaches the simulator, apart from writes of offsets.
 //
@@ -62,10 +59,9 @@ class EventOutput {
     void SessionLost();
     // The program ends: releases what is down, if the simulator answers.
     void ReleaseAll();
+    Event<> Ending;  // what is held is to be let go
 
   private:
-    friend class HeldButton;
-
     // Nothing when the simulator hasn't answered.
     std::optional<uint32_t> ReadButtons(uint8_t joystick);
     // False when it can't be made now.
@@ -91,7 +87,6 @@ class EventOutput {
     modFSUIPC& fsuipc_;
     KeyboardPort& keyboard_;
     MessageLoop& loop_;
-    std::vector<HeldButton*> holders_;  // of all panels
     std::deque<ActionRecord> presses_;  // the first one is down, the others wait
     Timer timerRelease_;                // runs only while there are presses
     std::list<Repetition> repetitions_;

@@ -2,6 +2,7 @@
 
 #include <optional>
 
+#include "base/Event.h"
 #include "simlink/actions/ActionRecord.h"
 #include "simlink/actions/EventOutput.h"
 
@@ -11,10 +12,10 @@
 class HeldButton {
   public:
     // `output` must outlive it.
-    explicit HeldButton(EventOutput& output) : output_(output) { output.holders_.push_back(this); }
+    explicit HeldButton(EventOutput& output)
+        : output_(output), ending_(output.Ending.Connect([this] { LetGo(); })) {}
     HeldButton(const HeldButton&) = delete;
     HeldButton& operator=(const HeldButton&) = delete;
-    ~HeldButton() { std::erase(output_.holders_, this); }
 
     // The control has reached a place with this record: presses its button, if it is a VButton
     // record, and lets go of the one that it held. `left` is the record of the place before by the
@@ -29,4 +30,5 @@ class HeldButton {
 
     EventOutput& output_;
     std::optional<ActionRecord> held_;
+    ScopedConnection ending_;
 };

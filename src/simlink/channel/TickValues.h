@@ -15,7 +15,7 @@ class TickValues {
     void Take() {
         if (session_.Fsuipc.AllRead()) link_ = session_.Link;
     }
-    // They mean something else from now on.
+    // The bindings or the mode have changed: what was read before may mean something else.
     void Forget() { link_ = 0; }
     bool AreRead() const { return link_ != 0 && link_ == session_.Link; }
 
