@@ -31,6 +31,13 @@ float TuneFrequency(float Value, float Step, int32_t Steps) {
     return static_cast<float>(SnapToChannel(Value) + static_cast<double>(Step) * Steps);
 }
 
+float WithinBand(float Frequency, const RadioBand& Band) {
+    const float width = Band.high - Band.low;
+    if (Frequency < Band.low) Frequency += width;
+    if (Frequency >= Band.high) Frequency -= width;
+    return Frequency;
+}
+
 int32_t FrequencyDigits(float Frequency) {
     const int64_t hundredths = RoundHalfAway(Frequency, 10000) / 100;
     return static_cast<int32_t>(std::max<int64_t>(hundredths, 0) % 10000);

@@ -2,6 +2,8 @@
 
 #include <cstdint>
 
+#include "panels/radio/RadioChannels.h"
+
 // How radios hold their frequencies, and how these are tuned. COM and NAV frequencies are in MHz,
 // ADF ones in kHz; all are below 1,000,000 either way.
 
@@ -13,6 +15,9 @@ float SnapToChannel(float Frequency);
 
 // The frequency after so many steps, down for negative ones, from the raster's value.
 float TuneFrequency(float Value, float Step, int32_t Steps);
+
+// Goes over the end of the band to the other one, once: a fast turn may go further.
+float WithinBand(float Frequency, const RadioBand& Band);
 
 // The four digits that hold a frequency, as a number: 118.025 gives 1802.
 int32_t FrequencyDigits(float Frequency);

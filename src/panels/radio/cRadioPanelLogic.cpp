@@ -1,37 +1,8 @@
 // What the panel reads and shows.
 #include "panels/radio/cRadioPanelLogic.h"
 
-#include "base/Number.h"
 #include "panels/radio/RadioFrequency.h"
-
-namespace {
-
-constexpr double kInHgPerHPa = 0.02953;
-constexpr int32_t kTenthsPerMinute = 600;  // of a second
-
-// Distances are in tenths of a mile. From 100 miles on they are shown without them.
-constexpr int32_t kLongestDistance = 9999;
-constexpr int32_t kDistanceWithoutTenths = 1000;
-constexpr char kOutOfRange[] = " . . .";
-
-bool IsInRange(int32_t distance) { return distance >= 1 && distance <= kLongestDistance; }
-
-void AppendDmeDistance(std::string& text, int32_t distance) {
-    if (!IsInRange(distance)) {
-        text += kOutOfRange;
-    } else if (distance >= kDistanceWithoutTenths) {
-        AppendInteger(text, distance / 10, 3);
-    } else {
-        AppendFixed(text, distance / 10.0, 1, 2);
-    }
-}
-
-void SetFixed(std::string& text, double value, int decimals, int digits = 1) {
-    text.clear();
-    AppendFixed(text, value, decimals, digits);
-}
-
-}  // namespace
+#include "panels/radio/RadioTexts.h"
 
 cRadioPanelLogic::cRadioPanelLogic(const LogicServices& services, ctlRadioPanel& control,
                                    int16_t index)
@@ -42,6 +13,9 @@ cRadioPanelLogic::cRadioPanelLogic(const LogicServices& services, ctlRadioPanel&
       control_(control),
       offsets_(session_.OffsetTable, kRadioOffsets),
       power_(session_.OffsetTable),
+      adf_(session_, offsets_),
+      dme_(offsets_),
+      transponder_(session_, output_, offsets_),
       rows_{Row(1, output_), Row(2, output_)},
       values_(session_) {}
 
@@ -57,7 +31,7 @@ void cRadioPanelLogic::SetupChanged() {
     offsets_.RegisterMode(session_.SpecialMode);
     power_.Register();
     values_.Forget();
-    altimeterInHg_ = RPActions->AltimeterUnit != 1;
+    transponder_.SetInHg(RPActions->AltimeterUnit != 1);
     for (Row& row : rows_) {
         if (row.selectorPos != RadioPosition::kNone) ApplyAcceleration(row);
         row.dmeChoice = RPActions->DMEMode == 0 ? uint8_t{1} : RPActions->DMEMode;
@@ -85,22 +59,9 @@ void cRadioPanelLogic::ReadRadios() {
         const float read = offsets_[from].GetFreq();
         frequency_[channel] = kRadioChannels[channel].thousandths ? RestoreChannel(read) : read;
     }
-    for (size_t adf = 0; adf < session_.AdfActive.size(); ++adf) {
-        session_.AdfActive[adf] =
-            AdfFromBCD(offsets_[AdfMainOf(adf)].GetBCD(), offsets_[AdfExtensionOf(adf)].GetBCD());
-    }
-    qnh_ = static_cast<float>(Value(kQnh)) / kQnhPerHPa;
-    if (session_.SpecialMode == kNGXMode) altimeterInHg_ = Value(kNGXUnit) == 0;
-    transponder_.clear();
-    AppendInteger(transponder_, offsets_[kTransponder].GetBCD(), 4);
+    adf_.Read();
+    transponder_.Read();
     values_.Take();
-}
-
-// What is prepared starts out as what is there, once a row stands at ADF.
-void cRadioPanelLogic::PrepareAdfStandby() {
-    for (size_t adf = 0; adf < session_.AdfStandby.size(); ++adf) {
-        if (session_.AdfStandby[adf] == 0) session_.AdfStandby[adf] = session_.AdfActive[adf];
-    }
 }
 
 void cRadioPanelLogic::ShowRow(Row& row) {
@@ -112,13 +73,13 @@ void cRadioPanelLogic::ShowRow(Row& row) {
             ShowChannel(row, static_cast<size_t>(row.selectorPos - RadioPosition::kCOM1));
             break;
         case RadioPosition::kADF:
-            ShowAdf(row);
+            adf_.Show(RPActions->ADFMode, row.side, row.active, row.standby);
             break;
         case RadioPosition::kDME:
-            ShowDme(row);
+            dme_.Show(row.dmeChoice, row.active, row.standby);
             break;
         case RadioPosition::kXPDR:
-            ShowTransponder(row);
+            transponder_.Show(row.active, row.standby);
             break;
         default:
             break;
@@ -134,72 +95,4 @@ void cRadioPanelLogic::ShowChannel(Row& row, size_t channel) {
         SetFixed(row.active, active, 2);
         SetFixed(row.standby, offsets_[StandbyOf(channel)].GetFreq(), 2);
     }
-}
-
-void cRadioPanelLogic::ShowAdf(Row& row) {
-    PrepareAdfStandby();
-    const auto set = [](std::string& text, float frequency) { SetFixed(text, frequency, 1, 4); };
-    const auto& active = session_.AdfActive;
-    const uint8_t mode = RPActions->ADFMode;
-    switch (mode) {
-        case 0:
-        case 1:
-            row.active.clear();
-            AppendDmeDistance(row.active, offsets_[kDmeDistance + mode].IntegerData());
-            set(row.standby, active[mode]);
-            break;
-        case 2:
-            set(row.active, active[1]);
-            set(row.standby, active[0]);
-            (adfTuned_ == 2 ? row.active : row.standby) += '.';
-            break;
-        case 3:
-        case 4:
-        case 5:
-            set(row.active, active[AdfOf(row)]);
-            set(row.standby, session_.AdfStandby[AdfOf(row)]);
-            break;
-        default:
-            set(row.standby, active[0]);
-            break;
-    }
-}
-
-void cRadioPanelLogic::ShowDme(Row& row) {
-    if (row.dmeChoice == 1) {
-        row.active.clear();
-        AppendDmeDistance(row.active, offsets_[kDmeDistance].IntegerData());
-        row.standby.clear();
-        AppendDmeDistance(row.standby, offsets_[kDmeDistance + 1].IntegerData());
-    } else if (row.dmeChoice <= 3) {
-        ShowDmeStation(row, row.dmeChoice - 2U);
-    }
-}
-
-// One station's distance, and its speed or time.
-void cRadioPanelLogic::ShowDmeStation(Row& row, size_t station) {
-    const int32_t distance = offsets_[kDmeDistance + station].IntegerData();
-    row.active = station == 0 ? "1 " : "2 ";
-    AppendDmeDistance(row.active, distance);
-    if (!IsInRange(distance)) {
-        row.standby = kOutOfRange;
-    } else if (showDmeTime_) {
-        row.standby.clear();
-        AppendInteger(row.standby, offsets_[kDmeTime + station].IntegerData() / kTenthsPerMinute,
-                      2);
-        row.standby += '.';
-    } else {
-        SetFixed(row.standby, Value(kDmeSpeed + station) / 10, 0, 3);
-    }
-}
-
-// The altimeter setting, and the code with a point behind the digit that the knob changes.
-void cRadioPanelLogic::ShowTransponder(Row& row) {
-    if (altimeterInHg_) {
-        SetFixed(row.active, qnh_ * kInHgPerHPa, 2, 2);
-    } else {
-        SetFixed(row.active, qnh_, 0, 4);
-    }
-    row.standby = transponder_;
-    row.standby.insert(transponderDigit_, 1, '.');
 }

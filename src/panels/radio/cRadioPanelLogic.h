@@ -6,9 +6,12 @@
 #include <string>
 
 #include "config/ProfileStore.h"
+#include "panels/radio/RadioAdf.h"
 #include "panels/radio/RadioChannels.h"
+#include "panels/radio/RadioDme.h"
 #include "panels/radio/RadioPanelOffsets.h"
 #include "panels/radio/RadioPosition.h"
+#include "panels/radio/RadioTransponder.h"
 #include "panels/radio/cRadioPanelActionsHolder.h"
 #include "panels/radio/ctlRadioPanel.h"
 #include "simlink/actions/HeldButton.h"
@@ -52,8 +55,6 @@ class cRadioPanelLogic final : public cPanelLogic {
         HeldButton held;  // from a click until the panel's button comes up
     };
 
-    double Value(size_t value) const { return offsets_[value].Data(); }
-    bool AdfIsTunedAtOnce() const { return RPActions->ADFMode <= 2; }
     // The Maddog's NAV radios have no standby frequency.
     bool ActiveOnly(size_t channel) const {
         return session_.SpecialMode == kMaddogMode && kRadioChannels[channel].maddogControl != 0;
@@ -61,29 +62,16 @@ class cRadioPanelLogic final : public cPanelLogic {
 
     void ApplyAcceleration(const Row& row);
     void ReadRadios();
-    void PrepareAdfStandby();
     void ShowRow(Row& row);
     void ShowChannel(Row& row, size_t channel);
-    void ShowAdf(Row& row);
-    void ShowDme(Row& row);
-    void ShowDmeStation(Row& row, size_t station);
-    void ShowTransponder(Row& row);
 
     Row* RowOf(int32_t button);
     void Press(Row& row, const ActionRecord& record, void (cRadioPanelLogic::*standard)(Row&));
     void ClickStandard(Row& row);
     void LongClickStandard(Row& row);
     void Swap(size_t channel);
-    void ClickAdf(const Row& row);
-    void ToggleAltimeterUnit();
     void TurnStandard(const Row& row, bool outer, bool up, uint8_t speed);
     void TuneChannel(size_t channel, bool outer, int32_t steps);
-    void TuneAdf(const Row& row, bool outer, int32_t steps);
-    size_t AdfOf(const Row& row) const;
-    void WriteAdf(size_t adf);
-    void TurnTransponderDigit(bool up);
-    void TurnAltimeter(bool up);
-    void WriteBCD(int32_t offset, int32_t digits);
 
     cSession& session_;
     EventOutput& output_;
@@ -91,15 +79,12 @@ class cRadioPanelLogic final : public cPanelLogic {
     ctlRadioPanel& control_;
     OffsetRows offsets_;
     MasterPower power_;
+    RadioAdf adf_;
+    RadioDme dme_;
+    RadioTransponder transponder_;
 
     std::array<Row, 2> rows_;
     // As the last tick has read them, and the knobs have changed them since.
     TickValues values_;
     std::array<float, kRadioChannels.size()> frequency_{};  // MHz, what the knob changes
-    float qnh_ = 0;                                         // hPa
-    std::string transponder_;                               // the code's four digits
-    uint8_t transponderDigit_ = 1;                          // 1 to 4, the one that the knob changes
-    bool altimeterInHg_ = false;
-    uint8_t adfTuned_ = 1;  // 1 or 2, the one that the knob changes where both are shown
-    bool showDmeTime_ = false;
 };

@@ -30,6 +30,14 @@ struct cSession {
         target.DirectWrite(Immediate);
     }
 
+    // The same at once with four BCD digits, 0 to 9999.
+    void WriteBcd(int32_t offset, int32_t digits) {
+        constexpr int32_t kWord = 3;
+        cOFFSET target(Fsuipc, offset, kWord);
+        target.SetBcd(digits);
+        target.DirectWrite(true);
+    }
+
     modFSUIPC Fsuipc;
     cOffsetTable OffsetTable;
     PendingActs Acts;
