@@ -9,14 +9,6 @@
 
 namespace {
 
-// A lower speed is a Mach number.
-constexpr double kLowestKnots = 10;
-
-void SetNumber(std::string& text, int64_t value, int digits) {
-    text.clear();
-    AppendInteger(text, value, digits);
-}
-
 uint8_t AsAcceleration(int16_t value) {
     return static_cast<uint8_t>(std::clamp<int16_t>(value, 0, 255));
 }
@@ -34,9 +26,10 @@ cMultiPanelLogic::cMultiPanelLogic(const LogicServices& services, ctlMultiPanel&
       power_(session_.OffsetTable),
       maddog_(output_, control),
       ngx_(output_, services.clock),
+      standard_(session_),
       selector_(output_),
       autoThrottle_(output_),
-      values_(session_) {
+      values_(session_, offsets_) {
     for (size_t light = 0; light < kMultiPanelLights; ++light) {
         lightNames_[light] = kMultiOffsets[light].name + (' ' + FormatInteger(Index));
         lights_.emplace_back(session_.OffsetTable, lightNames_[light].c_str());
@@ -86,12 +79,12 @@ void cMultiPanelLogic::RegisterNGXLights() {
 
 void cMultiPanelLogic::RefreshData() {
     if (session_.SpecialMode == kMaddogMode) {
-        values_.Take();
-        maddog_.Refresh(Value(MultiValue::kMaster) == 1);
+        values_.Refresh();
+        maddog_.Refresh(offsets_[MultiValue::kMaster].Data() == 1);
         return;
     }
-    RefreshValues();
-    RefreshTexts();
+    values_.Refresh();
+    values_.Show(selectorPosition_, SecondCourse(), upperText_, lowerText_);
     if (!power_.IsOn()) {
         control_.TurnOffDisplay();
         return;
@@ -114,66 +107,4 @@ uint8_t cMultiPanelLogic::Lights() const {
 bool cMultiPanelLogic::SecondCourse() const {
     if (MPActions->CourseSel != 0) return MPActions->CourseSel == 2;
     return session_.EngineSelected == 2 || session_.EngineSelected == 4;
-}
-
-void cMultiPanelLogic::RefreshValues() {
-    const bool ngx = session_.SpecialMode == kNGXMode;
-    const double degrees = ngx ? 1 : 360.0 / 65536;
-    speedValue_ = Value(MultiValue::kSpeed);
-    verticalSpeed_ = RoundTo<int16_t>(Value(MultiValue::kVerticalSpeed));
-    courseValue_ =
-        RoundTo<int16_t>(Value(SecondCourse() ? MultiValue::kCourse2 : MultiValue::kCourse1));
-    headingBug_ = RoundTo<int16_t>(Value(MultiValue::kHeading) * degrees);
-    altitudeValue_ = RoundTo<int32_t>(ngx ? Value(MultiValue::kAltitude)
-                                          : Value(MultiValue::kAltitude) * kFeetPerMetre / 65536);
-    values_.Take();
-}
-
-void cMultiPanelLogic::RefreshTexts() {
-    switch (selectorPosition_) {
-        case MultiPosition::kALT:
-        case MultiPosition::kVS:
-        case MultiPosition::kIAS:
-            session_.SpecialMode == kNGXMode ? ShowNGX() : ShowStandard();
-            break;
-        case MultiPosition::kHDG:
-            SetNumber(upperText_, headingBug_, 3);
-            lowerText_.clear();
-            break;
-        case MultiPosition::kCRS:
-            SetNumber(upperText_, courseValue_, 3);
-            lowerText_.clear();
-            break;
-        default:
-            break;
-    }
-}
-
-// Positions ALT, VS and IAS.
-void cMultiPanelLogic::ShowStandard() {
-    if (selectorPosition_ == MultiPosition::kIAS) {
-        SetNumber(upperText_, RoundHalfEven(speedValue_), 1);
-        lowerText_.clear();
-        return;
-    }
-    SetNumber(upperText_, altitudeValue_, 5);
-    SetNumber(lowerText_, verticalSpeed_, 1);
-}
-
-// The same positions of the add-on, whose windows can be blank.
-void cMultiPanelLogic::ShowNGX() {
-    if (selectorPosition_ == MultiPosition::kIAS) {
-        upperText_.clear();
-        lowerText_.clear();
-        if (Value(MultiValue::kSpeedBlank) != 0) return;
-        if (speedValue_ < kLowestKnots) {
-            AppendFixed(upperText_, speedValue_, 3);
-        } else {
-            AppendInteger(upperText_, RoundHalfEven(speedValue_));
-        }
-        return;
-    }
-    SetNumber(upperText_, altitudeValue_, 1);
-    lowerText_.clear();
-    if (Value(MultiValue::kVerticalSpeedBlank) == 0) AppendInteger(lowerText_, verticalSpeed_, 4);
 }

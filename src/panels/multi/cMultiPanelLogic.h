@@ -9,11 +9,12 @@
 #include "panels/multi/MultiPanelMaddog.h"
 #include "panels/multi/MultiPanelNGX.h"
 #include "panels/multi/MultiPanelOffsets.h"
+#include "panels/multi/MultiPanelStandard.h"
+#include "panels/multi/MultiPanelValues.h"
 #include "panels/multi/cMultiPanelActionsHolder.h"
 #include "panels/multi/ctlMultiPanel.h"
 #include "simlink/actions/HeldButton.h"
 #include "simlink/channel/MasterPower.h"
-#include "simlink/channel/TickValues.h"
 #include "simlink/devices/cPanelLogic.h"
 
 // Behaviour of one Multi Panel: shows the autopilot's values and lights on the panel's control, and
@@ -47,21 +48,12 @@ class cMultiPanelLogic final : public cPanelLogic {
     void ApplyTrimAcceleration();
     void RegisterOffsets();
     void RegisterNGXLights();
-    double Value(size_t value) const { return offsets_[value].Data(); }
     uint8_t Lights() const;
     bool SecondCourse() const;
-    void RefreshValues();
-    void RefreshTexts();
-    void ShowStandard();
-    void ShowNGX();
 
     template <class NGX, class Standard>
     void Do(const ActionRecord& record, int times, NGX ngx, Standard standard);
     void PressButton(int32_t button, const ActionRecord& record, uint8_t ngxRow);
-    bool ToggleHold(int32_t button);
-    void TurnStandard(int step);
-    bool TrimStandard(double step);
-    bool MoveFlapsStandard(bool up);
     bool SetThrottleNGX(bool armed);
 
     cSession& session_;
@@ -75,6 +67,7 @@ class cMultiPanelLogic final : public cPanelLogic {
     MasterPower power_;
     MultiPanelMaddog maddog_;
     MultiPanelNGX ngx_;
+    MultiPanelStandard standard_;
     HeldButton selector_;
     HeldButton autoThrottle_;
 
@@ -82,11 +75,5 @@ class cMultiPanelLogic final : public cPanelLogic {
     bool forceWrite_ = false;       // the next WriteDisplay goes out in any case
     std::string upperText_;
     std::string lowerText_;
-    // As the simulator gave them at the last tick, and the knob has changed them since.
-    TickValues values_;
-    int16_t headingBug_ = 0;
-    double speedValue_ = 0;
-    int32_t altitudeValue_ = 0;
-    int16_t verticalSpeed_ = 0;
-    int16_t courseValue_ = 0;
+    MultiPanelValues values_;
 };
