@@ -103,12 +103,4 @@ struct VirtualCockpit {
         const MultiPanelPicture& picture = Multi(number).OnScreen;
         return picture.labUpperValue.Caption.Get() + "|" + picture.labLowerValue.Caption.Get();
     }
-    // "active|standby" of the upper row, "|", and of the lower one.
-    std::string RadioShown(int number = 1) {
-        const auto row = [&](int side) {
-            const auto& shown = Radio(number).OnScreen.At(side);
-            return shown.labActive.Caption.Get() + "|" + shown.labStandby.Caption.Get();
-        };
-        return row(1) + "|" + row(2);
-    }
 };

@@ -25,8 +25,8 @@ struct DeviceTest : testing::Test {
     VirtualDevice& device = machine.bus.Add(
         kPanelVendorId, kPanelIdentities[static_cast<size_t>(kind)].productId, "panel");
     DeviceServices services{machine.clock, machine.loop, machine.hid, machine.deckhub, setup};
+    std::string told;  // outlives the panel, whose end may still tell
     std::unique_ptr<Control> panel = std::make_unique<Control>(form, services);
-    std::string told;
 
     void PlugIn() { panel->Connect(device.path); }
     // From now on the event is told by this name.

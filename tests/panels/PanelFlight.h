@@ -1,6 +1,5 @@
 #pragma once
 
-#include <bit>
 #include <cstring>
 #include <gtest/gtest.h>
 #include <string>
@@ -15,12 +14,15 @@
 inline constexpr Happening SentControl{"SentControl"};  // number and parameter
 inline constexpr Happening Pressed{"Pressed"}, Released{"Released"};
 inline constexpr Happening ButtonsWrittenAsTheyWere{"ButtonsWrittenAsTheyWere"};
-inline constexpr Happening Typed{"Typed"};                                    // virtual key code
-inline constexpr Happening WroteByte{"WroteByte"}, WroteDword{"WroteDword"};  // offset and value
+inline constexpr Happening Typed{"Typed"};  // virtual key code
+
+// Writes, by the number of their bytes: offset and value.
+inline constexpr Happening WroteByte{"WroteByte"}, WroteDword{"WroteDword"};
 inline constexpr Happening WroteDouble{"WroteDouble"};
 inline std::string WroteWord(uint32_t offset, int value) {
     return Happening{"WroteWord"}(offset, static_cast<uint16_t>(value));
 }
+
 inline constexpr Happening Waited{"Waited"};  // milliseconds
 inline constexpr Happening Shows{"Shows"};
 
@@ -93,10 +95,11 @@ struct PanelFlight : testing::Test, VirtualCockpit {
         }
     }
     void TellButtons(uint32_t before, uint32_t after) {
-        const int number = std::bit_width(before ^ after);
-        told += number == 0      ? ButtonsWrittenAsTheyWere()
-                : after > before ? Pressed(number)
-                                 : Released(number);
+        if (before == after) told += ButtonsWrittenAsTheyWere();
+        for (int number = 1; number <= 32; ++number) {
+            const uint32_t bit = 1U << (number - 1);
+            if ((before ^ after) & bit) told += (after & bit ? Pressed : Released)(number);
+        }
     }
 
     ScopedConnection writing_ = sim.Writing.Connect(
