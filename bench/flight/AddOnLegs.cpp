@@ -5,6 +5,8 @@
 #include "bench/flight/RadioLeg.h"
 #include "bench/flight/SwitchLeg.h"
 
+namespace bench {
+
 namespace {
 
 constexpr uint32_t kSavedWithinMs = 5000;
@@ -88,3 +90,5 @@ bool AddOnLegs::ComeBack() const {
     });
     return log_.Check("Orvo.ini binds the new aircraft to Default", bound, ini());
 }
+
+}  // namespace bench

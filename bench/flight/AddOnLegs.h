@@ -2,6 +2,8 @@
 
 #include "bench/flight/FlightChecks.h"
 
+namespace bench {
+
 // The profile follows the aircraft, to the two add-ons and back.
 class AddOnLegs : private FlightChecks {
   public:
@@ -18,3 +20,5 @@ class AddOnLegs : private FlightChecks {
     bool FlyMaddog() const;
     bool ComeBack() const;
 };
+
+}  // namespace bench

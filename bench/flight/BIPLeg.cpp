@@ -1,5 +1,7 @@
 #include "bench/flight/BIPLeg.h"
 
+namespace bench {
+
 bool BIPLeg::ExpectStart() const {
     return ExpectPanel("tiles 10 red 23 green", "bip1") &&
            ExpectPanel("tiles 0 green 3 green", "bip2");
@@ -64,3 +66,5 @@ bool BIPLeg::FlyNGX() {
     cockpit_.Simulator("set 0x6469 1 1");
     return well && ExpectPanel("tiles 23 red", "bip2");
 }
+
+}  // namespace bench

@@ -7,6 +7,8 @@
 
 #include "bench/flight/FlightChecks.h"
 
+namespace bench {
+
 // Two BIP Panels, each with tiles of its own: one after the other they are lit by what the
 // simulator says. The second shows the gear, and a fire in a colour of its own.
 class BIPLeg : private FlightChecks {
@@ -47,3 +49,5 @@ class BIPLeg : private FlightChecks {
 
     Tiles tiles_;
 };
+
+}  // namespace bench

@@ -11,6 +11,8 @@
 #include "bench/flight/BIPLeg.h"
 #include "bench/flight/ScriptedFlight.h"
 
+using namespace bench;
+
 namespace {
 
 bool Stay(Cockpit& cockpit, const FlightLog& log) {

@@ -5,6 +5,8 @@
 
 #include "bench/driver/Until.h"
 
+namespace bench {
+
 namespace {
 
 constexpr size_t kPlaces = 5;
@@ -97,3 +99,5 @@ bool FlightChecks::ChangeAircraft(const std::string& title, const std::string& p
     cockpit_.Simulator("title \"" + title + '"');
     return ExpectStatus(3, "Aircraft in use: " + title) && ExpectProfile(profile);
 }
+
+}  // namespace bench

@@ -7,6 +7,8 @@
 #include "bench/driver/Cockpit.h"
 #include "bench/flight/FlightLog.h"
 
+namespace bench {
+
 // Steps of a flight, each written to the log: what is done, and what is to be seen of it within
 // some seconds. They give false when it isn't.
 class FlightChecks {
@@ -53,3 +55,5 @@ struct RadioRow {
     const char* standby = "";
 };
 std::string RadioShows(const RadioRow& upper, const RadioRow& lower);
+
+}  // namespace bench

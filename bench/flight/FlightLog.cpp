@@ -2,6 +2,8 @@
 
 #include <iostream>
 
+namespace bench {
+
 void FlightLog::Say(const std::string& text) const { std::cout << text << std::endl; }
 
 bool FlightLog::Check(const std::string& step, bool well, const std::string& found) const {
@@ -15,3 +17,5 @@ void FlightLog::Shot(const std::string& name) const {
     std::string answer;
     std::getline(std::cin, answer);
 }
+
+}  // namespace bench

@@ -2,6 +2,8 @@
 
 #include <string>
 
+namespace bench {
+
 // What a flight says on standard output, and what it asks of the script around it.
 class FlightLog {
   public:
@@ -17,3 +19,5 @@ class FlightLog {
   private:
     bool answered_;
 };
+
+}  // namespace bench

@@ -1,5 +1,7 @@
 #include "bench/flight/RadioLeg.h"
 
+namespace bench {
+
 namespace {
 
 // What is shown once it has been tuned.
@@ -130,3 +132,5 @@ bool RadioLeg::PickCourse() const {
     }
     return true;
 }
+
+}  // namespace bench

@@ -6,6 +6,8 @@
 
 #include "bench/flight/FlightChecks.h"
 
+namespace bench {
+
 // Two Radio Panels in their built-in way, beside the Multi Panel: every position is read, and one
 // of each kind is tuned. Their selectors end where they began, at COM1.
 class RadioLeg : private FlightChecks {
@@ -39,3 +41,5 @@ class RadioLeg : private FlightChecks {
     bool SetAltimeter() const;
     bool PickCourse() const;
 };
+
+}  // namespace bench

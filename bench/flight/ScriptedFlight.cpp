@@ -6,6 +6,8 @@
 #include "bench/flight/StandardLeg.h"
 #include "bench/flight/SwitchLeg.h"
 
+namespace bench {
+
 namespace {
 
 // Inside the frame of the upper display, in pixels of the panel's picture.
@@ -180,3 +182,5 @@ bool ScriptedFlight::Quit() {
                       code ? "exit code " + std::to_string(*code) : "it runs on") &&
            ExpectDark() && ExpectPanel("tiles dark", "bip1") && ExpectPanel("tiles dark", "bip2");
 }
+
+}  // namespace bench

@@ -6,6 +6,8 @@
 #include "bench/flight/AddOnLegs.h"
 #include "bench/flight/FlightChecks.h"
 
+namespace bench {
+
 // The flight that proves the road from the panels to the simulator and back, in each special mode
 // and with two panels of each kind, and what comes before and after.
 class ScriptedFlight : private FlightChecks {
@@ -40,3 +42,5 @@ class ScriptedFlight : private FlightChecks {
     uint64_t connectedIcon_ = 0;
     uint64_t display080_ = 0;  // picture of the upper display
 };
+
+}  // namespace bench

@@ -1,5 +1,7 @@
 #include "bench/flight/StandardLeg.h"
 
+namespace bench {
+
 bool StandardLeg::TurnAllPositions() const {
     log_.Say("-- all five positions are read and turned");
     const struct {
@@ -55,3 +57,5 @@ bool StandardLeg::MoveLevers() const {
     Do("throttle arm");
     return ExpectWrites({"0810"}, "0810:01000000");
 }
+
+}  // namespace bench

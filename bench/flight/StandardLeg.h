@@ -2,6 +2,8 @@
 
 #include "bench/flight/FlightChecks.h"
 
+namespace bench {
+
 // The Multi Panel in its built-in way: every position is read and turned, every other control is
 // used, and beside it a second one.
 class StandardLeg : private FlightChecks {
@@ -18,3 +20,5 @@ class StandardLeg : private FlightChecks {
     bool PressButtons() const;
     bool MoveLevers() const;
 };
+
+}  // namespace bench

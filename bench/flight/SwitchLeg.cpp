@@ -4,6 +4,8 @@
 #include <utility>
 #include <vector>
 
+namespace bench {
+
 namespace {
 
 using Engines = std::array<const char*, 4>;
@@ -147,3 +149,5 @@ bool SwitchLeg::FlyNGX() const {
     Do("gear down", "switch2");
     return ExpectControls("70087:-2147483648 70087:536870912 70087:536870912");
 }
+
+}  // namespace bench

@@ -4,6 +4,8 @@
 
 #include "bench/flight/FlightChecks.h"
 
+namespace bench {
+
 // Two Switch Panels beside the others: the first has its built-in way but for one switch; the
 // second has only selector and lever, and starts the selected engine alone.
 class SwitchLeg : private FlightChecks {
@@ -31,3 +33,5 @@ class SwitchLeg : private FlightChecks {
     bool Start() const;
     bool MoveGear() const;
 };
+
+}  // namespace bench

@@ -16,6 +16,8 @@
 #include "bench/driver/Until.h"
 #include "bench/flight/ScriptedFlight.h"
 
+using namespace bench;
+
 namespace {
 
 constexpr uint32_t kSoonMs = 10000;
