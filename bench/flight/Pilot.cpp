@@ -10,9 +10,9 @@ namespace bench {
 
 namespace {
 
-// Light shows at the start come one after the other.
+// The light shows of eight panels come one after the other.
 constexpr uint32_t kPatienceMs = 40000;
-constexpr uint32_t kPageOpensMs = 10000;
+constexpr uint32_t kWindowTimeMs = 10000;
 // A hand takes as long to turn back. Sooner, the panel's reports still count for the old direction.
 constexpr DWORD kHandPauseMs = 300;
 // Inside the frame of the Multi Panel's upper display, in pixels of its picture.
@@ -41,7 +41,7 @@ bool OpenTab(const Cockpit& cockpit, const std::string& name) {
     const auto tab = std::ranges::find(kTabs, name) - std::begin(kTabs);
     const HWND tabs = FindChild(cockpit.MainWindow(), "SysTabControl32", std::nullopt);
     const HWND before = PageButton(cockpit);
-    return tabs && ClickTab(tabs, static_cast<int>(tab)) && Until(kPageOpensMs, [&] {
+    return tabs && ClickTab(tabs, static_cast<int>(tab)) && Until(kWindowTimeMs, [&] {
                const HWND button = PageButton(cockpit);
                return button && button != before;
            });
@@ -51,7 +51,7 @@ bool OpenTab(const Cockpit& cockpit, const std::string& name) {
 uint64_t TakePicture(const Cockpit& cockpit, const std::string& who) {
     uint64_t last = 0;
     uint64_t picture = 0;
-    Until(kPageOpensMs, [&] {
+    Until(kWindowTimeMs, [&] {
         last = picture;
         picture = who == "icon" ? PictureOfTrayIcon()
                                 : PictureOf(GetParent(PageButton(cockpit)), kUpperDisplay);
@@ -104,10 +104,9 @@ bool Pilot::Take(const std::string& who, const Step& step) {
 
     std::istringstream acts(step.act);
     std::string name = who;
-    std::string answer;
     for (std::string act; std::getline(acts >> std::ws, act, ';');) {
         name += (name == who ? ", " : "; ") + act;
-        answer = Do(who, act);
+        const std::string answer = Do(who, act);
         if (answer.starts_with("error")) return log_.Check(name, false, answer);
     }
     if ((step.shows + step.simulator).empty()) return log_.Check(name, true);

@@ -98,7 +98,7 @@ const std::vector<Step> kFlight = {
      R"(upper "118.55" "118.10" lower "113.40" "110.50")", "311E:3512 311E:4012 311E:4013 3123:02"},
     {"radio2", "", kRadiosTuned},
     {"screen", "04-radio-com-nav"},
-    {"--", "ADF, transponder and altimeter; this in units of its own on each panel"},
+    {"--", "DME, ADF, transponder and altimeter; this in units of its own on each panel"},
     {"radio1", "lower DME", R"(upper "118.55" "118.10" lower "  12.3" "  123")"},
     {"radio1", "upper XPDR; lower ADF", R"(upper " 29.92" " 1.200" lower "0345.3" "0345.3")"},
     {"radio1", "lower-outer +2 60; press lower",
@@ -110,7 +110,7 @@ const std::vector<Step> kFlight = {
     {"radio1", "upper COM1; lower COM1", kRadiosTuned},
     {"radio2", "upper COM1", kRadiosTuned},
 
-    {"--", "the first switch that is thrown brings the simulator into line with all: no avionics"},
+    {"--", "the first switch that is thrown is told as all of them: avionics go off"},
     {"tab", "Switch"},
     {"switch1", "bat on", kGearDown},
     {"multi1 multi2", "", kMultiDark},
@@ -120,7 +120,9 @@ const std::vector<Step> kFlight = {
     {"multi1", "", kCourse089},
     {"radio1 radio2", "", kRadiosTuned},
     {"bip2", "", "tiles 0 green 3 green"},
-    {"switch1", "bat off; bat on", kGearDown, "3102:00 3102:01"},
+    {"switch1", "bat off", kGearDark, "3102:00"},
+    {"multi1 multi2", "", kMultiDark},
+    {"switch1", "bat on", kGearDown, "3102:01"},
     {"--", "other switches are thrown, and the selectors turned"},
     {"switch1", "alt on; pitot on; pitot off", "",
      "3B78:01000000 3AB8:01000000 39F8:01000000 3938:01000000 "
