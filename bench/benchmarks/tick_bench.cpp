@@ -63,7 +63,7 @@ struct SteadyCockpit : VirtualCockpit {
     }
 
   private:
-    const AircraftModel aircraft_{machine.server};
+    const bench::AircraftModel aircraft_{machine.server};
 };
 
 // What the tick of this mode reads.

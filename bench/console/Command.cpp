@@ -4,6 +4,8 @@
 
 #include "base/Number.h"
 
+namespace bench {
+
 std::string_view Command::Argument(size_t index) const {
     return index < arguments.size() ? std::string_view(arguments[index]) : std::string_view();
 }
@@ -57,3 +59,5 @@ std::string HexText(std::span<const uint8_t> bytes) {
     for (const uint8_t byte : bytes) text += HexText(byte, 2);
     return text;
 }
+
+}  // namespace bench

@@ -7,6 +7,8 @@
 #include <string_view>
 #include <vector>
 
+namespace bench {
+
 // One line of a bench program's console: a name and its arguments, parted by blanks. An argument in
 // double quotes keeps its blanks and may be empty.
 struct Command {
@@ -26,3 +28,5 @@ std::optional<int64_t> ParseNumber(std::string_view text, int64_t low, int64_t h
 // Two capital digits a byte, nothing between them.
 std::string HexText(std::span<const uint8_t> bytes);
 std::string HexText(uint64_t value, int digits);
+
+}  // namespace bench

@@ -2,6 +2,8 @@
 
 #include <iostream>
 
+namespace bench {
+
 void ServeLines(const std::function<std::string(const Command&)>& answer) {
     std::string line;
     while (std::getline(std::cin, line)) {
@@ -12,3 +14,5 @@ void ServeLines(const std::function<std::string(const Command&)>& answer) {
         if (end) return;
     }
 }
+
+}  // namespace bench

@@ -8,6 +8,8 @@
 
 #include "bench/driver/Until.h"
 
+namespace bench {
+
 namespace {
 
 constexpr char kMainTitle[] = "  ORVO    v0.5.1";
@@ -114,3 +116,5 @@ bool Cockpit::QuitByUser() {
     PressBoxButton(box, IDOK);
     return orvo_->WaitForEnd(kWindowTimeMs).has_value();
 }
+
+}  // namespace bench

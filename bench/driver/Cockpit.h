@@ -8,6 +8,8 @@
 #include "bench/driver/Process.h"
 #include "bench/driver/Windows.h"
 
+namespace bench {
+
 // A fresh folder with Orvo.exe and the bench DLLs, the programs around it, and Orvo's windows. All
 // programs that it started end with it.
 class Cockpit {
@@ -57,3 +59,5 @@ class Cockpit {
     std::unique_ptr<Process> panels_;
     std::unique_ptr<Process> orvo_;
 };
+
+}  // namespace bench

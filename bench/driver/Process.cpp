@@ -2,6 +2,8 @@
 
 #include <chrono>
 
+namespace bench {
+
 namespace {
 
 // One end of each pipe goes to the child, the other must not.
@@ -99,3 +101,5 @@ void Process::ReadLines(HANDLE output) {
     outputEnded_ = true;
     changed_.notify_all();
 }
+
+}  // namespace bench

@@ -10,6 +10,8 @@
 #include <string>
 #include <thread>
 
+namespace bench {
+
 // A child process with pipes for standard input and output. It doesn't outlive this object.
 class Process {
   public:
@@ -42,3 +44,5 @@ class Process {
     bool outputEnded_ = false;
     std::thread reader_;
 };
+
+}  // namespace bench

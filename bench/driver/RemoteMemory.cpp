@@ -1,5 +1,7 @@
 #include "bench/driver/RemoteMemory.h"
 
+namespace bench {
+
 namespace {
 
 DWORD ProcessOf(HWND window) {
@@ -25,3 +27,5 @@ RemoteMemory::~RemoteMemory() {
 bool RemoteMemory::Read(void* to, size_t size) const {
     return memory_ && ReadProcessMemory(process_, memory_, to, size, nullptr);
 }
+
+}  // namespace bench

@@ -4,6 +4,8 @@
 
 #include <cstddef>
 
+namespace bench {
+
 // A piece of memory in the process of a window, for messages that carry addresses.
 class RemoteMemory {
   public:
@@ -20,3 +22,5 @@ class RemoteMemory {
     HANDLE process_;
     void* memory_ = nullptr;
 };
+
+}  // namespace bench

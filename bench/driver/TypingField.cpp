@@ -3,6 +3,8 @@
 #include "bench/driver/Until.h"
 #include "bench/driver/Windows.h"
 
+namespace bench {
+
 namespace {
 
 constexpr uint32_t kPatienceMs = 3000;
@@ -113,3 +115,5 @@ LRESULT TypingField::Take(UINT message, WPARAM wParam, LPARAM lParam) {
     }
     return CallWindowProcA(edit_, field_, message, wParam, lParam);
 }
+
+}  // namespace bench

@@ -6,6 +6,8 @@
 #include <string>
 #include <thread>
 
+namespace bench {
+
 // A field of this program to type into, in a window with no other purpose. It has a thread of its
 // own, so that other programs don't have to wait for it while this one waits for them.
 class TypingField {
@@ -40,3 +42,5 @@ class TypingField {
     std::string keys_;
     std::thread thread_;
 };
+
+}  // namespace bench

@@ -4,6 +4,8 @@
 
 #include <cstdint>
 
+namespace bench {
+
 // Asks again and again, every few milliseconds, until `condition` holds. False when it doesn't
 // within the time.
 template <class Condition>
@@ -15,3 +17,5 @@ bool Until(uint32_t milliseconds, Condition condition) {
     }
     return true;
 }
+
+}  // namespace bench

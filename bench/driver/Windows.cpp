@@ -6,6 +6,8 @@
 
 #include "bench/driver/RemoteMemory.h"
 
+namespace bench {
+
 namespace {
 
 constexpr UINT kPatienceMs = 3000;
@@ -191,3 +193,5 @@ uint64_t PictureOf(HWND window, const RECT& part) {
 }
 
 uint64_t PictureOfTrayIcon() { return PictureOf(TrayIconPlace()); }
+
+}  // namespace bench

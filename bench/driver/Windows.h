@@ -7,6 +7,8 @@
 #include <string>
 #include <vector>
 
+namespace bench {
+
 // Work with the windows of another process. A window that doesn't answer within a few seconds
 // counts as one that is not there.
 
@@ -49,3 +51,5 @@ uint64_t PictureOf(HWND window);
 // The same for a part of the window, in pixels from its upper left corner.
 uint64_t PictureOf(HWND window, const RECT& part);
 uint64_t PictureOfTrayIcon();
+
+}  // namespace bench

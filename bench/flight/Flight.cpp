@@ -4,30 +4,35 @@
 // "end"; with --pace the intervals of its ticks are measured as the simulator sees them.
 
 #include <iostream>
+#include <string>
 #include <string_view>
 
 #include "bench/driver/Until.h"
 #include "bench/driver/Windows.h"
-#include "bench/flight/BIPLeg.h"
 #include "bench/flight/ScriptedFlight.h"
+
+using namespace bench;
 
 namespace {
 
+constexpr char kHelp[] =
+    "Orvo is up; a double click on its icon in the task bar opens the window.\n"
+    "Type 'panel knob multi1 +1', 'panel selector multi1 HDG', 'panel show multi1',\n"
+    "'panel upper-inner radio1 +1', 'panel press radio1 upper', 'panel show radio1',\n"
+    "'panel bat switch1 on', 'panel gear switch1 up', 'panel show switch1',\n"
+    "'panel show bip1', 'sim set 0x3366 1 1', 'sim get 0x07CC 2', 'sim title NAME'\n"
+    "and the like; 'end' or Ctrl-C ends it all.";
+
 bool Stay(Cockpit& cockpit, const FlightLog& log) {
+    cockpit.WriteFile("Default.ini", kFlightTiles);
     cockpit.StartSimulator();
     cockpit.StartPanels();
     for (const char* kind : {"radio", "multi", "switch", "bip"}) {
         cockpit.Panels(std::string("add ") + kind);
     }
-    cockpit.WriteFile("Default.ini", std::string(BIPLeg::kTiles));
     cockpit.Simulator("batches");
     cockpit.StartOrvo();
-    log.Say("Orvo is up; a double click on its icon in the task bar opens the window.");
-    log.Say("Type 'panel knob multi1 +1', 'panel selector multi1 HDG', 'panel show multi1',");
-    log.Say("'panel upper-inner radio1 +1', 'panel press radio1 upper', 'panel show radio1',");
-    log.Say("'panel bat switch1 on', 'panel gear switch1 up', 'panel show switch1',");
-    log.Say("'panel show bip1', 'sim set 0x3366 1 1', 'sim get 0x07CC 2', 'sim title NAME'");
-    log.Say("and the like; 'end' or Ctrl-C ends it all.");
+    log.Say(kHelp);
     for (std::string line; std::getline(std::cin, line) && line != "end";) {
         if (line.starts_with("sim ")) {
             log.Say(cockpit.Simulator(line.substr(4)));
@@ -84,5 +89,5 @@ int main(int argc, char** argv) {
     }
     if (mode == "--pace") return MeasurePace(cockpit, log) ? 0 : 1;
     if (mode == "--stay") return Stay(cockpit, log) ? 0 : 1;
-    return ScriptedFlight(cockpit, log).Fly() ? 0 : 1;
+    return FlyScriptedFlight(cockpit, log) ? 0 : 1;
 }

@@ -1,182 +1,245 @@
 #include "bench/flight/ScriptedFlight.h"
 
-#include "bench/driver/Until.h"
-#include "bench/flight/BIPLeg.h"
-#include "bench/flight/RadioLeg.h"
-#include "bench/flight/StandardLeg.h"
-#include "bench/flight/SwitchLeg.h"
+#include <string>
+#include <vector>
+
+#include "bench/flight/Pilot.h"
+
+namespace bench {
+
+const char kFlightTiles[] =
+    "[BIPPanel1]\r\nT0=ENG_FIRE,Red\r\nT1=ENG_1_FIRE,Red\r\nT2=ENG_2_FIRE,Yellow\r\n"
+    "T3=LOW_PRESSURE,Red,19\r\nT4=OIL_PRESSURE,Yellow,20\r\nT5=ENG_OIL_TEMP,Yellow,65\r\n"
+    "T6=FUEL_LOW,Yellow,15\r\nT7=FUEL_CROSS_FEED,Green\r\nT8=LEFT_FUEL_LOW,Yellow,15\r\n"
+    "T9=CENTRE_FUEL_LOW,Yellow,15\r\nT10=RIGHT_FUEL_LOW,Red,60\r\nT11=DOOR_WARNING,Yellow\r\n"
+    "T12=STALL_WARNING,Red\r\nT13=VAC_LOW,Yellow,60\r\nT14=PITOT_HEAT,Green\r\n"
+    "T15=PARKING_BRAKES,Green\r\nT16=COMBINED_OMI,Green\r\nT17=OUTER_MARKER,Green\r\n"
+    "T18=MIDDLE_MARKER,Red\r\nT19=INNER_MARKER,Yellow\r\nT20=BEACON_LIGHT,Green\r\n"
+    "T21=STROBE_LIGHT,Green\r\nT22=NAV_1,Green\r\nT23=NAV,Green\r\n"
+    "[BIPPanel2]\r\nT0=COMBINED_GEAR,Yellow\r\nT1=GEAR_UNSAFE,Yellow\r\nT2=GEAR_UP,Green\r\n"
+    "T3=GEAR_DOWN,Green\r\nT7=ENG_FIRE,Yellow\r\n";
 
 namespace {
 
-// Inside the frame of the upper display, in pixels of the panel's picture.
-constexpr RECT kUpperDisplay = {204, 20, 376, 64};
-constexpr uint32_t kLightShowsMs = 40000;  // one after the other
-constexpr int kGeneralTab = 0;
-constexpr int kRadioTab = 1;
-constexpr int kMultiTab = 3;
-constexpr int kSwitchTab = 5;
-constexpr int kBIPTab = 7;
+constexpr char kDefaultKeys[] =
+    "[MultiPanel1]\r\nLongButtonActionHDG=VButton,64,3\r\n[RadioPanel1]\r\nADFMode="
+    "3\r\n"
+    "[SwitchPanel1]\r\nSwitchPITOTOff=VButton,64,5\r\n"
+    "[SwitchPanel2]\r\nSwitchBATOff=None\r\nSwitchALTOff=None\r\n"
+    "SwitchAVIONICSOff=None\r\nSwitchFUELPUMPOff=None\r\nSwitchDEICEOff=None\r\n"
+    "SwitchPITOTOff=None\r\nSwitchCOWLOff=None\r\nSwitchPANELOff=None\r\nSwitchBEACONOff=None\r\n"
+    "SwitchNAVOff=None\r\nSwitchSTROBEOff=None\r\nSwitchTAXIOff=None\r\nSwitchLANDINGOff=None\r\n";
+
+constexpr char kNGXKeys[] =
+    "[Common]\r\nSpecialMode=ngx\r\n"
+    "[BIPPanel1]\r\nT0=MASTER_CAUTION,Yellow\r\nT1=ENG_1_FIRE,Red\r\nT2=ENG_2_FIRE,Red\r\n"
+    "T3=FUEL_LOW,Yellow,15\r\nT4=DOOR_WARNING,Yellow\r\nT5=PARKING_BRAKES,Green\r\n"
+    "T8=AP_PRST\r\nT9=AT_PRST\r\nT10=FMC_PRST\r\nT16=NOSE_GEAR,Green\r\n"
+    "T17=LEFT_GEAR,Green\r\nT18=RIGHT_GEAR,Green\r\nT23=GEAR_DOWN,Green\r\n"
+    "[BIPPanel2]\r\nT23=FUEL_CROSS_FEED,Red\r\n";
+
+constexpr char kRadioDark[] = "upper dark dark lower dark dark";
+constexpr char kRadiosAtStart[] = R"(upper "118.10" "119.52" lower "118.10" "119.52")";
+constexpr char kRadiosTuned[] = R"(upper "118.55" "118.10" lower "118.55" "118.10")";
+constexpr char kCourse089[] = R"(upper "  089" lower "     " lights HDG)";
+constexpr char kGearDown[] = "gear nose green left green right green";
+constexpr char kGearMoves[] = "gear nose red left red right red";
+constexpr char kGearDark[] = "gear nose off left off right off";
+constexpr char kWarnings[] =
+    "tiles 0 red 2 yellow 3 red 4 yellow 5 yellow 6 yellow 7 green 8 yellow 11 yellow 12 red "
+    "13 yellow 14 green 15 green 16 yellow 19 yellow 20 green 21 green 22 green 23 green";
+constexpr char kConnected[] =
+    "FSUIPC Status: Connected | FSUIPC Version: 3.9990 | Flight Simulator Version: FSX | "
+    "Aircraft in use: Bench Trainer";
+constexpr char kDisconnected[] =
+    "FSUIPC Status: Disconnected | FSUIPC Version: | Flight Simulator Version: | Aircraft in use:";
+
+const std::vector<Step> kFlight = {
+    {"--", "the simulator, two panels of each of the four kinds and Orvo are started"},
+    {"simulator", "start; batches"},
+    {"panels", "start; add radio; add radio; add multi; add multi"},
+    {"panels", "add switch; add switch; add bip; add bip"},
+    {"orvo", "start", "window hidden"},
+    {"--", "Orvo finds the simulator, and shows its window"},
+    {"status", "", kConnected},
+    {"multi1 multi2", "", R"(upper "05000" lower "    0" lights none)"},
+    {"radio1 radio2", "", kRadiosAtStart},
+    {"switch1 switch2", "", kGearDown},
+    {"bip1", "", "tiles 10 red 23 green"},
+    {"bip2", "", "tiles 0 green 3 green"},
+    {"icon", "remember; double click"},
+    {"orvo", "", "window open"},
+    {"profile", "", "Default"},
+    {"screen", "01-general"},
+
+    {"--", "values are read and turned on two Multi Panels"},
+    {"tab", "Multi"},
+    {"multi1", "selector HDG", R"(upper "  080" lower "     " lights none)"},
+    {"screen", "02-heading-080"},
+    {"display", "remember"},
+    {"multi1", "selector ALT; knob +3 60", R"(upper "05300" lower "    0" lights none)"},
+    {"multi1", "selector VS; knob -2 60", R"(upper "05300" lower " -200" lights none)"},
+    {"multi1", "selector CRS; knob -1 60", R"(upper "  089" lower "     " lights none)"},
+    {"multi2", "selector HDG; knob +3 60", R"(upper "  083" lower "     " lights none)"},
+    {"--", "a click turns heading hold on; a long one presses the button of the profile"},
+    {"multi1", "press HDG", kCourse089, "07C8:01000000"},
+    {"multi1", "press HDG 800", kCourse089, "3340:04000000 3340:00000000"},
+    {"multi1", "trim +2 60; flaps down; flaps centre; throttle arm", "",
+     "0BC0:2000 0BC0:4000 0BDC:FF0F 0810:01000000"},
+    {"screen", "03-standard"},
+    {"display", "", "changed"},
+
+    {"--", "COM1 and NAV1 are tuned and swapped on one Radio Panel; the other shows it too"},
+    {"tab", "Radio"},
+    {"radio1", "lower NAV1", R"(upper "118.10" "119.52" lower "110.50" "112.30")"},
+    {"radio1", "upper-inner +1 60; upper-outer -1 60; press upper",
+     R"(upper "118.55" "118.10" lower "110.50" "112.30")", "311A:5519 311A:5518 3123:08"},
+    {"radio1", "lower-inner +2 60; lower-outer +1 60; press lower",
+     R"(upper "118.55" "118.10" lower "113.40" "110.50")", "311E:3512 311E:4012 311E:4013 3123:02"},
+    {"radio2", "", kRadiosTuned},
+    {"screen", "04-radio-com-nav"},
+    {"--", "DME, ADF, transponder and altimeter; this in units of its own on each panel"},
+    {"radio1", "lower DME", R"(upper "118.55" "118.10" lower "  12.3" "  123")"},
+    {"radio1", "upper XPDR; lower ADF", R"(upper " 29.92" " 1.200" lower "0345.3" "0345.3")"},
+    {"radio1", "lower-outer +2 60; press lower",
+     R"(upper " 29.92" " 1.200" lower "0347.3" "0345.3")", "034C:4703 0356:0300"},
+    {"radio1", "upper-inner +1 60; press upper 800; upper-outer +2 60",
+     R"(upper " 1015" " 2.200" lower "0347.3" "0345.3")", "0354:0022 0330:603F 0330:703F"},
+    {"radio2", "upper XPDR", R"(upper " 29.97" " 2.200" lower "118.55" "118.10")"},
+    {"screen", "05-radio-adf-xpdr"},
+    {"radio1", "upper COM1; lower COM1", kRadiosTuned},
+    {"radio2", "upper COM1", kRadiosTuned},
+
+    {"--", "the first switch that is thrown is told as all of them: avionics go off"},
+    {"tab", "Switch"},
+    {"switch1", "bat on", kGearDown},
+    {"multi1 multi2", "", kMultiDark},
+    {"radio1 radio2", "", kRadioDark},
+    {"bip1 bip2", "", "tiles dark"},
+    {"switch1", "avionics on", kGearDown, "3103:01"},
+    {"multi1", "", kCourse089},
+    {"radio1 radio2", "", kRadiosTuned},
+    {"bip2", "", "tiles 0 green 3 green"},
+    {"switch1", "bat off", kGearDark, "3102:00"},
+    {"multi1 multi2", "", kMultiDark},
+    {"switch1", "bat on", kGearDown, "3102:01"},
+    {"--", "other switches are thrown, and the selectors turned"},
+    {"switch1", "alt on; pitot on; pitot off", "",
+     "3B78:01000000 3AB8:01000000 39F8:01000000 3938:01000000 "
+     "029C:01 3340:10000000 3340:00000000"},
+    {"switch1", "panel on; beacon on; nav on; strobe on", "",
+     "0D0C:2000 0D0C:2200 0D0C:2300 0D0C:3300"},
+    {"switch2", "selector R", "", "0892:0100 092A:0100 09C2:0100 0A5A:0100 0BE8:FF3F0000"},
+    {"switch1", "selector BOTH", "", "0892:0300 092A:0300 09C2:0300 0A5A:0300"},
+    {"--", "the second panel's lever raises the gear, the first one's lowers it again"},
+    {"switch2", "gear up", kGearMoves, "0BE8:00000000"},
+    {"bip2", "", "tiles 0 red 1 yellow"},
+    {"screen", "06-switch-gear-moves"},
+    {"switch1 switch2", "", kGearDark},
+    {"bip2", "", "tiles 2 green"},
+    {"switch1", "gear between; gear down", kGearMoves, "0BE8:FF3F0000"},
+    {"switch1 switch2", "", kGearDown},
+
+    {"--", "engine 2 is on fire, a door is open, and most else is wrong"},
+    {"tab", "BIP"},
+    {"simulator", "set 0x3366 1 2; set 0x3367 1 4; set 0x08F8 4 500; set 0x08BA 2 5999"},
+    {"simulator", "set 0x1264 4 8999; set 0x0B7C 4 838860; set 0x0B94 4 0x600000; set 0x341F 1 1"},
+    {"simulator", "set 0x036C 1 1; set 0x0B1C 4 0x40000000; set 0x3122 1 0x10; set 0x0BAC 2 1"},
+    {"simulator", "set 0x08B8 2 15211; set 0x0BC8 2 32767"},
+    {"bip1", "", kWarnings},
+    {"bip2", "", "tiles 0 green 3 green 7 yellow"},
+    {"screen", "07-bip-warnings"},
+
+    {"--", "an aircraft with the NGX profile is loaded; knobs and switches click its controls"},
+    {"simulator", "set 0x6520 2 214; set 0x6524 4 0x3F47AE14; set 0x652C 2 247"},
+    {"simulator", "set 0x652E 2 33000; set 0x6530 2 0xF8F8; set 0x6545 1 1; set 0x6500 1 2"},
+    {"simulator", "title \"Bench Airliner\""},
+    {"profile", "", "Airliner"},
+    {"multi1", "selector ALT", R"(upper "33000" lower "-1800" lights AP)"},
+    {"multi1", "selector CRS", R"(upper "  214" lower "     " lights AP)"},
+    {"multi1", "selector IAS", R"(upper "0 780" lower "     " lights AP)"},
+    {"multi1", "selector HDG", R"(upper "  247" lower "     " lights AP)"},
+    {"multi1", "knob +2 60; press AP; press AP 800", "",
+     "controls 70022:16384 70022:16384 70034:536870912 70035:536870912"},
+    {"radio1", "upper XPDR; press upper 800; upper-outer +1 60; upper COM1", "",
+     "controls 69998:536870912 69997:16384"},
+    {"switch1", "strobe off; nav off; taxi on; landing on", "",
+     "controls 69755:536870912 69749:536870912 69742:536870912"},
+    {"switch1", "gear up", "", "controls 70087:-2147483648"},
+    {"switch2", "gear down", "", "controls 70087:536870912 70087:536870912"},
+    {"bip1", "", "tiles dark"},
+    {"simulator", "set 0x6506 1 1; set 0x6504 1 1; set 0x650A 1 1; set 0x6510 1 1"},
+    {"simulator", "set 0x65A7 1 1; set 0x6550 1 1; set 0x6552 1 1; set 0x6554 1 1"},
+    {"bip1", "", "tiles 0 yellow 1 red 3 yellow 4 yellow 5 green 8 yellow 9 red 10 red"},
+    {"simulator", "set 0x6545 4 0; set 0x6573 1 1; set 0x6574 1 1; set 0x6575 1 1; set 0x6469 1 1"},
+    {"bip1", "",
+     "tiles 0 yellow 1 red 3 yellow 4 yellow 5 green 8 red 9 red 10 red "
+     "16 green 17 green 18 green 23 green"},
+    {"bip2", "", "tiles 23 red"},
+    {"screen", "08-bip-ngx"},
+
+    {"--", "an aircraft with the Maddog profile is loaded"},
+    {"simulator", "title \"Bench Jet\""},
+    {"profile", "", "Jet"},
+    {"multi1", "selector ALT", R"(upper "00000" lower "    0" lights none)"},
+    {"bip1", "", "tiles dark"},
+    {"multi1", "knob +2 60; press REV", R"(upper "00200" lower "    0" lights none)",
+     "controls 69662:100 69663:100 69662:200 69663:200 69740:1 69671:1"},
+    {"radio1", "lower NAV1", R"(upper "118.55" "118.10" lower dark "113.40")"},
+    {"radio1", "lower-inner +1 60; lower COM1", "", "controls 69633:4933"},
+
+    {"--", "the first aircraft is loaded again, and bound to Default"},
+    {"multi1", "selector HDG"},
+    {"simulator", "title \"Bench Trainer\""},
+    {"profile", "", "Default"},
+    {"multi1", "", R"(upper "  083" lower "     " lights HDG)"},
+    {"aircraft", "", "[Aircrafts] Bench Airliner=Airliner Bench Jet=Jet Bench Trainer=Default "},
+    {"bip1", "", kWarnings},
+    {"tab", "Multi"},
+    {"screen", "09-back-to-default"},
+
+    {"--", "the simulator is killed; the BIP Panels alone keep what they show"},
+    {"simulator", "kill"},
+    {"status", "", kDisconnected},
+    {"radio1 radio2", "", kRadioDark},
+    {"multi1 multi2", "", kMultiDark},
+    {"switch1 switch2", "", kGearDark},
+    {"bip1", "", kWarnings},
+    {"screen", "10-disconnected"},
+    {"icon", "", "changed"},
+    {"--", "the simulator is started again; the gear lights come with their next change"},
+    {"simulator", "start"},
+    {"status", "", kConnected},
+    {"multi1", "", R"(upper "  080" lower "     " lights none)"},
+    {"radio1 radio2", "", kRadiosAtStart},
+    {"bip1", "", "tiles 10 red 23 green"},
+    {"bip2", "", "tiles 0 green 3 green"},
+    {"screen", "11-connected-again"},
+    {"icon display", "", "as remembered"},
+    {"switch1 switch2", "", kGearDark},
+    {"switch2", "gear up", kGearMoves},
+    {"switch1", "", kGearMoves},
+
+    {"--", "the user quits"},
+    {"tab", "General"},
+    {"screen", "12-general"},
+    {"orvo", "quit", "ended with 0"},
+    {"radio1 radio2", "", kRadioDark},
+    {"multi1 multi2", "", kMultiDark},
+    {"switch1 switch2", "", kGearDark},
+    {"bip1 bip2", "", "tiles dark"},
+};
 
 }  // namespace
 
-bool ScriptedFlight::Fly() {
-    return Start() && FindSimulator() && OpenWindow() && FlyStandard() && FlyRadios() &&
-           FlySwitches() && FlyTiles() && FlyAddOns() && LoseSimulator() && FindSimulatorAgain() &&
-           Quit();
+bool FlyScriptedFlight(Cockpit& cockpit, const FlightLog& log) {
+    cockpit.WriteIni(
+        "[Profiles]\r\nAirliner= \r\nJet= \r\n"
+        "[Aircrafts]\r\nBench Airliner=Airliner\r\nBench Jet=Jet\r\n");
+    cockpit.WriteFile("Default.ini", std::string(kDefaultKeys) + kFlightTiles);
+    cockpit.WriteFile("Airliner.ini", kNGXKeys);
+    cockpit.WriteFile("Jet.ini", "[Common]\r\nSpecialMode=maddog\r\n");
+    return Pilot(cockpit, log).Fly(kFlight);
 }
 
-bool ScriptedFlight::Start() {
-    log_.Say("-- the simulator, two panels of each of the four kinds and Orvo are started");
-    AddOnLegs(cockpit_, log_).WriteProfiles();
-    cockpit_.StartSimulator();
-    cockpit_.StartPanels();
-    for (const std::string name :
-         {"radio1", "radio2", "multi1", "multi2", "switch1", "switch2", "bip1", "bip2"}) {
-        const std::string added = cockpit_.Panels("add " + name.substr(0, name.size() - 1));
-        if (!log_.Check(name + " is plugged in", added == name, added)) return false;
-    }
-    const std::string batches = cockpit_.Simulator("batches");
-    if (!log_.Check("the simulator is up", batches == "0", batches)) return false;
-    cockpit_.StartOrvo();
-    return log_.Check("Orvo has its window, hidden", Until(kPatienceMs, [this] {
-                          const HWND window = cockpit_.MainWindow();
-                          return window && !IsWindowVisible(window);
-                      }));
-}
-
-bool ScriptedFlight::FindSimulator() {
-    log_.Say("-- Orvo finds the simulator");
-    return ExpectStatus(0, "FSUIPC Status: Connected", kLightShowsMs) &&
-           ExpectStatus(1, "FSUIPC Version: 3.9990") &&
-           ExpectStatus(2, "Flight Simulator Version: FSX") &&
-           ExpectStatus(3, "Aircraft in use: Bench Trainer") &&
-           ExpectPanel(PanelShows("05000", "0")) &&
-           ExpectPanel(PanelShows("05000", "0"), "multi2") &&
-           RadioLeg(cockpit_, log_).ExpectStart() &&
-           SwitchLeg(cockpit_, log_).ExpectLights("green") && BIPLeg(cockpit_, log_).ExpectStart();
-}
-
-bool ScriptedFlight::OpenWindow() {
-    log_.Say("-- the window is opened from the notification area");
-    connectedIcon_ = PictureOfTrayIcon();
-    DoubleClickTrayIcon();
-    const HWND window = cockpit_.MainWindow();
-    if (!log_.Check("a double click on the icon shows the window",
-                    Until(kPatienceMs, [&] { return IsWindowVisible(window) != 0; }))) {
-        return false;
-    }
-    if (!ExpectProfile("Default")) return false;
-    log_.Shot("01-general");
-    return SelectTab(kMultiTab);
-}
-
-bool ScriptedFlight::SelectTab(int tab) const {
-    const HWND tabs = FindChild(cockpit_.MainWindow(), "SysTabControl32", std::nullopt);
-    const HWND before = PageButton();
-    const bool well = tabs && ClickTab(tabs, tab) && Until(kPatienceMs, [&] {
-                          const HWND button = PageButton();
-                          return button && button != before;
-                      });
-    return log_.Check("a click on tab " + std::to_string(tab + 1) + " opens its page", well);
-}
-
-HWND ScriptedFlight::PageButton() const {
-    const HWND window = cockpit_.MainWindow();
-    const HWND setup = FindShownChild(window, "Button", "Setup");
-    return setup ? setup : FindShownChild(window, "Button", "Quit");
-}
-
-bool ScriptedFlight::ExpectDark() const {
-    return ExpectPanel(RadioShows({}, {}), "radio1") && ExpectPanel(RadioShows({}, {}), "radio2") &&
-           ExpectPanel(kMultiDark) && ExpectPanel(kMultiDark, "multi2") &&
-           SwitchLeg(cockpit_, log_).ExpectLights("off");
-}
-
-bool ScriptedFlight::FlyStandard() {
-    Do("selector HDG");
-    if (!ExpectPanel(PanelShows("080", ""))) return false;
-    log_.Shot("02-heading-080");
-    display080_ = UpperDisplay();
-    if (!StandardLeg(cockpit_, log_).Fly()) return false;
-    log_.Shot("03-standard");
-    const bool redrawn =
-        display080_ != 0 && Until(kPatienceMs, [&] { return UpperDisplay() != display080_; });
-    return log_.Check("the display on the screen shows another number", redrawn);
-}
-
-bool ScriptedFlight::FlyRadios() { return SelectTab(kRadioTab) && RadioLeg(cockpit_, log_).Fly(); }
-
-bool ScriptedFlight::FlySwitches() {
-    return SelectTab(kSwitchTab) && SwitchLeg(cockpit_, log_).Fly();
-}
-
-bool ScriptedFlight::FlyTiles() { return SelectTab(kBIPTab) && BIPLeg(cockpit_, log_).Fly(); }
-
-bool ScriptedFlight::FlyAddOns() {
-    const std::string tiles = cockpit_.Panels("show bip1");
-    if (!AddOnLegs(cockpit_, log_).Fly() || !ExpectPanel(tiles, "bip1") || !SelectTab(kMultiTab)) {
-        return false;
-    }
-    log_.Shot("09-back-to-default");
-    return true;
-}
-
-uint64_t ScriptedFlight::UpperDisplay() const {
-    // The page's picture stands at the main window's page area, the display in it.
-    const HWND picture = GetParent(PageButton());
-    uint64_t last = 0;
-    uint64_t shown = 0;
-    Until(kPatienceMs, [&] {
-        last = shown;
-        shown = PictureOf(picture, kUpperDisplay);
-        return shown != 0 && shown == last;
-    });
-    return shown;
-}
-
-bool ScriptedFlight::LoseSimulator() {
-    log_.Say("-- the simulator is killed; the BIP Panels alone keep what they show");
-    const std::string tiles = cockpit_.Panels("show bip1");
-    cockpit_.KillSimulator();
-    if (!ExpectStatus(0, "FSUIPC Status: Disconnected") || !ExpectStatus(1, "FSUIPC Version:") ||
-        !ExpectStatus(2, "Flight Simulator Version:") || !ExpectStatus(3, "Aircraft in use:") ||
-        !ExpectDark() || !ExpectPanel(tiles, "bip1")) {
-        return false;
-    }
-    log_.Shot("10-disconnected");
-    return log_.Check("the icon has changed",
-                      Until(kPatienceMs, [this] { return PictureOfTrayIcon() != connectedIcon_; }));
-}
-
-bool ScriptedFlight::FindSimulatorAgain() {
-    log_.Say("-- the simulator is started again");
-    cockpit_.StartSimulator();
-    if (!ExpectStatus(0, "FSUIPC Status: Connected") ||
-        !ExpectStatus(3, "Aircraft in use: Bench Trainer") || !ExpectPanel(PanelShows("080", "")) ||
-        !RadioLeg(cockpit_, log_).ExpectStart() || !BIPLeg(cockpit_, log_).ExpectStart()) {
-        return false;
-    }
-    log_.Shot("11-connected-again");
-    if (!log_.Check("the display on the screen shows the first number again",
-                    Until(kPatienceMs, [this] { return UpperDisplay() == display080_; }))) {
-        return false;
-    }
-    log_.Say("-- the gear lights come back with their next change");
-    const SwitchLeg switches(cockpit_, log_);
-    if (!switches.ExpectLights("off")) return false;
-    Do("gear up", "switch2");
-    return switches.ExpectLights("red") &&
-           log_.Check("the icon is back",
-                      Until(kPatienceMs, [this] { return PictureOfTrayIcon() == connectedIcon_; }));
-}
-
-bool ScriptedFlight::Quit() {
-    log_.Say("-- the user quits");
-    if (!SelectTab(kGeneralTab)) return false;
-    log_.Shot("12-general");
-    if (!log_.Check("Quit and OK end the program", cockpit_.QuitByUser())) return false;
-    const auto code = cockpit_.Orvo().WaitForEnd(0);
-    return log_.Check("it has ended in order", code == 0u,
-                      code ? "exit code " + std::to_string(*code) : "it runs on") &&
-           ExpectDark() && ExpectPanel("tiles dark", "bip1") && ExpectPanel("tiles dark", "bip2");
-}
+}  // namespace bench

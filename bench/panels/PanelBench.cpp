@@ -5,6 +5,8 @@
 #include "bench/panels/PanelConsole.h"
 #include "bench/panels/PipeBus.h"
 
+using namespace bench;
+
 int main(int argc, char** argv) {
     PipeBus bus(argc > 1 ? argv[1] : ".");
     PanelConsole console(bus);

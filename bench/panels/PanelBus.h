@@ -5,6 +5,8 @@
 
 #include "bench/panels/VirtualPanel.h"
 
+namespace bench {
+
 // Where the virtual panels are plugged in.
 class PanelBus {
   public:
@@ -21,3 +23,5 @@ class PanelBus {
 
     virtual void Pause(uint32_t milliseconds) = 0;
 };
+
+}  // namespace bench

@@ -4,6 +4,8 @@
 #include <cstdlib>
 #include <span>
 
+namespace bench {
+
 namespace {
 
 constexpr int64_t kLongestPauseMs = 60000;
@@ -136,3 +138,5 @@ std::string PanelConsole::Turn(VirtualPanel& panel, const Command& command) {
 void PanelConsole::Send(VirtualPanel& panel, uint32_t bits, uint32_t mask) {
     bus_.Send(panel, panel.Change(bits, mask));
 }
+
+}  // namespace bench

@@ -7,6 +7,8 @@
 #include "bench/console/Command.h"
 #include "bench/panels/PanelBus.h"
 
+namespace bench {
+
 // The console commands of the virtual panels.
 class PanelConsole {
   public:
@@ -26,3 +28,5 @@ class PanelConsole {
     PanelBus& bus_;
     std::map<std::string, std::shared_ptr<VirtualPanel>, std::less<>> panels_;
 };
+
+}  // namespace bench

@@ -4,6 +4,8 @@
 
 #include "base/Text.h"
 
+namespace bench {
+
 namespace {
 
 constexpr PanelKind kKinds[] = {
@@ -117,3 +119,5 @@ const PanelControl* FindPanelControl(std::string_view kind, std::string_view com
     });
     return found == std::end(kControls) ? nullptr : found;
 }
+
+}  // namespace bench

@@ -4,6 +4,8 @@
 #include <optional>
 #include <string_view>
 
+namespace bench {
+
 // What the virtual panels know of each kind of panel; a new control is a row in PanelKinds.cpp.
 
 struct PanelKind {
@@ -36,3 +38,5 @@ const PanelKind* FindPanelKind(std::string_view name);
 // none is given, at any.
 const PanelControl* FindPanelControl(std::string_view kind, std::string_view command,
                                      std::optional<std::string_view> position);
+
+}  // namespace bench

@@ -7,6 +7,8 @@
 #include "base/Number.h"
 #include "bench/console/Command.h"
 
+namespace bench {
+
 namespace {
 
 constexpr std::string_view kMultiLights[] = {"AP", "HDG", "NAV", "IAS", "ALT", "VS", "APR", "REV"};
@@ -98,3 +100,5 @@ std::string DescribeFeature(std::string_view kind, const std::string& report) {
     }
     return HexText(std::span(reinterpret_cast<const uint8_t*>(report.data()), report.size()));
 }
+
+}  // namespace bench

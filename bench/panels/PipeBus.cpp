@@ -7,6 +7,8 @@
 #include "base/Text.h"
 #include "bench/console/Command.h"
 
+namespace bench {
+
 namespace {
 
 constexpr ULONGLONG kPlugTimeMs = 2000;
@@ -71,3 +73,5 @@ bool PipeBus::WriteList() const {
     }
     return MoveFileExA(fresh.c_str(), list_.c_str(), MOVEFILE_REPLACE_EXISTING) != 0;
 }
+
+}  // namespace bench

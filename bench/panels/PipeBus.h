@@ -7,6 +7,8 @@
 #include "bench/panels/PanelBus.h"
 #include "bench/panels/PipeDevice.h"
 
+namespace bench {
+
 // Panels as pipes, listed in the file panels.txt that the bench setupapi.dll reads: one path a
 // line.
 class PipeBus : public PanelBus {
@@ -30,3 +32,5 @@ class PipeBus : public PanelBus {
     std::string list_;
     std::vector<std::unique_ptr<PipeDevice>> devices_;
 };
+
+}  // namespace bench

@@ -2,6 +2,8 @@
 
 #include <utility>
 
+namespace bench {
+
 namespace {
 
 constexpr int kSeats = 8;
@@ -123,3 +125,5 @@ bool PipeDevice::Finish(HANDLE pipe, OVERLAPPED& work, bool begun, DWORD& count)
     }
     return GetOverlappedResult(pipe, &work, &count, FALSE) != 0;
 }
+
+}  // namespace bench

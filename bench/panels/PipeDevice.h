@@ -10,6 +10,8 @@
 
 #include "bench/panels/VirtualPanel.h"
 
+namespace bench {
+
 // A panel's device file: a message pipe with a few seats, one for each that has it open at a time.
 // Requests and answers are in dll/hid.cpp.
 class PipeDevice {
@@ -44,3 +46,5 @@ class PipeDevice {
     std::mutex lock_;
     std::vector<std::unique_ptr<Seat>> seats_;
 };
+
+}  // namespace bench

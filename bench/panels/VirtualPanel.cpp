@@ -4,6 +4,8 @@
 
 #include "bench/panels/PanelWords.h"
 
+namespace bench {
+
 namespace {
 
 constexpr size_t kLogLimit = 10000;
@@ -51,3 +53,5 @@ std::string VirtualPanel::Show() const {
     const std::lock_guard hold(lock_);
     return shown_.empty() ? "untouched" : DescribeFeature(kind_.name, shown_);
 }
+
+}  // namespace bench

@@ -10,6 +10,8 @@
 
 #include "bench/panels/PanelKinds.h"
 
+namespace bench {
+
 // One panel: where its controls stand, and the feature reports that it was sent. The console and
 // the pipes' threads share it.
 class VirtualPanel {
@@ -43,3 +45,5 @@ class VirtualPanel {
     std::deque<std::string> features_;
     std::string shown_;  // the latest of them that can be seen
 };
+
+}  // namespace bench

@@ -7,6 +7,8 @@
 #include "base/Bytes.h"
 #include "base/Number.h"
 
+namespace bench {
+
 namespace {
 
 constexpr size_t kLogLimit = 10000;
@@ -147,3 +149,5 @@ void AircraftModel::SwapRadios() {
     }
     space_.Set<uint8_t>(kRadioSwap, 0);
 }
+
+}  // namespace bench

@@ -9,6 +9,8 @@
 
 #include "platform/virtual/OffsetServer.h"
 
+namespace bench {
+
 // A small aircraft behind the offsets: what is written stays, the gear travels, radios swap, power
 // follows its switches, and what the client wrote is kept in a log.
 class AircraftModel {
@@ -46,3 +48,5 @@ class AircraftModel {
     std::deque<Write> writes_;
     std::deque<Control> controls_;
 };
+
+}  // namespace bench

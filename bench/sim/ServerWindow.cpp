@@ -4,6 +4,8 @@
 #include <span>
 #include <utility>
 
+namespace bench {
+
 namespace {
 
 constexpr UINT kShow = WM_APP;
@@ -108,3 +110,5 @@ LRESULT ServerWindow::Serve(WPARAM wParam) {
     CloseHandle(mapping);
     return reply;
 }
+
+}  // namespace bench

@@ -8,6 +8,8 @@
 
 #include "bench/sim/SimState.h"
 
+namespace bench {
+
 // The window that clients of the FSUIPC channel send their batches to, and the thread's message
 // loop. The state is shared with the console's thread under one lock.
 class ServerWindow {
@@ -42,3 +44,5 @@ class ServerWindow {
     std::condition_variable up_;
     bool stopping_ = false;
 };
+
+}  // namespace bench

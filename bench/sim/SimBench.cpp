@@ -11,6 +11,8 @@
 #include "bench/sim/ServerWindow.h"
 #include "bench/sim/SimConsole.h"
 
+using namespace bench;
+
 int main(int argc, char** argv) {
     SimState state;
     std::mutex lock;

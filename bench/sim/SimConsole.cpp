@@ -6,6 +6,8 @@
 
 #include "base/Number.h"
 
+namespace bench {
+
 namespace {
 
 constexpr int64_t kLastOffset = OffsetServer::kSpaceSize - 1;
@@ -118,3 +120,5 @@ std::string SimConsole::Controls() {
     }
     return text.empty() ? "none" : text;
 }
+
+}  // namespace bench

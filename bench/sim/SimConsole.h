@@ -6,6 +6,8 @@
 #include "bench/console/Command.h"
 #include "bench/sim/SimState.h"
 
+namespace bench {
+
 // The console commands of the simulator stand-in.
 class SimConsole {
   public:
@@ -29,3 +31,5 @@ class SimConsole {
     SimState& state_;
     std::function<bool(bool)> showWindow_;
 };
+
+}  // namespace bench

@@ -5,6 +5,8 @@
 
 #include "base/Bytes.h"
 
+namespace bench {
+
 namespace {
 
 constexpr uint32_t kVersion = 0x3304;
@@ -64,3 +66,5 @@ void SimState::Damage(std::span<uint8_t> block) const {
             std::ranges::fill(block, uint8_t{0xFF});
     }
 }
+
+}  // namespace bench

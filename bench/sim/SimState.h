@@ -9,6 +9,8 @@
 #include "bench/sim/AircraftModel.h"
 #include "platform/virtual/OffsetServer.h"
 
+namespace bench {
+
 // What the simulator stand-in serves, and how: well or with one of its faults.
 class SimState {
   public:
@@ -48,3 +50,5 @@ class SimState {
     uint64_t batches_ = 0;
     std::vector<std::chrono::steady_clock::time_point> arrivals_;
 };
+
+}  // namespace bench

@@ -29,6 +29,9 @@ class Label : public Control {
     // the system's own text size.
     Property<int32_t, Control> FontHeight{*this, 195};
     Property<Alignment, Control> Align{*this, Alignment::Left};
+    // Whether the places of a SevenSegment face have points. Where they don't, a point of the
+    // caption takes a place of its own, which is blank.
+    Property<bool, Control> HasPoints{*this, true};
 
     void Accept(ControlVisitor& visitor) override;
 };

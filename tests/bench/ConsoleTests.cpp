@@ -7,6 +7,8 @@
 #include "bench/panels/VirtualPanel.h"
 #include "bench/sim/SimConsole.h"
 
+using namespace bench;
+
 namespace {
 
 TEST(ConsoleTest, SetsAndGetsAndAnswersNonsenseWithAnError) {

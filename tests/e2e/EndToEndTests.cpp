@@ -14,7 +14,10 @@
 #include "bench/driver/Cockpit.h"
 #include "bench/driver/TypingField.h"
 #include "bench/driver/Until.h"
+#include "bench/flight/Pilot.h"
 #include "bench/flight/ScriptedFlight.h"
+
+using namespace bench;
 
 namespace {
 
@@ -50,6 +53,17 @@ class EndToEnd : public testing::Test {
             << ", window: " << (cockpit_->MainWindow() != nullptr);
     }
 
+    bool Fly(const std::vector<Step>& steps) {
+        return Pilot(*cockpit_, FlightLog(false)).Fly(steps);
+    }
+
+    // Another aircraft is loaded, and its profile comes into force.
+    bool ChangeAircraft(const std::string& title, const std::string& profile) {
+        cockpit_->Simulator("title \"" + title + '"');
+        return cockpit_->StatusBecomes(3, "Aircraft in use: " + title, kSoonMs) &&
+               Fly({{"profile", "", profile}});
+    }
+
     void ExpectQuits() {
         EXPECT_TRUE(cockpit_->QuitByUser());
         EXPECT_EQ(cockpit_->Orvo().WaitForEnd(0), 0u);
@@ -79,7 +93,7 @@ std::string AnswerBox(const Cockpit& cockpit, const std::string& title, int butt
 }
 
 TEST_F(EndToEnd, FliesTheScriptedFlight) {
-    EXPECT_TRUE(ScriptedFlight(*cockpit_, FlightLog(false)).Fly());
+    EXPECT_TRUE(FlyScriptedFlight(*cockpit_, FlightLog(false)));
 }
 
 TEST_F(EndToEnd, ProfilesFollowTheTitleAndTheUsersChoice) {
@@ -87,22 +101,18 @@ TEST_F(EndToEnd, ProfilesFollowTheTitleAndTheUsersChoice) {
     cockpit_->WriteIni(lists);
     cockpit_->WriteFile("Second.ini", "[MultiPanel1]\r\nButtonActionHDG=VButton,72,32\r\n");
     StartConnected();
-    const FlightChecks flight(*cockpit_, FlightLog(false));
-    const auto press = [&](const char* writes) {
-        flight.Do("press HDG");
-        return flight.ExpectWrites({"07C8", "3360"}, writes);
-    };
-    EXPECT_TRUE(flight.ExpectStatus(3, "Aircraft in use: Bench Trainer"));
-    EXPECT_TRUE(flight.ChangeAircraft("[A]=1; 100%", "Default"));
-    EXPECT_TRUE(press("07C8:01000000"));
-    EXPECT_TRUE(flight.ChangeAircraft("B 737", "Second"));
-    EXPECT_TRUE(press("3360:00000080 3360:00000000"));
-    EXPECT_TRUE(flight.ChangeAircraft("[A]=1; 100%", "Default"));
-    EXPECT_TRUE(press("07C8:00000000"));
+    EXPECT_TRUE(ChangeAircraft("Bench Trainer", "Default"));
+    EXPECT_TRUE(ChangeAircraft("[A]=1; 100%", "Default"));
+    EXPECT_TRUE(Fly({{"multi1", "press HDG", "", "0810:00000000 07C8:01000000"}}));
+    EXPECT_TRUE(ChangeAircraft("B 737", "Second"));
+    EXPECT_TRUE(Fly({{"multi1", "press HDG", "", "3360:00000080 3360:00000000"}}));
+    EXPECT_TRUE(ChangeAircraft("[A]=1; 100%", "Default"));
+    EXPECT_TRUE(Fly({{"multi1", "press HDG", "", "07C8:00000000"}}));
     const HWND combo = FindChild(cockpit_->MainWindow(), "ComboBox", std::nullopt);
     EXPECT_EQ(ComboTexts(combo), (std::vector<std::string>{"Second", "Default"}));
-    EXPECT_TRUE(ChooseInCombo(combo, 0) && flight.ExpectProfile("Second"));
-    EXPECT_TRUE(press("3360:00000080 3360:00000000"));
+    EXPECT_TRUE(ChooseInCombo(combo, 0));
+    EXPECT_TRUE(Fly(
+        {{"profile", "", "Second"}, {"multi1", "press HDG", "", "3360:00000080 3360:00000000"}}));
     EXPECT_EQ(cockpit_->ReadFile("Orvo.ini"),
               lists + "Bench Trainer=Default\r\n%5BA]%3D1; 100%25=Default\r\n");
     ExpectQuits();
@@ -116,11 +126,10 @@ TEST_F(EndToEnd, KeystrokesGoToTheWindowInFocus) {
     StartConnected();
     const TypingField field;
     ASSERT_TRUE(field.TakeFocus());
-    const FlightChecks flight(*cockpit_, FlightLog(false));
-    for (const char* act : {"selector HDG", "press NAV", "press APR", "knob +2 60"}) flight.Do(act);
+    EXPECT_TRUE(Fly({{"multi1", "selector HDG; press NAV; press APR; knob +2 60"}}));
     EXPECT_TRUE(Until(kSoonMs, [&] { return field.Text() == "aAcc"; })) << field.Text();
     field.Clear();
-    flight.Do("press AP 800");
+    EXPECT_TRUE(Fly({{"multi1", "press AP 800"}}));
     EXPECT_TRUE(Until(kSoonMs, [&] { return field.Keys() == "+16 +17 +9 +66 -66 -9 -17 -16"; }))
         << field.Keys();
     ExpectQuits();
@@ -131,28 +140,22 @@ TEST_F(EndToEnd, TheRadioPanelTunesAndSwapsAndDoesWhatTheProfileSays) {
         "Default.ini",
         "[RadioPanel1]\r\nButtonActionCOM1=VButton,64,1\r\nInnRotUpNAV1=VKey,65,0,97\r\n");
     StartConnected({"radio1"});
-    const FlightChecks flight(*cockpit_, FlightLog(false));
-    const auto expect = [&](const RadioRow& upper, const RadioRow& lower) {
-        return flight.ExpectPanel(RadioShows(upper, lower), "radio1");
-    };
-    flight.Do("lower COM2", "radio1");
-    ASSERT_TRUE(expect({"118.10", "119.52"}, {"121.50", "123.45"}));
+    ASSERT_TRUE(
+        Fly({{"radio1", "lower COM2", R"(upper "118.10" "119.52" lower "121.50" "123.45")"}}));
     cockpit_->Panels("reports radio1");
-    for (const char* act : {"lower-inner -1 60", "press lower"}) flight.Do(act, "radio1");
-    EXPECT_TRUE(expect({"118.10", "119.52"}, {"123.42", "121.50"}));
+    EXPECT_TRUE(Fly({{"radio1", "lower-inner -1 60; press lower",
+                      R"(upper "118.10" "119.52" lower "123.42" "121.50")", "311C:4223 3123:04"}}));
     // Behind the digits are the two bytes that the light show has left.
     EXPECT_EQ(cockpit_->Panels("reports radio1"),
               "000101D801000101D905020102D105000102D30402FFFF "
               "000101D801000101D905020102D304020102D10500FFFF");
-    flight.Do("press upper", "radio1");
-    EXPECT_TRUE(flight.ExpectWrites({"311A", "311C", "3123", "3340"},
-                                    "311C:4223 3123:04 3340:01000000 3340:00000000"));
+    EXPECT_TRUE(Fly({{"radio1", "press upper", "", "3340:01000000 3340:00000000"}}));
 
     const TypingField field;
     ASSERT_TRUE(field.TakeFocus());
-    for (const char* act : {"upper NAV1", "upper-inner +2 60"}) flight.Do(act, "radio1");
+    EXPECT_TRUE(Fly({{"radio1", "upper NAV1; upper-inner +2 60",
+                      R"(upper "110.50" "112.30" lower "123.42" "121.50")"}}));
     EXPECT_TRUE(Until(kSoonMs, [&] { return field.Text() == "aa"; })) << field.Text();
-    EXPECT_TRUE(expect({"110.50", "112.30"}, {"123.42", "121.50"}));
     ExpectQuits();
 }
 
@@ -162,30 +165,30 @@ TEST_F(EndToEnd, SwitchesMoveTheAircraftAndTilesTellOfIt) {
                         "[SwitchPanel1]\r\nSwitchTAXIOn=VButton,64,2\r\n"
                         "[BIPPanel1]\r\nT0=COMBINED_GEAR\r\nT9=LEFT_FUEL_LOW,Red,51\r\n");
     StartConnected({"switch1", "bip1"});
-    const FlightChecks flight(*cockpit_, FlightLog(false));
-    const auto expect = [&](const char* gear, const char* tiles) {
-        return flight.ExpectPanel(GearShows(gear), "switch1") && flight.ExpectPanel(tiles, "bip1");
-    };
-    ASSERT_TRUE(expect("green", "tiles 0 green 9 red"));
+    const std::vector<Step> gearIsDown = {{"switch1", "", "gear nose green left green right green"},
+                                          {"bip1", "", "tiles 0 green 9 red"}};
+    ASSERT_TRUE(Fly(gearIsDown));
     const std::string first = cockpit_->Panels("reports bip1");
     EXPECT_TRUE(first.starts_with("B200 B2000000000000 B200 B2000000000000 B205 B20A B20F "))
         << first;
     EXPECT_TRUE(first.ends_with(" B264 B8000000000000 B8010000000000 B8010000000200")) << first;
 
     // The first of them is told as a change of all switches, avionics among them.
-    for (const char* act : {"bat on", "avionics on", "landing on", "taxi on"}) {
-        flight.Do(act, "switch1");
-    }
-    EXPECT_TRUE(flight.ExpectWrites({"3102", "3103", "0BE8", "0D0C", "3340"},
-                                    "3102:01 3103:00 0BE8:FF3F0000 3103:01 0D0C:0400 "
-                                    "3340:02000000 3340:00000000"));
-    ASSERT_TRUE(expect("green", "tiles 0 green 9 red"));
+    EXPECT_TRUE(
+        Fly({{"switch1", "bat on", "",
+              "0892:0000 092A:0000 09C2:0000 0A5A:0000 3102:01 "
+              "3B78:00000000 3AB8:00000000 39F8:00000000 3938:00000000 3103:00 3125:00 "
+              "08B2:0000 094A:0000 09E2:0000 0A7A:0000 029C:00 "
+              "37F0:000000000000F03F 3730:000000000000F03F 3670:000000000000F03F "
+              "35B0:000000000000F03F 0BE8:FF3F0000"},
+             {"switch1", "avionics on", "", "3103:01"},
+             {"switch1", "landing on; taxi on", "", "0D0C:0400 3340:02000000 3340:00000000"}}));
+    ASSERT_TRUE(Fly(gearIsDown));
     for (const char* panel : {"switch1", "bip1"}) {
         cockpit_->Panels(std::string("reports ") + panel);
     }
-    flight.Do("gear up", "switch1");
-    EXPECT_TRUE(flight.ExpectWrites({"0BE8"}, "0BE8:00000000"));
-    EXPECT_TRUE(expect("off", "tiles 9 red"));
+    EXPECT_TRUE(Fly({{"switch1", "gear up", "gear nose off left off right off", "0BE8:00000000"},
+                     {"bip1", "", "tiles 9 red"}}));
     EXPECT_EQ(cockpit_->Panels("reports switch1"), "0038 0000");
     EXPECT_EQ(cockpit_->Panels("reports bip1"), "B8000000010200 B8000000000200");
     ExpectQuits();
@@ -212,9 +215,7 @@ TEST_F(EndToEnd, OldFileBecomesTheDefaultProfile) {
               "Converting to the new format will put actual settings into Default Profile.");
     ASSERT_TRUE(cockpit_->StatusBecomes(3, "Aircraft in use: Bench Trainer", kSoonMs));
     EXPECT_EQ(cockpit_->ReadFile("Default.ini"), old);
-    const FlightChecks flight(*cockpit_, FlightLog(false));
-    flight.Do("press HDG");
-    EXPECT_TRUE(flight.ExpectWrites({"07C8", "3340"}, "3340:01000000 3340:00000000"));
+    EXPECT_TRUE(Fly({{"multi1", "press HDG", "", "0810:00000000 3340:01000000 3340:00000000"}}));
     ExpectQuits();
 }
 

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include "panels/multi/MultiPanelPicture.h"
+#include "panels/radio/RadioPanelPicture.h"
 #include "platform/virtual/VirtualScreen.h"
 #include "platform/virtual/VirtualTray.h"
 #include "toolkit/HeadlessUi.h"
@@ -35,6 +37,18 @@ TEST(PlaceFormTest, SavedPlacesMustLieInsideTheWorkArea) {
         PlaceForm(form, test.left, test.top, monitors, screen);
         EXPECT_EQ(form.Left, test.placedLeft);
         EXPECT_EQ(form.Top, test.placedTop);
+    }
+}
+
+TEST(PanelDrawingTest, OnlyTheRadioPanelsDisplaysHavePoints) {
+    HeadlessUi ui;
+    Form form(ui);
+    Picture panel(&form);
+    const MultiPanelPicture multi(panel);
+    EXPECT_FALSE(multi.labUpperValue.HasPoints || multi.labLowerValue.HasPoints);
+    const RadioPanelPicture radio(panel);
+    for (const int side : {1, 2}) {
+        EXPECT_TRUE(radio.At(side).labActive.HasPoints && radio.At(side).labStandby.HasPoints);
     }
 }
 

@@ -81,6 +81,8 @@ void MultiPanelPicture::PlaceButtons(Picture& panel) {
 void MultiPanelPicture::PlaceLabels() {
     PlaceDisplay(labUpperValue, 3110, 330, 2500, 600);
     PlaceDisplay(labLowerValue, 3110, 1230, 2500, 600);
+    labUpperValue.HasPoints = false;
+    labLowerValue.HasPoints = false;
     const auto placeMode = [](Label& label, int32_t top) {
         label.Face = FontFace::Bold;
         label.ForeColor = kPrint;

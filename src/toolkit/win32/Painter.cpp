@@ -99,7 +99,8 @@ void Painter::Visit(Label& label) {
     if (label.Face == FontFace::SevenSegment) {
         SaveDC(dc_);
         IntersectClipRect(dc_, area.left, area.top, area.right, area.bottom);
-        DrawSevenSegment(dc_, area, label.Caption, label.Align, Scaled(label.FontHeight), color);
+        DrawSevenSegment(dc_, area, ToSegmentCells(label.Caption, label.HasPoints), label.Align,
+                         Scaled(label.FontHeight), color);
         RestoreDC(dc_, -1);
         return;
     }

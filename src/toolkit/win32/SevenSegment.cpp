@@ -115,10 +115,10 @@ class Digits {
 
 }  // namespace
 
-std::vector<SegmentCell> ToSegmentCells(const std::string& text) {
+std::vector<SegmentCell> ToSegmentCells(const std::string& text, bool hasPoints) {
     std::vector<SegmentCell> cells;
     for (const char character : text) {
-        const bool point = character == '.' || character == ',';
+        const bool point = hasPoints && (character == '.' || character == ',');
         if (point && !cells.empty() && !cells.back().point) {
             cells.back().point = true;
         } else {
@@ -128,14 +128,13 @@ std::vector<SegmentCell> ToSegmentCells(const std::string& text) {
     return cells;
 }
 
-void DrawSevenSegment(HDC dc, const RECT& area, const std::string& text, Alignment align,
+void DrawSevenSegment(HDC dc, const RECT& area, std::vector<SegmentCell> cells, Alignment align,
                       int digitHeight, COLORREF lit) {
     if (digitHeight <= 0) return;
     const Measures measures(digitHeight);
     const double last = measures.width + measures.height * kLean;
     const double width = area.right - area.left;
     const auto places = static_cast<size_t>(std::max(1.0, (width - last) / measures.advance + 1));
-    std::vector<SegmentCell> cells = ToSegmentCells(text);
     if (align == Alignment::Right && cells.size() > places) {
         cells.erase(cells.begin(), cells.end() - static_cast<std::ptrdiff_t>(places));
     }

@@ -17,12 +17,12 @@ struct SegmentCell {
     bool operator==(const SegmentCell&) const = default;
 };
 
-// The places that a text takes: a point or comma belongs to the digit before it. What the display
-// can't show is blank.
-std::vector<SegmentCell> ToSegmentCells(const std::string& text);
+// The places that a text takes: a point or comma belongs to the digit before it, on displays that
+// have points. What the display can't show is blank.
+std::vector<SegmentCell> ToSegmentCells(const std::string& text, bool hasPoints);
 
-// Draws as many places as the area is wide for; the text stands at the left, the right or in the
-// middle of them, and the places that it leaves, like its unlit segments, show faintly. Of a text
-// that is too long the first places are left out at the right, else the last ones.
-void DrawSevenSegment(HDC dc, const RECT& area, const std::string& text, Alignment align,
+// Draws as many places as the area is wide for; the cells stand at the left, the right or in the
+// middle of them, and the places that they leave, like their unlit segments, show faintly. Of too
+// many cells the first are left out at the right, else the last.
+void DrawSevenSegment(HDC dc, const RECT& area, std::vector<SegmentCell> cells, Alignment align,
                       int digitHeight, COLORREF lit);

@@ -20,6 +20,9 @@
 #include "platform/win32/Win32PanelLink.h"
 #include "platform/win32/Win32Tray.h"
 
+using bench::TypingField;
+using bench::Until;
+
 namespace {
 
 using Report = std::array<uint8_t, 4>;

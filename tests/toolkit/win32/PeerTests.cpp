@@ -57,10 +57,10 @@ COLORREF PixelOf(const Control& control, int x, int y) {
 }
 
 // What a display of five places shows of a text.
-std::vector<COLORREF> Drawn(const std::string& text, Alignment align) {
+std::vector<COLORREF> Drawn(const std::string& text, Alignment align, bool hasPoints = true) {
     const RECT area{0, 0, 167, 40};
     Canvas canvas(area);
-    DrawSevenSegment(canvas.Dc(), area, text, align, 40, 0xFFFFFF);
+    DrawSevenSegment(canvas.Dc(), area, ToSegmentCells(text, hasPoints), align, 40, 0xFFFFFF);
     std::vector<COLORREF> pixels;
     for (int y = 0; y < area.bottom; ++y) {
         for (int x = 0; x < area.right; ++x) pixels.push_back(GetPixel(canvas.Dc(), x, y));
@@ -447,8 +447,39 @@ TEST(SevenSegmentTest, TooLongATextLosesItsFirstPlacesAtTheRightAndElseItsLast) 
 
 TEST(SevenSegmentTest, PointJoinsTheDigitBeforeItAndLettersAreBlank) {
     const SegmentCell blank{};
-    EXPECT_EQ(ToSegmentCells("-1.8,"),
+    EXPECT_EQ(ToSegmentCells("-1.8,", true),
               (std::vector<SegmentCell>{{0x40, false}, {0x06, true}, {0x7F, true}}));
-    EXPECT_EQ(ToSegmentCells(" A"), (std::vector<SegmentCell>{blank, blank}));
-    EXPECT_EQ(ToSegmentCells("..").size(), 2u);
+    EXPECT_EQ(ToSegmentCells(" A", true), (std::vector<SegmentCell>{blank, blank}));
+    EXPECT_EQ(ToSegmentCells("..", true).size(), 2u);
+}
+
+TEST(SevenSegmentTest, PointIsABlankPlaceOfADisplayThatHasNone) {
+    EXPECT_EQ(Drawn("0.780", Alignment::Right, false), Drawn("0 780", Alignment::Right));
+    EXPECT_EQ(Drawn("10,780", Alignment::Right, false), Drawn("0 780", Alignment::Right));
+    EXPECT_NE(Drawn("0.780", Alignment::Right), Drawn("0 780", Alignment::Right));
+}
+
+TEST_F(PeerTest, DisplayOfAPictureIsDrawnAnewWithoutItsPoints) {
+    Picture picture(&form);
+    picture.Move(0, 0, 3000, 1500);
+    Label display(&picture);
+    display.Move(0, 0, 2500, 600);
+    display.Face = FontFace::SevenSegment;
+    display.Align = Alignment::Right;
+    display.FontHeight = 600;
+    display.ForeColor = 0xFFFFFFU;
+    Show();
+    const auto shown = [&](const char* text, bool hasPoints) {
+        display.Caption = text;
+        display.HasPoints = hasPoints;
+        Pump();
+        std::vector<COLORREF> pixels;
+        for (int y = 0; y < 40; ++y) {
+            for (int x = 0; x < 166; ++x) pixels.push_back(PixelOf(picture, x, y));
+        }
+        return pixels;
+    };
+    const std::vector<COLORREF> withPoint = shown("0.780", true);
+    EXPECT_NE(shown("0.780", false), withPoint);
+    EXPECT_EQ(shown("0.780", false), shown("0 780", true));
 }
