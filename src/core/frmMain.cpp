@@ -34,6 +34,7 @@ frmMain::frmMain(const MainServices& services)
       timerFSUIPC(services.platform.loop, kWaitingIntervalMs),
       Binding({services.session, services.profiles, services.generalSetup, services.windows,
                cmbProfiles, Panels}),
+      Files(services.platform.clock, services.platform.process, services.generalSetup, Binding),
       services_(services),
       aircraftTitle_(services.session.OffsetTable, "AIRCRAFT") {
     Caption = "  ORVO    v0.5.1";
@@ -150,7 +151,7 @@ void frmMain::AskQuit() {
 void frmMain::SavePosition() {
     services_.generalSetup.MainFormTop = Top;
     services_.generalSetup.MainFormLeft = Left;
-    services_.generalSetup.SaveSetup();
+    Files.SaveAll();
 }
 
 void frmMain::CloseDown() {

@@ -12,6 +12,7 @@
 #include "config/cSetupHolder.h"
 #include "core/AircraftBinding.h"
 #include "core/PanelUnit.h"
+#include "core/PendingFiles.h"
 #include "platform/Platform.h"
 #include "platform/Timer.h"
 #include "simlink/actions/EventOutput.h"
@@ -77,6 +78,7 @@ class frmMain : public Form {
     ctlTrayArea trayMain;
     Timer timerFSUIPC;
     AircraftBinding Binding;
+    PendingFiles Files;
 
   private:
     static constexpr uint32_t kWaitingIntervalMs = 1000;  // of the search for the simulator

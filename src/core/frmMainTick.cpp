@@ -18,6 +18,7 @@ std::string SimulatorName(int32_t number) {
 }  // namespace
 
 void frmMain::timerFSUIPC_Timer() {
+    Files.Tick();
     if (services_.session.FSConnected) {
         Poll();
     } else {
