@@ -103,7 +103,7 @@ bool IniText::DeleteSection(std::string_view section) {
 void IniText::ReplaceSection(std::string_view section, const IniEntries& entries) {
     while (DeleteSection(section)) {
     }
-    lines_.push_back(Parse('[' + std::string(section) + ']'));
+    if (!entries.empty()) lines_.push_back(Parse('[' + std::string(section) + ']'));
     for (const auto& [key, value] : entries) lines_.push_back(Parse(key + '=' + value));
 }
 

@@ -19,6 +19,8 @@ std::string SimulatorName(int32_t number) {
 
 void frmMain::timerFSUIPC_Timer() {
     Files.Tick();
+    // The user may have been asked for a profile, and have quit meanwhile.
+    if (IsUnloaded()) return;
     if (services_.session.FSConnected) {
         Poll();
     } else {

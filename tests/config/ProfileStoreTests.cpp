@@ -137,6 +137,8 @@ TEST_F(ProfileStoreTest, NamesThatLeadElsewhereAreNoProfiles) {
     store.AddAircraft("E", "Jet");
     EXPECT_EQ(Saved(store), lists + "E=Jet\r\n") << "the file stays as it is";
     machine.files.Put("C:\\x.ini", "[S]\r\nk=1\r\n");
+    ProfileStore none = Started("[Profiles]\r\nOrvo= \r\n[Aircrafts]\r\nA=Jet\r\n");
+    EXPECT_EQ(Saved(none), "[Aircrafts]\r\nA=Jet\r\n") << "no name, no section";
     for (const char* name : {"..\\x", "C:\\x", "\\..\\x", "Orvo"}) {
         store.CurrentProfile = name;
         EXPECT_EQ(store.ReadProfile("S"), IniEntries()) << name;

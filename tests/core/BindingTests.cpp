@@ -170,6 +170,22 @@ TEST_F(BindingTest, AircraftIsBoundWhenTheListCanBeRead) {
     ExpectBound("New=Plain\r\n");
 }
 
+TEST_F(BindingTest, ProgramMayEndWhileTheUserIsAskedLate) {
+    machine.files.Hold("C:\\Orvo\\Orvo.ini");
+    Fly("ManualProfile=1\r\nAutoQuit=1\r\n");
+    beforeAnswer = [this] {
+        LoseSimulator();
+        machine.ipc.AddWindow("UIPCMAIN");
+    };
+    With("Cessna");
+    machine.files.Hold("");
+    machine.loop.Advance(2000);
+    EXPECT_EQ(asked, std::vector<std::string>{"Cessna"});
+    EXPECT_TRUE(Window().IsUnloaded());
+    EXPECT_FALSE(program->Session.FSConnected);
+    ExpectBound("");
+}
+
 TEST_F(BindingTest, BindingThatCouldNotBeWrittenIsWrittenLater) {
     Fly();
     machine.files.Hold("C:\\Orvo\\Orvo.ini");
