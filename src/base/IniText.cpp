@@ -104,7 +104,11 @@ void IniText::ReplaceSection(std::string_view section, const IniEntries& entries
     while (DeleteSection(section)) {
     }
     if (!entries.empty()) lines_.push_back(Parse('[' + std::string(section) + ']'));
-    for (const auto& [key, value] : entries) lines_.push_back(Parse(key + '=' + value));
+    std::string line;
+    for (const auto& [key, value] : entries) {
+        line.assign(key).append(1, '=').append(value);
+        lines_.push_back(Parse(line));
+    }
 }
 
 std::string IniText::Text() const {
