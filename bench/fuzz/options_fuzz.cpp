@@ -9,12 +9,11 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     VirtualPlatform machine;
     machine.files.Put("C:\\Orvo\\Orvo.ini", "[GeneralSetup]\n" + std::string(data, data + size));
     cSetupHolder setup(machine.ini, machine.files, machine.registry, "C:\\Orvo");
-    setup.LoadSetup();
-    setup.SaveSetup();
+    const bool saved = setup.LoadSetup() && setup.SaveSetup();
     cSetupHolder again(machine.ini, machine.files, machine.registry, "C:\\Orvo");
-    again.LoadSetup();
-    if (again.AutoQuit != setup.AutoQuit || again.ClickThreshold != setup.ClickThreshold ||
-        again.OrvoAffinity != setup.OrvoAffinity || again.MainFormLeft != setup.MainFormLeft) {
+    if (!saved || !again.LoadSetup() || again.AutoQuit != setup.AutoQuit ||
+        again.ClickThreshold != setup.ClickThreshold || again.OrvoAffinity != setup.OrvoAffinity ||
+        again.MainFormLeft != setup.MainFormLeft) {
         std::abort();
     }
     return 0;

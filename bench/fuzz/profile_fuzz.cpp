@@ -12,10 +12,9 @@
 
 namespace {
 
-// Beyond this the keys of a panel may not fit into one listing.
 constexpr size_t kLongestBindings = 6000;
 constexpr size_t kLongestTitle = 255;
-constexpr size_t kLongestLists = 20000;  // two listings and more
+constexpr size_t kLongestLists = 20000;
 
 void Require(bool holds) {
     if (!holds) std::abort();
@@ -41,8 +40,7 @@ void CheckLists(const std::string& text) {
     ProfileStore profiles = Started(machine);
     const std::string added = '\1' + text.substr(0, kLongestTitle);
     profiles.AddAircraft(added, "Default");
-    profiles.SaveProfileList();
-    profiles.SaveAircraftList();
+    Require(profiles.SaveProfileList() && profiles.SaveAircraftList());
     const ProfileStore again = Started(machine);
     Require(again.ProfileNames() == profiles.ProfileNames());
     Require(again.ProfileOfAircraft(added) == "Default");
@@ -81,13 +79,13 @@ void CheckBindings(const std::string& section, const std::string& text,
     Holder holder(profiles), again(profiles);
     holder.Index = again.Index = 1;
     holder.LoadSetup();
-    holder.SaveSetup();
+    Require(holder.SaveSetup());
     again.LoadSetup();
     if (check) check(holder, again);
     profiles.CurrentProfile = "Loaded";
-    holder.SaveSetup();
+    Require(holder.SaveSetup());
     profiles.CurrentProfile = "Again";
-    again.SaveSetup();
+    Require(again.SaveSetup());
     Require(machine.files.Look("C:\\Orvo\\Loaded.ini") ==
             machine.files.Look("C:\\Orvo\\Again.ini"));
 }

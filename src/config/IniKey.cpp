@@ -4,14 +4,12 @@
 
 namespace {
 
-bool IsBlank(char c) { return c == ' ' || c == '\xA0'; }
-
 bool MustBeEscaped(std::string_view text, size_t at) {
     const char c = text[at];
     const auto code = static_cast<unsigned char>(c);
-    if (code < 0x20 || code == 0x7F || c == '=' || c == '%') return true;
+    if (code < 0x20 || code >= 0x7F || c == '=' || c == '%') return true;
     if (at == 0 && (c == '[' || c == ';')) return true;
-    return IsBlank(c) && (at == 0 || at + 1 == text.size());
+    return c == ' ' && (at == 0 || at + 1 == text.size());
 }
 
 }  // namespace

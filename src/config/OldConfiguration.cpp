@@ -1,11 +1,11 @@
 #include "config/OldConfiguration.h"
 
 #include <algorithm>
-#include <vector>
+#include <optional>
 
 #include "base/Number.h"
 #include "base/Text.h"
-#include "config/cInifile.h"
+#include "config/IniFiles.h"
 
 namespace {
 
@@ -18,13 +18,8 @@ const MsgBoxRequest kQuestion = {
 
 constexpr int kLastKeptName = 999;
 
-bool IsOld(IniService& service, const std::string& path) {
-    cInifile ini(service);
-    ini.Path = path;
-    std::vector<std::string> sections;
-    int32_t count = 0;
-    ini.EnumerateAllSections(sections, count);
-    return std::ranges::any_of(sections, [](const std::string& section) {
+bool IsOld(const IniText& text) {
+    return std::ranges::any_of(text.Sections(), [](const std::string& section) {
         return EqualNoCase(section, "multipanel1") || EqualNoCase(section, "radiopanel1") ||
                EqualNoCase(section, "switchpanel1");
     });
@@ -54,9 +49,11 @@ void Convert(FilePort& files, const std::string& folder) {
 }  // namespace
 
 bool ConvertOldConfiguration(IniService& ini, FilePort& files, UiBackend& ui,
-                             const std::string& programFolder) {
-    const std::string path = programFolder + "\\Orvo.ini";
-    if (!files.Exists(path) || !IsOld(ini, path)) return true;
+                             const std::string& programFolder, Patience& patience) {
+    const IniFiles reader(ini, files);
+    std::optional<IniText> text;
+    patience.Try([&] { return (text = reader.Read(programFolder + "\\Orvo.ini")).has_value(); });
+    if (!text || !IsOld(*text)) return true;
     if (ui.MsgBox(kQuestion) == MsgBoxResult::Cancel) return false;
     Convert(files, programFolder);
     return true;

@@ -5,7 +5,6 @@
 
 #include "base/Text.h"
 #include "config/IniKey.h"
-#include "config/IniSave.h"
 
 namespace {
 
@@ -14,8 +13,6 @@ constexpr const char* kNoValue = " ";  // a profile's key says all
 constexpr const char* kAircrafts = "Aircrafts";
 
 constexpr const char* kGlobalFile = "Orvo";  // the file with the lists
-
-constexpr int kMostSections = 100;
 
 // Names whose files are no profiles: that of the lists, and those that the system keeps for
 // devices.
@@ -28,19 +25,10 @@ bool IsReserved(std::string_view name) {
            (EqualNoCase(kind, "COM") || EqualNoCase(kind, "LPT"));
 }
 
-bool DeleteKeys(cInifile& ini, const IniEntries& entries) {
-    return std::ranges::all_of(entries, [&ini](const auto& entry) {
-        ini.Key = entry.first;
-        ini.DeleteKey();
-        return ini.Success();
-    });
-}
-
 }  // namespace
 
 ProfileStore::ProfileStore(IniService& ini, FilePort& files, std::string programFolder)
-    : ini_(ini),
-      files_(files),
+    : files_(ini, files),
       programFolder_(std::move(programFolder)),
       path_(programFolder_ + '\\' + kGlobalFile + ".ini") {}
 
@@ -51,60 +39,75 @@ void ProfileStore::LoadProfileList() {
 
 void ProfileStore::LoadAircraftList() {
     aircrafts_.clear();
+    aircraftPlaces_.clear();
     aircraftsWhole_ = ReadAircraftList();
 }
 
 // Adds what isn't known yet, before "Default".
 bool ProfileStore::ReadProfileList() {
-    IniEntries entries;
-    const bool whole = ReadSection(kProfiles, entries);
+    const auto text = files_.Read(path_);
+    if (!text) return false;
     profilesInFile_.clear();
-    for (const auto& [name, value] : entries) {
-        if (ProfileNameFree(name)) profileNames_.insert(profileNames_.end() - 1, name);
+    unusableNames_.clear();
+    for (const std::string& name : text->Keys(kProfiles)) {
         profilesInFile_.emplace_back(name, kNoValue);
+        if (!ProfileNameValid(name)) {
+            unusableNames_.push_back(name);
+        } else if (ProfileNameFree(name)) {
+            profileNames_.insert(profileNames_.end() - 1, name);
+        }
     }
-    return whole;
+    return true;
 }
 
 // What the file says counts before what has been bound meanwhile.
 bool ProfileStore::ReadAircraftList() {
-    aircraftsInFile_.clear();
-    const bool whole = ReadSection(kAircrafts, aircraftsInFile_);
+    const auto text = files_.Read(path_);
+    if (!text) return false;
+    aircraftsInFile_ = text->Entries(kAircrafts);
     const std::vector<Aircraft> bound = std::exchange(aircrafts_, {});
+    aircraftPlaces_.clear();
     for (const auto& [key, profile] : aircraftsInFile_) AddAircraft(FromIniKey(key), profile);
     for (const Aircraft& each : bound) AddAircraft(each.title, each.profile);
-    return whole;
+    return true;
 }
 
 bool ProfileStore::ReadWhatIsMissing() {
-    const size_t names = profileNames_.size();
     if (!profilesWhole_) profilesWhole_ = ReadProfileList();
     if (!aircraftsWhole_) aircraftsWhole_ = ReadAircraftList();
-    return profileNames_.size() != names;
+    return profilesWhole_ && aircraftsWhole_;
 }
 
-void ProfileStore::SaveProfileList() {
-    if (!profilesWhole_) return;
+bool ProfileStore::SaveProfileList() {
+    if (!profilesWhole_) return false;
     IniEntries entries;
     for (const std::string& name : profileNames_) {
         if (name != kDefault) entries.emplace_back(name, kNoValue);
     }
-    RewriteSection(kProfiles, std::move(entries), profilesInFile_);
+    for (const std::string& name : unusableNames_) entries.emplace_back(name, kNoValue);
+    return SaveList(kProfiles, std::move(entries), profilesInFile_);
 }
 
-void ProfileStore::SaveAircraftList() {
-    if (!aircraftsWhole_) return;
+bool ProfileStore::SaveAircraftList() {
+    if (!aircraftsWhole_) return false;
     IniEntries entries;
     for (const Aircraft& each : aircrafts_) {
         entries.emplace_back(ToIniKey(each.title), each.profile);
     }
-    RewriteSection(kAircrafts, std::move(entries), aircraftsInFile_);
+    return SaveList(kAircrafts, std::move(entries), aircraftsInFile_);
+}
+
+// `inFile` is what the file says as far as we know; it is left alone when that is all.
+bool ProfileStore::SaveList(const char* section, IniEntries entries, IniEntries& inFile) {
+    if (entries == inFile) return true;
+    if (!files_.SaveSection(path_, section, entries)) return false;
+    inFile = std::move(entries);
+    return true;
 }
 
 const ProfileStore::Aircraft* ProfileStore::Find(std::string_view title) const {
-    const auto found = std::ranges::find_if(
-        aircrafts_, [title](const Aircraft& each) { return EqualNoCase(each.title, title); });
-    return found == aircrafts_.end() ? nullptr : &*found;
+    const auto found = aircraftPlaces_.find(ToLower(title));
+    return found == aircraftPlaces_.end() ? nullptr : &aircrafts_[found->second];
 }
 
 bool ProfileStore::AircraftKnown(std::string_view title) const { return Find(title) != nullptr; }
@@ -114,8 +117,15 @@ std::string ProfileStore::ProfileOfAircraft(std::string_view title) const {
     return aircraft ? aircraft->profile : std::string();
 }
 
+std::string ProfileStore::ProfileToFly(std::string_view title) const {
+    std::string profile = ProfileOfAircraft(title);
+    return profile.empty() || ProfileIndex(profile) != -1 ? profile : kDefault;
+}
+
 void ProfileStore::AddAircraft(std::string_view title, std::string_view profile) {
-    if (title.empty() || AircraftKnown(title)) return;
+    if (title.empty() || !aircraftPlaces_.try_emplace(ToLower(title), aircrafts_.size()).second) {
+        return;
+    }
     aircrafts_.push_back({std::string(title), std::string(profile)});
 }
 
@@ -136,54 +146,31 @@ bool ProfileStore::ProfileNameValid(std::string_view text) {
     });
 }
 
-cInifile ProfileStore::OpenProfile(std::string section) const {
-    cInifile ini(ini_);
-    ini.Path = ProfilePath();
-    ini.Section = std::move(section);
-    return ini;
+std::optional<IniText> ProfileStore::ProfileText() const {
+    if (!ProfileNameValid(CurrentProfile) || IsReserved(CurrentProfile)) return IniText("");
+    return files_.Read(ProfilePath());
 }
 
-void ProfileStore::SaveProfile(const std::function<bool(cInifile&)>& write) {
-    SaveIni(ini_, files_, ProfilePath(), write);
+std::optional<IniEntries> ProfileStore::ReadProfile(const std::string& section) {
+    std::optional<IniText> own;
+    const bool isRead = reading_ && reading_->profile == CurrentProfile;
+    if (!isRead) own = ProfileText();
+    const std::optional<IniText>& text = isRead ? reading_->text : own;
+    if (text) return text->Entries(section);
+    profileMissed_ = true;
+    return std::nullopt;
 }
 
-// Reads from a copy: one that could be made is whole, while the file itself may be held by another
-// program at this moment. One listing holds only so many keys; where there are more, those seen are
-// taken out of the copy, so that the next listing shows others.
-bool ProfileStore::ReadSection(const char* section, IniEntries& entries) const {
-    if (!files_.Exists(path_)) return true;
-    const std::string copy = path_ + ".new";
-    const bool copied = files_.Copy(path_, copy);
-    cInifile ini(ini_);
-    ini.Path = copied ? copy : path_;
-    ini.Section = section;
-    bool whole = copied;
-    for (bool more = true; more;) {
-        const IniEntries shown = ini.Entries();
-        entries.insert(entries.end(), shown.begin(), shown.end());
-        more = !ini.ListsAllKeys();
-        if (!more || (!shown.empty() && copied && DeleteKeys(ini, shown))) continue;
-        whole = more = false;
-    }
-    if (copied) files_.Delete(copy);
-    return whole;
+bool ProfileStore::SaveProfile(const std::string& section,
+                               const std::function<bool(IniSection&)>& write) {
+    if (!ProfileNameValid(CurrentProfile) || IsReserved(CurrentProfile)) return false;
+    return files_.Save(ProfilePath(), section, write);
 }
 
-// `inFile` is what the file says as far as we know; it is left alone when that is all.
-void ProfileStore::RewriteSection(const char* section, IniEntries entries, IniEntries& inFile) {
-    if (entries == inFile) return;
-    const bool saved = SaveIni(ini_, files_, path_, [&](cInifile& ini) {
-        ini.Section = section;
-        // Where a hand wrote the section twice, the second one comes to light when the first goes.
-        for (int left = kMostSections; left > 0 && !ini.INISection().empty(); --left) {
-            ini.DeleteSection();
-            if (!ini.Success()) return false;
-        }
-        return std::ranges::all_of(entries, [&ini](const auto& entry) {
-            ini.Key = entry.first;
-            ini.SetValue(entry.second);
-            return ini.Success();
-        });
-    });
-    if (saved) inFile = std::move(entries);
+ProfileReading::ProfileReading(ProfileStore& profiles)
+    : profiles_(profiles), before_(std::move(profiles.reading_)) {
+    profiles_.reading_ = ProfileStore::ReadText{profiles_.CurrentProfile, profiles_.ProfileText()};
+    profiles_.profileMissed_ = false;
 }
+
+ProfileReading::~ProfileReading() { profiles_.reading_ = std::move(before_); }

@@ -2,13 +2,13 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
-#include <utility>
+#include <unordered_map>
 #include <vector>
 
-#include "config/cInifile.h"
-#include "platform/FilePort.h"
+#include "config/IniFiles.h"
 
 // The profiles, the aircraft that are bound to them, and the way to the profiles' files. Both lists
 // stand in Orvo.ini; each profile has a file of its own beside it, which comes into being with the
@@ -25,16 +25,18 @@ class ProfileStore {
 
     void LoadProfileList();
     void LoadAircraftList();
-    // Another program may hold the file at that moment: reads what may be missing of the lists, if
-    // anything may. True when there are more names than before.
+    // Another program may hold the file at that moment: reads what is missing of the lists, if
+    // anything is. False while the file can't be read; the lists then aren't whole.
     bool ReadWhatIsMissing();
-    // The whole list or, when the file can't be written or couldn't be read as a whole, nothing.
-    void SaveProfileList();
-    void SaveAircraftList();
+    // The whole list or, when the file can't be written or hasn't been read, nothing; false then.
+    [[nodiscard]] bool SaveProfileList();
+    [[nodiscard]] bool SaveAircraftList();
 
     bool AircraftKnown(std::string_view title) const;
     // Empty when the aircraft is unknown.
     std::string ProfileOfAircraft(std::string_view title) const;
+    // The profile that the aircraft flies with: its own or, when that isn't in the list, "Default".
+    std::string ProfileToFly(std::string_view title) const;
     // For a title that isn't known yet and not empty; else it does nothing.
     void AddAircraft(std::string_view title, std::string_view profile);
 
@@ -47,37 +49,68 @@ class ProfileStore {
     // the system's devices are never free.
     bool ProfileNameFree(std::string_view name) const;
 
-    // A section of the current profile's file, for reading.
-    cInifile OpenProfile(std::string section) const;
-    // Changes the current profile's file. What `write` does through what it is given arrives as a
-    // whole, or not at all when it gives false.
-    void SaveProfile(const std::function<bool(cInifile&)>& write);
+    // The keys of a section of the current profile's file, with their values. Nothing while the
+    // file can't be read; a name that is none of a profile's has an empty file, which can't be
+    // saved.
+    std::optional<IniEntries> ReadProfile(const std::string& section);
+    // Whether ReadProfile has given nothing since the last ProfileReading began.
+    bool ProfileMissed() const { return profileMissed_; }
+    // Whether the current profile's file can be read at this moment.
+    bool ProfileReadable() const { return ProfileText().has_value(); }
+    // Changes a section of the current profile's file. What `write` does through what it is given
+    // arrives as a whole, or not at all when it gives false or the file can't be written; false
+    // then.
+    [[nodiscard]] bool SaveProfile(const std::string& section,
+                                   const std::function<bool(IniSection&)>& write);
 
     static constexpr const char* kDefault = "Default";
 
   private:
+    friend class ProfileReading;
+
     struct Aircraft {
         std::string title;
         std::string profile;
     };
+    struct ReadText {
+        std::string profile;
+        std::optional<IniText> text;
+    };
 
     const Aircraft* Find(std::string_view title) const;
     std::string ProfilePath() const { return programFolder_ + '\\' + CurrentProfile + ".ini"; }
+    std::optional<IniText> ProfileText() const;
+    // False while the file can't be read.
     bool ReadProfileList();
     bool ReadAircraftList();
-    // False when some entries may be missing.
-    bool ReadSection(const char* section, IniEntries& entries) const;
-    void RewriteSection(const char* section, IniEntries entries, IniEntries& inFile);
+    bool SaveList(const char* section, IniEntries entries, IniEntries& inFile);
 
-    IniService& ini_;
-    FilePort& files_;
+    const IniFiles files_;
     const std::string programFolder_;
     const std::string path_;
     std::vector<std::string> profileNames_{kDefault};
+    std::vector<std::string> unusableNames_;  // stay in the file, but can't be names of profiles
     std::vector<Aircraft> aircrafts_;
-    // The lists as the file has them, and whether all of them is in memory.
+    std::unordered_map<std::string, size_t> aircraftPlaces_;  // by title in lower case
+    // The lists as the file has them, and whether they are in memory.
     IniEntries profilesInFile_;
     IniEntries aircraftsInFile_;
     bool profilesWhole_ = true;
     bool aircraftsWhole_ = true;
+    std::optional<ReadText> reading_;
+    bool profileMissed_ = false;
+};
+
+// As long as it lives, all that ReadProfile gives of the profile that is current now comes from one
+// reading, so that no panel gets another state of the file than the rest.
+class ProfileReading {
+  public:
+    explicit ProfileReading(ProfileStore& profiles);
+    ProfileReading(const ProfileReading&) = delete;
+    ProfileReading& operator=(const ProfileReading&) = delete;
+    ~ProfileReading();
+
+  private:
+    ProfileStore& profiles_;
+    std::optional<ProfileStore::ReadText> before_;
 };

@@ -48,21 +48,6 @@ std::string cInifile::Names(const std::optional<std::string>& section) const {
     return {buffer.data(), length};
 }
 
-IniEntries cInifile::Entries() const {
-    std::vector<std::string> keys;
-    int32_t count = 0;
-    EnumerateCurrentSection(keys, count);
-    IniEntries entries;
-    cInifile reader = *this;
-    for (std::string& key : keys) {
-        reader.Key = key;
-        entries.emplace_back(std::move(key), reader.Value());
-    }
-    return entries;
-}
-
-bool cInifile::ListsAllKeys() const { return INISection().size() < kListing - 2; }
-
 void cInifile::EnumerateCurrentSection(std::vector<std::string>& sKey, int32_t& iCount) const {
     sKey.clear();
     CutAtNuls(INISection(), sKey);

@@ -3,16 +3,13 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
-#include <utility>
 #include <vector>
 
 #include "platform/IniService.h"
 
-// Keys of a section and their values.
-using IniEntries = std::vector<std::pair<std::string, std::string>>;
-
-// The one way to ini files: a path, a section, a key and a default, nothing else is kept. Every
-// read and write goes straight to the platform's service.
+// A path, a section, a key and a default; nothing of the file is kept, every read and write goes
+// straight to the platform's service. It reads a file that another program holds as an empty one:
+// what is to be whole goes through IniFiles.
 class cInifile {
   public:
     explicit cInifile(IniService& service) : service_(service) {}
@@ -37,12 +34,6 @@ class cInifile {
     // list is not among them.
     void EnumerateCurrentSection(std::vector<std::string>& sKey, int32_t& iCount) const;
     void EnumerateAllSections(std::vector<std::string>& sSections, int32_t& iCount) const;
-
-    // The keys of one listing of the section, with their values.
-    IniEntries Entries() const;
-
-    // Whether one listing can hold all keys of the section.
-    bool ListsAllKeys() const;
 
     // What the last write or deletion gave; 0 is failure.
     int32_t LastReturnCode() const { return lastReturnCode_; }

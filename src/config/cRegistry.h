@@ -25,6 +25,10 @@ class cRegistry {
     void SetValue(const std::string& data) {
         port_.WriteValue(ClassKey, SectionKey, ValueKey, ValueType, data);
     }
+    // As SetValue, of a path in the form in which the program uses it.
+    void SetPath(const std::string& path) {
+        port_.WritePath(ClassKey, SectionKey, ValueKey, ValueType, path);
+    }
     void DeleteValue() { port_.DeleteValue(ClassKey, SectionKey, ValueKey); }
 
   private:

@@ -5,11 +5,11 @@
 #include <variant>
 
 #include "base/Number.h"
-#include "config/IniSave.h"
-#include "config/cInifile.h"
 #include "config/cRegistry.h"
 
 namespace {
+
+constexpr const char* kSection = "GeneralSetup";
 
 using Member = std::variant<bool cSetupHolder::*, uint8_t cSetupHolder::*, int32_t cSetupHolder::*>;
 
@@ -83,52 +83,85 @@ void Read(cSetupHolder& holder, const Field& field, const std::string& text) {
     }
 }
 
-// `keys` are those that the section holds.
-bool Write(const cSetupHolder& holder, const Field& field, const std::vector<std::string>& keys,
-           cInifile& ini) {
+bool Write(const cSetupHolder& holder, const Field& field, IniSection& keys) {
     if (field.keeping == Keeping::ReadOnly) return true;
-    ini.Key = field.key;
     const int32_t value = Get(holder, field);
     if (field.keeping == Keeping::IfNotDefault && value == field.standard) {
-        return DeleteIfThere(ini, keys);
+        return keys.Delete(field.key);
     }
-    return SetKey(ini, keys, FormatInteger(value));
+    return keys.Set(field.key, FormatInteger(value));
 }
 
 }  // namespace
 
 cSetupHolder::cSetupHolder(IniService& ini, FilePort& files, RegistryPort& registry,
                            std::string programFolder)
-    : ini_(ini), files_(files), registry_(registry), programFolder_(std::move(programFolder)) {
+    : files_(ini, files),
+      registry_(registry),
+      programFolder_(std::move(programFolder)),
+      path_(programFolder_ + "\\Orvo.ini") {
     LoadDefaults();
+    inFile_ = AllValues();
 }
 
 void cSetupHolder::LoadDefaults() {
     for (const Field& field : kFields) Set(*this, field, field.standard);
 }
 
-void cSetupHolder::LoadSetup() {
+bool cSetupHolder::LoadSetup() {
+    const auto text = files_.Read(path_);
+    if (!text) {
+        SetAll(inFile_);
+        return false;
+    }
     LoadDefaults();
-    cInifile ini(ini_);
-    ini.Path = programFolder_ + "\\Orvo.ini";
-    ini.Section = "GeneralSetup";
-    for (const auto& [key, value] : ini.Entries()) {
+    for (const auto& [key, value] : text->Entries(kSection)) {
         for (const Field& field : kFields) {
             if (key == field.key) Read(*this, field, value);
         }
     }
+    inFile_ = AllValues();
+    read_ = true;
+    return true;
 }
 
-void cSetupHolder::SaveSetup() {
+bool cSetupHolder::ReadWhatIsMissing() {
+    if (read_) return true;
+    const Values unread = inFile_;
+    const Values now = AllValues();
+    if (!LoadSetup()) {
+        SetAll(now);
+        return false;
+    }
+    Values merged = inFile_;
+    for (size_t i = 0; i < merged.size(); ++i) {
+        if (now[i] != unread[i]) merged[i] = now[i];
+    }
+    SetAll(merged);
+    return true;
+}
+
+bool cSetupHolder::SaveSetup() {
+    if (!ReadWhatIsMissing()) return false;
     SaveAutoStart();
-    SaveIni(ini_, files_, programFolder_ + "\\Orvo.ini", [this](cInifile& ini) {
-        ini.Section = "GeneralSetup";
-        std::vector<std::string> keys;
-        int32_t count = 0;
-        ini.EnumerateCurrentSection(keys, count);
-        return std::ranges::all_of(
-            kFields, [&](const Field& field) { return Write(*this, field, keys, ini); });
+    const bool saved = files_.Save(path_, kSection, [this](IniSection& keys) {
+        return std::ranges::all_of(kFields,
+                                   [&](const Field& field) { return Write(*this, field, keys); });
     });
+    if (saved) inFile_ = AllValues();
+    return saved;
+}
+
+// By field, in the order of the table.
+cSetupHolder::Values cSetupHolder::AllValues() const {
+    Values values;
+    for (const Field& field : kFields) values.push_back(Get(*this, field));
+    return values;
+}
+
+void cSetupHolder::SetAll(const Values& values) {
+    auto value = values.begin();
+    for (const Field& field : kFields) Set(*this, field, *value++);
 }
 
 void cSetupHolder::SaveAutoStart() {
@@ -138,7 +171,7 @@ void cSetupHolder::SaveAutoStart() {
     entry.ValueKey = "ORVO";
     entry.ValueType = 1;
     if (AutoStart) {
-        entry.SetValue(programFolder_ + "\\Orvo.exe");
+        entry.SetPath(programFolder_ + "\\Orvo.exe");
     } else if (!entry.Value().empty()) {
         entry.DeleteValue();
     }

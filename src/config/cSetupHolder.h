@@ -2,9 +2,9 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
-#include "platform/FilePort.h"
-#include "platform/IniService.h"
+#include "config/IniFiles.h"
 #include "platform/RegistryPort.h"
 
 // The options that don't depend on a profile: section "GeneralSetup" of Orvo.ini in the program's
@@ -38,17 +38,31 @@ class cSetupHolder {
     void LoadDefaults();
 
     // Defaults, then what the file says. A value that is no number in its field's range leaves the
-    // default; unknown keys are passed over.
-    void LoadSetup();
+    // default; unknown keys are passed over. False while the file can't be read: then all is as it
+    // was when it was last read or saved, at first the defaults.
+    [[nodiscard]] bool LoadSetup();
 
-    // All keys or, when the file can't be written, none. The logon entry follows AutoStart.
-    void SaveSetup();
+    // Reads what no LoadSetup could read yet. What has been changed since then stays as it is now.
+    // False while the file can't be read.
+    [[nodiscard]] bool ReadWhatIsMissing();
+    // Whether a reading has succeeded yet.
+    bool IsRead() const { return read_; }
+
+    // All keys or, when the file can't be read or written, none; false then. The logon entry
+    // follows AutoStart, but not before the options have been read.
+    [[nodiscard]] bool SaveSetup();
 
   private:
+    using Values = std::vector<int32_t>;
+
+    Values AllValues() const;
+    void SetAll(const Values& values);
     void SaveAutoStart();
 
-    IniService& ini_;
-    FilePort& files_;
+    const IniFiles files_;
     RegistryPort& registry_;
-    std::string programFolder_;
+    const std::string programFolder_;
+    const std::string path_;
+    bool read_ = false;
+    Values inFile_;  // as far as we know
 };

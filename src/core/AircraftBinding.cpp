@@ -28,20 +28,55 @@ bool AircraftBinding::BindAircraft(std::string title) {
     gearKnown_ = false;
     AskForGear();
     currentAircraft_ = std::move(title);
-    if (parts_.profiles.ReadWhatIsMissing()) FillProfileCombo();
-    if (SettleProfile()) {
-        SelectCurrentProfile();
-        parts_.profiles.SaveAircraftList();
-        parts_.profiles.SaveProfileList();
-    }
+    Settle();
     binding_ = false;
     return true;
+}
+
+void AircraftBinding::Settle() {
+    unsettled_ = !ReadLists();
+    if (unsettled_ || !SettleProfile()) return;
+    SelectCurrentProfile();
+    unsaved_ = true;
+    SaveLists();
+}
+
+// The options are in the same file, and say whether the user wants to be asked.
+bool AircraftBinding::ReadLists() {
+    if (!parts_.generalSetup.ReadWhatIsMissing()) return false;
+    const size_t known = parts_.profiles.ProfileNames().size();
+    const bool whole = parts_.profiles.ReadWhatIsMissing();
+    if (parts_.profiles.ProfileNames().size() != known) FillProfileCombo();
+    return whole;
+}
+
+// A window that is open now may hold the bindings that it was filled from.
+bool AircraftBinding::Waits() const {
+    if (binding_ || parts_.windows.ModalWindowOpen) return false;
+    return unsaved_ || parts_.profiles.ProfileMissed() ||
+           (unsettled_ && parts_.session.FSConnected);
+}
+
+void AircraftBinding::TryAgain() {
+    if (!Waits()) return;
+    binding_ = true;
+    if (unsettled_ && parts_.session.FSConnected) Settle();
+    if (parts_.profiles.ProfileMissed()) ApplyProfile();
+    SaveLists();
+    binding_ = false;
+}
+
+bool AircraftBinding::SaveLists() {
+    if (!unsaved_) return true;
+    const bool aircraft = parts_.profiles.SaveAircraftList();
+    unsaved_ = !parts_.profiles.SaveProfileList() || !aircraft;
+    return !unsaved_;
 }
 
 bool AircraftBinding::SettleProfile() {
     ProfileStore& profiles = parts_.profiles;
     if (profiles.AircraftKnown(currentAircraft_)) {
-        profiles.CurrentProfile = profiles.ProfileOfAircraft(currentAircraft_);
+        profiles.CurrentProfile = profiles.ProfileToFly(currentAircraft_);
         return true;
     }
     const std::string profile = ProfileForNew(currentAircraft_);
@@ -85,17 +120,21 @@ void AircraftBinding::SelectCurrentProfile() {
 }
 
 void AircraftBinding::ApplyProfile() {
-    ReadSpecialMode();
-    parts_.panels.ForEachLogic([](cPanelLogic& logic) {
+    const ProfileReading reading(parts_.profiles);
+    const bool read = ReadSpecialMode();
+    parts_.panels.ForEachLogic([read](cPanelLogic& logic) {
         logic.LoadSetup();
-        logic.SetupChanged();
+        if (read) logic.SetupChanged();
     });
 }
 
 // The key's name counts with its case.
-void AircraftBinding::ReadSpecialMode() {
+bool AircraftBinding::ReadSpecialMode() {
+    const auto entries = parts_.profiles.ReadProfile("Common");
+    if (!entries) return false;
     parts_.session.SpecialMode = kStandardMode;
-    for (const auto& [key, value] : parts_.profiles.OpenProfile("Common").Entries()) {
+    for (const auto& [key, value] : *entries) {
         if (key == "SpecialMode") parts_.session.SpecialMode = SpecialModeNamed(value);
     }
+    return true;
 }

@@ -18,7 +18,7 @@ class AircraftBinding {
     struct Parts {
         cSession& session;
         ProfileStore& profiles;
-        const cSetupHolder& generalSetup;
+        cSetupHolder& generalSetup;
         WindowState& windows;
         ComboBox& cmbProfiles;
         PanelLists& panels;
@@ -33,7 +33,18 @@ class AircraftBinding {
     // Takes the title as the aircraft in use, and puts its profile into force. A new one is bound
     // to "Default", or with ManualProfile to what AskForProfile gives. May let messages run; called
     // again meanwhile it does nothing, and gives false.
+    // Files may be held by other programs at this moment. As long as the list of aircraft can't be
+    // read, the profile in force stays; as long as the profile can't be, the panels keep the
+    // bindings and the mode that they have.
     bool BindAircraft(std::string title);
+
+    // Whether something is left to do that a held file was in the way of. Costs nothing.
+    bool Waits() const;
+    // Does what waits, as far as the files are free by now.
+    void TryAgain();
+    // Writes the lists if a binding hasn't been written yet. False while that can't be; it waits
+    // then.
+    bool SaveLists();
 
     // Empty until the first session brings a title. It outlives a session: coming back to the same
     // aircraft changes nothing.
@@ -45,15 +56,20 @@ class AircraftBinding {
     void AskForGear();
 
   private:
+    void Settle();
+    bool ReadLists();
     // False when the aircraft is to be left without one.
     bool SettleProfile();
     std::string ProfileForNew(const std::string& title);
     void SelectCurrentProfile();
     void ApplyProfile();
-    void ReadSpecialMode();
+    // False while the profile can't be read.
+    bool ReadSpecialMode();
 
     const Parts parts_;
     std::string currentAircraft_;
     bool binding_ = false;
     bool gearKnown_ = true;  // until there is an aircraft
+    bool unsettled_ = false;  // the aircraft in use came before the lists could be read
+    bool unsaved_ = false;    // a binding isn't in the file yet
 };

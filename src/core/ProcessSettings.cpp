@@ -5,6 +5,7 @@ namespace {
 constexpr uint32_t kSetAndQuery = 0x600;
 constexpr uint32_t kQuery = 0x400;
 constexpr int32_t kAutomatic = -1;
+constexpr uint64_t kThirdToSixteenth = 65532;
 
 }  // namespace
 
@@ -27,14 +28,21 @@ uint32_t SetProcessPriority(ProcessPort& process, uint32_t processId, uintptr_t 
 
 uint64_t ChooseAffinity(int32_t option, uint64_t processMask) {
     if (option != kAutomatic) return static_cast<uint32_t>(option);
-    const auto mask = static_cast<int32_t>(processMask);
-    if (mask >= 15) return static_cast<uint64_t>(mask & 65532);
-    if (mask >= 7) return 4;
-    return mask >= 3 ? 2 : 1;
+    if (processMask >= 15) {
+        const uint64_t chosen = processMask & kThirdToSixteenth;
+        return chosen != 0 ? chosen : processMask;
+    }
+    if (processMask >= 7) return 4;
+    return processMask >= 3 ? 2 : 1;
 }
 
 void SetProcessAffinity(ProcessPort& process, int32_t option) {
     uint64_t mask = 0;
     if (!process.GetProcessAffinityMask(mask) && option == kAutomatic) return;
     process.SetProcessAffinityMask(ChooseAffinity(option, mask));
+}
+
+void ApplyProcessSettings(ProcessPort& process, const cSetupHolder& setup) {
+    SetProcessPriority(process, 0, 0, static_cast<uint32_t>(setup.OrvoPriority));
+    SetProcessAffinity(process, setup.OrvoAffinity);
 }

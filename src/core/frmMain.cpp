@@ -38,13 +38,14 @@ frmMain::frmMain(const MainServices& services)
       timerFSUIPC(services.platform.loop, kWaitingIntervalMs),
       Binding({services.session, services.profiles, services.generalSetup, services.windows,
                cmbProfiles, Panels}),
+      Files(services.platform.clock, services.platform.process, services.generalSetup, Binding),
       Driver({services.session, services.output, services.platform.loop, Panels, Binding}),
       services_(services) {
     Caption = "  ORVO    v0.5.1";
     PlaceControls();
     tabMain.Click.Connect([this] { SelectPage(); });
     btnQuit.Click.Connect([this] { AskQuit(); });
-    timerFSUIPC.Tick.Connect([this] { Driver.Tick(); });
+    timerFSUIPC.Tick.Connect([this] { timerFSUIPC_Timer(); });
     FollowSession();
     trayDblClick_ = trayMain.DblClick.Connect([this] {
         if (!services_.windows.ModalWindowOpen && !IsUnloaded()) Show();
@@ -91,6 +92,12 @@ void frmMain::LoadForm() {
     PlaceForm(*this, services_.generalSetup.MainFormLeft, services_.generalSetup.MainFormTop,
               services_.monitorRects, services_.platform.screen);
     Load();
+}
+
+void frmMain::timerFSUIPC_Timer() {
+    Files.Tick();
+    // The user may have been asked for a profile, and have quit meanwhile.
+    if (!IsUnloaded()) Driver.Tick();
 }
 
 void frmMain::FollowSession() {
@@ -178,7 +185,7 @@ void frmMain::AskQuit() {
 void frmMain::SavePosition() {
     services_.generalSetup.MainFormTop = Top;
     services_.generalSetup.MainFormLeft = Left;
-    services_.generalSetup.SaveSetup();
+    Files.SaveAll();
 }
 
 void frmMain::CloseDown() {

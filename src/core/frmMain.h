@@ -11,6 +11,7 @@
 #include "config/cSetupHolder.h"
 #include "core/AircraftBinding.h"
 #include "core/PanelUnit.h"
+#include "core/PendingFiles.h"
 #include "core/SessionDriver.h"
 #include "platform/Platform.h"
 #include "platform/Timer.h"
@@ -77,6 +78,7 @@ class frmMain : public Form {
     ctlTrayArea trayMain;
     Timer timerFSUIPC;
     AircraftBinding Binding;
+    PendingFiles Files;
     SessionDriver Driver;
 
   private:
@@ -90,6 +92,7 @@ class frmMain : public Form {
     void ServeSetupRequest(PanelUnit& unit);
 
     void FollowSession();
+    void timerFSUIPC_Timer();
     void ShowConnected();
     void ShowWaiting();
 

@@ -5,6 +5,19 @@
 #include "core/ProcessSettings.h"
 #include "toolkit/UiBackend.h"
 
+namespace {
+
+constexpr uint32_t kPatienceMs = 500;
+
+const MsgBoxRequest kNoFolder = {
+    "Orvo can't reach its own folder, whose name has letters that this system's programs can't "
+    "use.\n"
+    "Options and profiles are neither read nor saved.\n"
+    "Move Orvo to a folder with a plain name.",
+    "Orvo", MsgBoxIcon::Exclamation, MsgBoxButtons::Ok};
+
+}  // namespace
+
 modMain::modMain(const Platform& platform, UiBackend& ui)
     : GeneralSetup(platform.ini, platform.files, platform.registry,
                    platform.process.ProgramFolder()),
@@ -12,20 +25,18 @@ modMain::modMain(const Platform& platform, UiBackend& ui)
       Session(platform.ipc, platform.clock),
       Output(Session, platform.keyboard, platform.loop),
       platform_(platform),
-      ui_(ui) {}
+      ui_(ui),
+      patience_(platform.clock, kPatienceMs) {}
 
 bool modMain::Main() {
     monitorRects_ = platform_.screen.EnumDisplayMonitors();
     if (AlreadyRunning()) return false;
-    GeneralSetup.LoadSetup();
-    SetProcessPriority(platform_.process, 0, 0, static_cast<uint32_t>(GeneralSetup.OrvoPriority));
-    SetProcessAffinity(platform_.process, GeneralSetup.OrvoAffinity);
+    ReadOptions();
     if (!ConvertOldConfiguration(platform_.ini, platform_.files, ui_,
-                                 platform_.process.ProgramFolder())) {
+                                 platform_.process.ProgramFolder(), patience_)) {
         return false;
     }
-    Profiles.LoadProfileList();
-    Profiles.LoadAircraftList();
+    ReadProfiles();
 
     const MainServices services = {platform_,    ui_,      Session, Output,
                                    GeneralSetup, Profiles, Windows, monitorRects_};
@@ -54,4 +65,18 @@ bool modMain::AlreadyRunning() {
     if (platform_.process.ClaimSingleInstance("Orvo")) return false;
     ui_.MsgBox({"Orvo is already running...", "Orvo", MsgBoxIcon::Critical, MsgBoxButtons::Ok});
     return true;
+}
+
+void modMain::ReadOptions() {
+    if (platform_.process.ProgramFolder().find('?') != std::string::npos) ui_.MsgBox(kNoFolder);
+    if (!patience_.Try([this] { return GeneralSetup.LoadSetup(); })) return;
+    ApplyProcessSettings(platform_.process, GeneralSetup);
+}
+
+// The window's loading takes the first profile into force.
+void modMain::ReadProfiles() {
+    Profiles.LoadProfileList();
+    Profiles.LoadAircraftList();
+    patience_.Try([this] { return Profiles.ReadWhatIsMissing(); });
+    patience_.Try([this] { return Profiles.ProfileReadable(); });
 }

@@ -6,6 +6,7 @@
 #include "config/ProfileStore.h"
 #include "config/cSetupHolder.h"
 #include "core/frmMain.h"
+#include "platform/Patience.h"
 #include "platform/Platform.h"
 #include "simlink/actions/EventOutput.h"
 #include "simlink/channel/cSession.h"
@@ -32,9 +33,12 @@ class modMain {
 
   private:
     bool AlreadyRunning();
+    void ReadOptions();
+    void ReadProfiles();
 
     const Platform platform_;
     UiBackend& ui_;
+    Patience patience_;  // with held files, at the start
     std::vector<ScreenRect> monitorRects_;
     std::unique_ptr<frmMain> window_;
 };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 
 // Whole files. Operations give false, and change nothing, when the system refuses.
@@ -9,8 +10,11 @@ class FilePort {
 
     // False only when it is certain that there is no such file.
     virtual bool Exists(const std::string& path) = 0;
-    // Overwrites `to`.
-    virtual bool Copy(const std::string& from, const std::string& to) = 0;
+    // All that stands in the file. Nothing when there is no such file or the system doesn't give
+    // it, as while another program holds it or writes to it.
+    virtual std::optional<std::string> Read(const std::string& path) = 0;
+    // Makes or overwrites the file. When it can't be written to its end it may be there in part.
+    virtual bool Write(const std::string& path, const std::string& content) = 0;
     // Puts `from` in the place of `to` in one step: whoever looks, at any moment and after any
     // crash, finds the old file or the new one.
     virtual bool Replace(const std::string& from, const std::string& to) = 0;

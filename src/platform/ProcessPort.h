@@ -27,6 +27,7 @@ class ProcessPort {
     // lives; false for all others.
     virtual bool ClaimSingleInstance(const std::string& name) = 0;
 
-    // Folder of the executable, without a separator at its end.
+    // Folder of the executable, without a separator at its end, in a form by which the other ports
+    // reach it. A '?' in it, which no path may have, says that there is no such form.
     virtual std::string ProgramFolder() = 0;
 };

@@ -16,5 +16,9 @@ class RegistryPort {
     // Makes the key when needed. False when the registry refuses.
     virtual bool WriteValue(uint32_t root, const std::string& key, const std::string& name,
                             uint32_t type, const std::string& data) = 0;
+    // Writes a path below the program's folder. It may be given in a form that only this program
+    // understands, see ProcessPort; written is the full one, with all its letters.
+    virtual bool WritePath(uint32_t root, const std::string& key, const std::string& name,
+                           uint32_t type, const std::string& path) = 0;
     virtual bool DeleteValue(uint32_t root, const std::string& key, const std::string& name) = 0;
 };

@@ -2,10 +2,10 @@
 #include <string>
 #include <vector>
 
-#include "config/IniSave.h"
 #include "config/cInifile.h"
 #include "config/cSetupHolder.h"
 #include "platform/virtual/VirtualPlatform.h"
+#include "simlink/devices/ButtonPress.h"
 
 namespace {
 
@@ -19,10 +19,10 @@ struct ConfigTest : testing::Test {
 
     void Load(const std::string& content) {
         machine.files.Put(kPath, content);
-        setup.LoadSetup();
+        ASSERT_TRUE(setup.LoadSetup());
     }
-    std::string Saved() {
-        setup.SaveSetup();
+    std::string Saved(bool works = true) {
+        EXPECT_EQ(setup.SaveSetup(), works);
         return machine.files.Look(kPath).value_or("no file");
     }
     bool SavedHas(const std::string& line) {
@@ -73,7 +73,7 @@ TEST_F(ConfigTest, EnumerationStopsAtTheLimitWithWholeNames) {
 }
 
 TEST_F(ConfigTest, OptionsWithoutAFileAreTheDefaults) {
-    setup.LoadSetup();
+    EXPECT_TRUE(setup.LoadSetup());
     EXPECT_FALSE(setup.AutoQuit);
     EXPECT_TRUE(setup.Splash);
     EXPECT_EQ(setup.ClickThreshold, 500);
@@ -142,12 +142,14 @@ TEST_F(ConfigTest, LogonEntryFollowsAutoStart) {
 
 TEST_F(ConfigTest, AnyWriteThatFailsLeavesTheWholeFile) {
     const std::string before = "[GeneralSetup]\r\nAutoQuit=1\r\n[Profiles]\r\nA= \r\n";
-    for (const FileCall call : {FileCall::Write, FileCall::Copy, FileCall::Replace}) {
+    for (const FileCall call : {FileCall::Write, FileCall::Read, FileCall::Replace}) {
         Load(before);
         setup.AutoQuit = false;
         setup.OrvoPriority = 64;
-        machine.files.Refuse(call, 1);
-        EXPECT_EQ(Saved(), before);
+        machine.files.Refuse(call);
+        EXPECT_EQ(Saved(false), before);
+        machine.files.Refuse(call, 0);
+        EXPECT_EQ(machine.files.Paths().size(), 1U) << "no copy is left";
     }
     machine.files.Refuse(FileCall::Exists, 1);
     EXPECT_TRUE(Saved().find("[Profiles]") != std::string::npos) << "a file that can't be seen";
@@ -168,8 +170,7 @@ TEST_F(ConfigTest, SaveIsAllOrNothingWhereverTheProgramDies) {
             machine.files.Put(kPath, before);
             machine.files.CutPowerAfter(died, last);
             try {
-                setup.SaveSetup();
-                ADD_FAILURE() << "the power stayed on";
+                ADD_FAILURE() << "the power stayed on: " << setup.SaveSetup();
             } catch (const PowerCut&) {
             }
             const bool half = machine.files.Look(kPath + ".new").has_value();
@@ -179,6 +180,69 @@ TEST_F(ConfigTest, SaveIsAllOrNothingWhereverTheProgramDies) {
             ASSERT_TRUE(found == before || found == after) << "died at change " << died;
             EXPECT_EQ(Saved(), after) << "what is left of the copy is in nobody's way";
         }
+    }
+}
+
+// A virus scanner or a backup has the file at the start, and lets it go later.
+TEST_F(ConfigTest, OptionsOfAHeldFileAreNeitherTakenForDefaultsNorLost) {
+    machine.registry.WriteValue(kCurrentUser, kRun, "ORVO", 1, "C:\\Orvo\\Orvo.exe");
+    const std::string before =
+        "[GeneralSetup]\r\nAutoStart=1\r\nAutoQuit=1\r\nMainFormTop=15\r\nMainFormLeft=15\r\n";
+    machine.files.Put(kPath, before);
+    machine.files.Hold(kPath);
+    EXPECT_FALSE(setup.LoadSetup());
+    setup.MainFormTop = 300;
+    setup.ClickThreshold = 250;
+    EXPECT_EQ(Saved(false), before);
+    EXPECT_NE(machine.registry.Look(kCurrentUser, kRun, "ORVO"), nullptr);
+    machine.files.Hold("");
+    const std::string saved = Saved();
+    EXPECT_NE(machine.registry.Look(kCurrentUser, kRun, "ORVO"), nullptr);
+    EXPECT_TRUE(setup.AutoQuit && setup.AutoStart) << "what the file says";
+    for (const char* line : {"AutoStart=1", "AutoQuit=1", "MainFormLeft=15"}) {
+        EXPECT_NE(saved.find(line), std::string::npos) << line;
+    }
+    for (const char* line : {"MainFormTop=300", "ClickThreshold=250"}) {
+        EXPECT_NE(saved.find(line), std::string::npos) << line << ": what this run has changed";
+    }
+    setup.AutoQuit = false;
+    machine.files.Hold(kPath);
+    EXPECT_FALSE(setup.LoadSetup());
+    EXPECT_TRUE(setup.AutoQuit) << "a cancelled change goes back to what was read before";
+}
+
+TEST_F(ConfigTest, WhateverHasTheNameOfTheCopyBlocksNoSave) {
+    Load("[GeneralSetup]\r\nAutoQuit=1\r\n");
+    machine.files.Put(kPath + ".new", "left over");
+    machine.files.Hold(kPath + ".new");
+    EXPECT_TRUE(SavedHas("AutoQuit=1"));
+    EXPECT_EQ(machine.files.Paths(),
+              (std::vector<std::string>{"c:\\orvo\\orvo.ini", "c:\\orvo\\orvo.ini.new"}));
+    machine.files.Hold("");
+    EXPECT_TRUE(SavedHas("AutoQuit=1"));
+    EXPECT_EQ(machine.files.Paths().size(), 1U) << "the next save cleans up";
+}
+
+TEST_F(ConfigTest, FilesThatAnEditorSavedInAnotherCodingAreRead) {
+    const std::string text = "[GeneralSetup]\r\nAutoQuit=1\r\n";
+    Load("\xEF\xBB\xBF" + text);
+    EXPECT_TRUE(setup.AutoQuit);
+    EXPECT_TRUE(SavedHas("AutoQuit=1")) << "not in a second section";
+    std::string wide = "\xFF\xFE";
+    for (const char each : text) wide.append({each, '\0'});
+    setup.AutoQuit = false;
+    Load(wide);
+    EXPECT_TRUE(setup.AutoQuit);
+}
+
+TEST_F(ConfigTest, ClickThresholdBelowOneWorksAsOneAndStaysInTheFile) {
+    for (const char* line : {"ClickThreshold=0", "ClickThreshold=-500"}) {
+        Load("[GeneralSetup]\r\n" + std::string(line) + "\r\n");
+        ButtonPress press(machine.clock, machine.loop, setup.ClickThreshold);
+        press.Down(1, 1000);
+        EXPECT_TRUE(press.Up(1000)) << line;
+        EXPECT_FALSE(press.Up(1001)) << line;
+        EXPECT_TRUE(SavedHas(line));
     }
 }
 

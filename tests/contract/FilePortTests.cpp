@@ -22,14 +22,17 @@ TEST_F(FilePortContract, ExistsAndDelete) {
     EXPECT_FALSE(files.Delete(a));
 }
 
-TEST_F(FilePortContract, CopyOverwritesAndKeepsTheSource) {
+TEST_F(FilePortContract, WriteMakesAndOverwritesWhatReadGives) {
     const std::string content("1\r\n\0\x1A\xFF", 6);
-    machine.Put(a, content);
-    EXPECT_TRUE(files.Copy(a, b));
-    machine.Put(b, "something longer");
-    EXPECT_TRUE(files.Copy(a, b));
-    EXPECT_EQ(machine.Look(a), content);
-    EXPECT_EQ(machine.Look(b), content);
+    EXPECT_EQ(files.Read(a), std::nullopt);
+    for (const char* before : {"", "something longer"}) {
+        machine.Put(b, before);
+        EXPECT_TRUE(files.Write(b, content));
+        EXPECT_EQ(machine.Look(b), content);
+        EXPECT_EQ(files.Read(b), content);
+    }
+    EXPECT_TRUE(files.Write(a, ""));
+    EXPECT_EQ(files.Read(a), "");
 }
 
 TEST_F(FilePortContract, ReplaceMovesOverTheOldFile) {
@@ -50,18 +53,20 @@ TEST_F(FilePortContract, RenameMovesWhatTheIniServiceWroteAndReads) {
     EXPECT_EQ(ports.ini.GetPrivateProfileStringA("A", "x", "", text, a), 0u);
     EXPECT_EQ(ports.ini.GetPrivateProfileStringA("A", "x", "", text, b), 1u);
     EXPECT_STREQ(text.data(), "1");
+    EXPECT_TRUE(files.Write(b, "[A]\r\nx=2\r\n"));
+    EXPECT_EQ(ports.ini.GetPrivateProfileStringA("A", "x", "", text, b), 1u);
+    EXPECT_STREQ(text.data(), "2") << "nor does it go on with what it had seen";
 }
 
 TEST_F(FilePortContract, WhatFailsChangesNothing) {
     machine.Put(a, "new");
     machine.Put(b, "old");
-    EXPECT_FALSE(files.Copy(none, b));
     EXPECT_FALSE(files.Replace(none, b));
     EXPECT_FALSE(files.Rename(none, machine.Path("c.ini")));
     EXPECT_FALSE(files.Exists(machine.Path("c.ini")));
     EXPECT_FALSE(files.Rename(a, b)) << "there is one already";
     EXPECT_FALSE(files.Rename(a, machine.Path("B.INI")));
-    EXPECT_FALSE(files.Copy(b, machine.UnwritablePath()));
+    EXPECT_FALSE(files.Write(machine.UnwritablePath(), "x"));
     EXPECT_FALSE(files.Replace(b, machine.UnwritablePath()));
     EXPECT_FALSE(files.Rename(b, machine.UnwritablePath()));
     EXPECT_EQ(machine.Look(a), "new");

@@ -1,5 +1,6 @@
 #include <vector>
 
+#include "base/IniText.h"
 #include "contract/ContractPlatform.h"
 
 namespace {
@@ -93,16 +94,23 @@ TEST_F(IniServiceContract, ReadsOddSpellings) {
     for (const Case& each : cases) {
         machine.Put(path, each.file);
         EXPECT_EQ(Read(each.section, each.key, "fallback"), each.expected) << each.name;
+        EXPECT_EQ(IniText(each.file).Value(each.section, each.key).value_or("fallback"),
+                  each.expected)
+            << each.name << ", read by ourselves";
     }
 }
 
 TEST_F(IniServiceContract, ListsNamesInTheOrderOfTheFile) {
-    machine.Put(
-        path,
-        "stray=0\r\n; remark\r\n[Zulu]\r\nb = 1\r\n;c=2\r\nodd line\r\nA=3\r\n\r\n a b = \r\n"
-        "[empty]\r\n[Alpha]\r\nx=1\r\n[zulu]\r\nlost=1");
+    const std::string file =
+        "stray=0\r\n; remark\r\n[Zulu]\r\nb = 1\r\n;c=2\r\nodd line\r\nA=3\r\n\r\n a b = "
+        "\r\nB=2\r\n"
+        "[empty]\r\n[Alpha]\r\nx=1\r\n[zulu]\r\nlost=1";
+    machine.Put(path, file);
     EXPECT_EQ(List(std::nullopt), (Names{"Zulu", "empty", "Alpha", "zulu"}));
-    EXPECT_EQ(List("ZULU"), (Names{"b", "A", "a b"}));
+    EXPECT_EQ(List("ZULU"), (Names{"b", "A", "a b", "B"}));
+    EXPECT_EQ(IniText(file).Sections(), List(std::nullopt));
+    EXPECT_EQ(IniText(file).Entries("ZULU"),
+              (IniEntries{{"b", "1"}, {"A", "3"}, {"a b", ""}, {"B", Read("Zulu", "B")}}));
     EXPECT_EQ(List("Alpha"), Names{"x"});
     EXPECT_EQ(List("empty"), Names{});
     EXPECT_EQ(List("none"), Names{});

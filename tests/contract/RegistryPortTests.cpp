@@ -31,6 +31,9 @@ TEST_F(RegistryPortContract, WritesReadsAndDeletesValues) {
         EXPECT_EQ(Read("FIRST"), text);
         EXPECT_EQ(Read("second"), "2");
     }
+    const std::string program = ports.process.ProgramFolder() + "\\Orvo.exe";
+    EXPECT_TRUE(registry.WritePath(kCurrentUser, key, "first", kString, program));
+    EXPECT_EQ(Read("first"), program);
     EXPECT_TRUE(Write("first", "abcd", kBinary));
     EXPECT_EQ(Read("first"), std::nullopt) << "only strings are read";
     for (const char* name : {"first", "second"}) {

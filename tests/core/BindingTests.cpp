@@ -120,4 +120,88 @@ TEST_F(BindingTest, ModeOfTheDefaultProfileIsInForceBeforeTheLogicsStart) {
     EXPECT_EQ(table.Item("AP-MASTER 2")->Offset, 0x653F);
 }
 
+TEST_F(BindingTest, ProfileThatIsNotInTheListCountsAsDefault) {
+    Fly();
+    PutProfile("Gone", "[Common]\r\nSpecialMode=ngx\r\n");
+    program->Profiles.AddAircraft("Lost", "Gone");
+    program->Profiles.AddAircraft("Evil", "..\\Gone");
+    EXPECT_EQ(With("Baron 58"), "Airliner Airliner 2 247|");
+    EXPECT_EQ(With("Lost"), "Default Default 0 090|");
+    With("Baron 58");
+    EXPECT_EQ(With("Evil"), "Default Default 0 090|");
+    ExpectBound("Lost=Gone\r\nEvil=..\\Gone\r\n");
+}
+
+TEST_F(BindingTest, HeldProfileComesWhenItIsFree) {
+    Fly();
+    With("Cessna");
+    Window().cmbProfiles.SetListIndex(1);
+    machine.files.Hold("C:\\Orvo\\Airliner.ini");
+    EXPECT_EQ(With("Baron 58"), "Airliner Airliner 0 090|") << "as it was, not built-in";
+    EXPECT_FALSE(Logic().MPActions->SaveSetup());
+    const int reads = machine.files.ReadCount();
+    machine.loop.Advance(2000);
+    EXPECT_GT(machine.files.ReadCount(), reads);
+    EXPECT_LE(machine.files.ReadCount(), reads + 20) << "not at every tick";
+    program->Windows.ModalWindowOpen = true;
+    machine.files.Hold("");
+    machine.loop.Advance(1000);
+    EXPECT_EQ(program->Session.SpecialMode, kStandardMode) << "not under an open window";
+    program->Windows.ModalWindowOpen = false;
+    machine.loop.Advance(600);
+    EXPECT_EQ(With("Baron 58"), "Airliner Airliner 2 247|");
+    EXPECT_TRUE(Logic().MPActions->SaveSetup());
+    const int done = machine.files.ReadCount();
+    machine.loop.Advance(2000);
+    EXPECT_EQ(machine.files.ReadCount(), done) << "nothing waits any more";
+}
+
+// The list is read before anything is bound: it may say what the aircraft's profile is.
+TEST_F(BindingTest, AircraftIsBoundWhenTheListCanBeRead) {
+    machine.files.Hold("C:\\Orvo\\Orvo.ini");
+    Fly("ManualProfile=1\r\n");
+    answer = "Plain";
+    EXPECT_EQ(With("Twin"), "Default Default 0 090|");
+    EXPECT_EQ(With("New"), "Default Default 0 090|");
+    machine.loop.Advance(1000);
+    machine.files.Hold("");
+    machine.loop.Advance(600);
+    EXPECT_EQ(asked, std::vector<std::string>{"New"});
+    EXPECT_EQ(With("New"), "Plain Plain 0 090|");
+    EXPECT_EQ(With("Twin"), "Airliner Airliner 2 247|");
+    ExpectBound("New=Plain\r\n");
+}
+
+TEST_F(BindingTest, ProgramMayEndWhileTheUserIsAskedLate) {
+    machine.files.Hold("C:\\Orvo\\Orvo.ini");
+    Fly("ManualProfile=1\r\nAutoQuit=1\r\n");
+    beforeAnswer = [this] {
+        LoseSimulator();
+        machine.ipc.AddWindow("UIPCMAIN");
+    };
+    With("Cessna");
+    machine.files.Hold("");
+    machine.loop.Advance(2000);
+    EXPECT_EQ(asked, std::vector<std::string>{"Cessna"});
+    EXPECT_TRUE(Window().IsUnloaded());
+    EXPECT_FALSE(program->Session.FSConnected);
+    ExpectBound("");
+}
+
+TEST_F(BindingTest, BindingThatCouldNotBeWrittenIsWrittenLater) {
+    Fly();
+    machine.files.Hold("C:\\Orvo\\Orvo.ini");
+    EXPECT_EQ(With("Cessna"), "Default Default 0 090|");
+    machine.loop.Advance(2000);
+    ExpectBound("");
+    machine.files.Hold("");
+    machine.loop.Advance(600);
+    ExpectBound("Cessna=Default\r\n");
+    machine.files.Refuse(FileCall::Replace, 3);
+    With("Glider");
+    ExpectBound("Cessna=Default\r\n");
+    Window().Unload();
+    ExpectBound("Cessna=Default\r\nGlider=Default\r\n");
+}
+
 }  // namespace

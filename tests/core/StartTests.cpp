@@ -165,4 +165,60 @@ TEST_F(StartTest, SetupRequestOfASwitchPanelOnlyReloads) {
     EXPECT_LT(table.OffsetRegistered("FUELPUMPS"), table.OffsetRegistered("MASTERAVIONICS"));
 }
 
+// Virus scanners and backups are busy when a user logs on.
+TEST_F(StartTest, FilesThatAreHeldForAMomentAreWaitedFor) {
+    Plug(PanelKind::Multi);
+    PutProfile("Default", "[Common]\r\nSpecialMode=ngx\r\n");
+    for (const char* name : {"Orvo", "Default"}) {
+        machine.files.Hold("C:\\Orvo\\" + std::string(name) + ".ini", 10);
+        ASSERT_TRUE(Start("Splash=0\r\nAutoQuit=1\r\n[Profiles]\r\nJet= \r\n"));
+        EXPECT_TRUE(program->GeneralSetup.AutoQuit);
+        EXPECT_EQ(program->Profiles.ProfileNames().size(), 2U);
+        EXPECT_EQ(program->Session.SpecialMode, kNGXMode) << name;
+        program.reset();
+        machine.process.ReleaseInstances();
+    }
+}
+
+TEST_F(StartTest, OptionsThatAreHeldAtTheStartComeLater) {
+    const std::string options = "Splash=0\r\nAutoStart=1\r\nOrvoPriority=64\r\nOrvoAffinity=2\r\n";
+    Plug(PanelKind::Multi);
+    machine.registry.WriteValue(0x80000001, "Software\\Microsoft\\Windows\\CurrentVersion\\Run",
+                                "ORVO", 1, "C:\\Orvo\\Orvo.exe");
+    machine.files.Hold("C:\\Orvo\\Orvo.ini");
+    const uint64_t before = machine.clock.Elapsed();
+    ASSERT_TRUE(Start(options));
+    EXPECT_LE(machine.clock.Elapsed() - before, 500U + 1200U) << "half a second, and the splash";
+    EXPECT_EQ(machine.process.Affinity(), 0xFU);
+    machine.loop.Advance(3000);
+    machine.files.Hold("");
+    machine.loop.Advance(1000);
+    EXPECT_TRUE(program->GeneralSetup.AutoStart);
+    EXPECT_EQ(machine.process.Priority(VirtualProcess::kProcessId), 64U);
+    EXPECT_EQ(machine.process.Affinity(), 2U);
+}
+
+// Held to the end, and let go while the program still waits.
+TEST_F(StartTest, OptionsThatAreHeldAtTheEndAreSavedAllTheSame) {
+    Plug(PanelKind::Multi);
+    machine.files.Hold("C:\\Orvo\\Orvo.ini");
+    ASSERT_TRUE(Start("Splash=0\r\nAutoQuit=1\r\n"));
+    machine.files.Hold("");
+    Window().Left = 4500;
+    machine.files.Refuse(FileCall::Read, 5);
+    machine.files.Refuse(FileCall::Replace, 5);
+    Window().Unload();
+    const std::string saved = *machine.files.Look("C:\\Orvo\\Orvo.ini");
+    EXPECT_NE(saved.find("AutoQuit=1\r\n"), std::string::npos) << saved;
+    EXPECT_NE(saved.find("MainFormLeft=4500\r\n"), std::string::npos) << saved;
+}
+
+TEST_F(StartTest, FolderThatHasNoNameForUsIsToldOnce) {
+    Plug(PanelKind::Multi);
+    machine.process.SetProgramFolder("C:\\?????");
+    ASSERT_TRUE(Start());
+    ASSERT_EQ(ui.Boxes.size(), 1U);
+    EXPECT_EQ(ui.Boxes[0].icon, MsgBoxIcon::Exclamation);
+}
+
 }  // namespace

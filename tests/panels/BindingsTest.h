@@ -43,7 +43,7 @@ struct BindingsTest : testing::Test {
     }
     std::string Saved(Holder& holder, const std::string& profile = "Default") {
         profiles.CurrentProfile = profile;
-        holder.SaveSetup();
+        EXPECT_TRUE(holder.SaveSetup());
         profiles.CurrentProfile = "Default";
         return machine.files.Look("C:\\Orvo\\" + profile + ".ini").value_or("");
     }

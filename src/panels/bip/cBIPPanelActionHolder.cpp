@@ -2,11 +2,9 @@
 
 #include <algorithm>
 #include <optional>
-#include <vector>
 
 #include "base/Number.h"
 #include "base/Text.h"
-#include "config/IniSave.h"
 
 namespace {
 
@@ -53,21 +51,18 @@ void cBIPPanelActionHolder::ClearAllTiles() {
     for (int16_t tile = 0; tile < kBIPTiles; ++tile) ClearTile(tile);
 }
 
-std::string cBIPPanelActionHolder::Section() const { return "BIPPanel" + FormatInteger(Index); }
-
-void cBIPPanelActionHolder::LoadSetup() {
-    LoadDefaults();
-    const cInifile ini = profiles_.OpenProfile(Section());
-    for (const auto& [key, value] : ini.Entries()) {
+void cBIPPanelActionHolder::Take(const IniEntries& entries) {
+    for (const auto& [key, value] : entries) {
         const auto tile = TileOf(key);
         if (tile && !value.empty()) tiles_.Set(*tile, Parsed(value));
     }
 }
 
-// Function, colour, threshold. A colour that is missing or unknown is the function's own, and so is
-// a missing threshold; one that is none is 0.
+// Function, colour, threshold, with or without blanks around them. A colour that is missing or
+// unknown is the function's own, and so is a missing threshold; one that is none is 0.
 TileRecord cBIPPanelActionHolder::Parsed(std::string_view text) {
-    const auto pieces = Split(text, ',');
+    auto pieces = Split(text, ',');
+    for (std::string_view& piece : pieces) piece = Trim(piece);
     TileRecord record;
     record.Function = FindTileFunction(pieces[0]);
     const TileFunction& row = TileFunctions[static_cast<size_t>(record.Function)];
@@ -87,26 +82,16 @@ TileRecord cBIPPanelActionHolder::Parsed(std::string_view text) {
     return record;
 }
 
-void cBIPPanelActionHolder::SaveSetup() {
-    profiles_.SaveProfile([this](cInifile& ini) { return Write(ini); });
-}
-
-bool cBIPPanelActionHolder::Write(cInifile& ini) const {
-    ini.Section = Section();
-    std::vector<std::string> keys;
-    int32_t count = 0;
-    ini.EnumerateCurrentSection(keys, count);
+bool cBIPPanelActionHolder::Write(IniSection& keys) {
     // A hand may have written a tile's number in another way, as T07, which would be read again.
-    for (const std::string& key : keys) {
+    for (const std::string& key : keys.Keys()) {
         const auto tile = TileOf(key);
-        if (!tile || key == KeyOf(*tile)) continue;
-        ini.Key = key;
-        if (!DeleteIfThere(ini, keys)) return false;
+        if (tile && key != KeyOf(*tile) && !keys.Delete(key)) return false;
     }
     for (int16_t tile = 0; tile < kBIPTiles; ++tile) {
-        ini.Key = KeyOf(tile);
-        const bool written = GetTileFunction(tile) == 0 ? DeleteIfThere(ini, keys)
-                                                        : SetKey(ini, keys, TileText(tile));
+        const std::string key = KeyOf(tile);
+        const bool written =
+            GetTileFunction(tile) == 0 ? keys.Delete(key) : keys.Set(key, TileText(tile));
         if (!written) return false;
     }
     return true;

@@ -4,10 +4,10 @@
 #include <string>
 #include <string_view>
 
-#include "config/ProfileStore.h"
 #include "panels/bip/BIPPanelReport.h"
 #include "panels/bip/TileCatalogue.h"
 #include "simlink/actions/Numbered.h"
+#include "simlink/actions/cActionsHolder.h"
 
 // What one tile is set up to show.
 struct TileRecord {
@@ -18,11 +18,9 @@ struct TileRecord {
 
 // What one BIP Panel's tiles show in the current profile. Tiles are numbered 0 to 23; other numbers
 // read as a tile without function, and setting them does nothing.
-class cBIPPanelActionHolder {
+class cBIPPanelActionHolder final : public cActionsHolder {
   public:
-    explicit cBIPPanelActionHolder(ProfileStore& profiles) : profiles_(profiles) {}
-
-    int16_t Index = 0;  // number of the panel, from 1; names the section
+    explicit cBIPPanelActionHolder(ProfileStore& profiles) : cActionsHolder(profiles, "BIPPanel") {}
 
     int32_t GetTileFunction(int16_t Tile) const { return tiles_.Get(Tile).Function; }
     // With the function's standard colour and threshold. Numbers that are no row are ignored.
@@ -46,19 +44,12 @@ class cBIPPanelActionHolder {
     void ClearTile(int16_t Tile) { tiles_.Set(Tile, {}); }
     void ClearAllTiles();
 
-    void LoadDefaults() { ClearAllTiles(); }
-    // Defaults, then what the section of the current profile says; what makes no sense there is
-    // passed over.
-    void LoadSetup();
-    // Writes the tiles that have a function: all or, where the file can't be written, nothing.
-    void SaveSetup();
-
   private:
-    std::string Section() const;
+    void SetDefaults() override { ClearAllTiles(); }
+    void Take(const IniEntries& entries) override;
+    bool Write(IniSection& keys) override;
     static TileRecord Parsed(std::string_view text);
     std::string TileText(int16_t tile) const;
-    bool Write(cInifile& ini) const;
 
-    ProfileStore& profiles_;
     Numbered<TileRecord, 0, kBIPTiles - 1> tiles_;
 };

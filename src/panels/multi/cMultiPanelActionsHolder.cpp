@@ -2,7 +2,6 @@
 
 #include <string>
 
-#include "base/Number.h"
 #include "simlink/channel/NGXEventTable.h"
 
 namespace {
@@ -29,11 +28,11 @@ void AddNGXRows(BindingTable& keys, const std::string& suffix, Table& rows,
 
 }  // namespace
 
-cMultiPanelActionsHolder::cMultiPanelActionsHolder(ProfileStore& profiles) : profiles_(profiles) {
+cMultiPanelActionsHolder::cMultiPanelActionsHolder(ProfileStore& profiles)
+    : cKeyedActionsHolder(profiles, "MultiPanel") {
     LoadDefaults();
 }
 
-// In the order in which the keys stand in the file.
 BindingTable cMultiPanelActionsHolder::Keys() {
     BindingTable keys;
     keys.AddEach("SelectorAction", kPositions, selector_, ActionKind::None);
@@ -53,16 +52,6 @@ BindingTable cMultiPanelActionsHolder::Keys() {
     keys.AddFlag("ReverseTrim", ReverseTrim);
     keys.AddFlag("ReverseFlaps", ReverseFlaps);
     return keys;
-}
-
-void cMultiPanelActionsHolder::LoadDefaults() { Keys().SetDefaults(); }
-
-void cMultiPanelActionsHolder::LoadSetup() {
-    Keys().Load(profiles_, "MultiPanel" + FormatInteger(Index));
-}
-
-void cMultiPanelActionsHolder::SaveSetup() {
-    Keys().Save(profiles_, "MultiPanel" + FormatInteger(Index));
 }
 
 int16_t cMultiPanelActionsHolder::GetRotAcceleration(int32_t Position) const {

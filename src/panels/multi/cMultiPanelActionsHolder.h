@@ -2,19 +2,17 @@
 
 #include <cstdint>
 
-#include "config/ProfileStore.h"
 #include "simlink/actions/ActionRecord.h"
-#include "simlink/actions/BindingTable.h"
 #include "simlink/actions/Numbered.h"
+#include "simlink/actions/cActionsHolder.h"
 
 // What one Multi Panel's controls do in the current profile. Positions are those of the selector, 1
 // ALT to 5 CRS, buttons 1 AP to 8 REV. Numbers that the panel doesn't have read as nothing, and
 // setting them does nothing.
-class cMultiPanelActionsHolder {
+class cMultiPanelActionsHolder final : public cKeyedActionsHolder {
   public:
     explicit cMultiPanelActionsHolder(ProfileStore& profiles);
 
-    int16_t Index = 0;             // number of the panel, from 1; names the section
     int16_t TrimAcceleration = 0;  // 1 to 100; the higher, the sooner a turn counts as a fast one
     int16_t TrimSensitivity = 0;   // step factor of the trim wheel
     uint8_t ReverseTrim = 0;       // 1: the wheel works reversed
@@ -48,18 +46,9 @@ class cMultiPanelActionsHolder {
     uint8_t NGXGetLongButtonsActions(int32_t Button) const;
     void NGXSetLongButtonsActions(int32_t Button, uint8_t Row);
 
-    // Of the records only FSEvent.
-    void LoadDefaults();
-    // Defaults, then what the section of the current profile says; what makes no sense there is
-    // passed over.
-    void LoadSetup();
-    // Writes what differs from the defaults: all or, where the file can't be written, nothing.
-    void SaveSetup();
-
   private:
-    BindingTable Keys();
+    BindingTable Keys() override;
 
-    ProfileStore& profiles_;
     Numbered<ActionRecord, 1, 5> selector_;
     Numbered<ActionRecord, 1, 8> buttons_;
     Numbered<ActionRecord, 1, 8> longButtons_;

@@ -2,8 +2,6 @@
 
 #include <string>
 
-#include "base/Number.h"
-
 namespace {
 
 constexpr const char* kPositions[] = {"COM1", "COM2", "NAV1", "NAV2", "ADF", "DME", "XPDR"};
@@ -20,11 +18,11 @@ constexpr BindingTable::Range kStepRange = {0.01, 1000};
 
 }  // namespace
 
-cRadioPanelActionsHolder::cRadioPanelActionsHolder(ProfileStore& profiles) : profiles_(profiles) {
+cRadioPanelActionsHolder::cRadioPanelActionsHolder(ProfileStore& profiles)
+    : cKeyedActionsHolder(profiles, "RadioPanel") {
     LoadDefaults();
 }
 
-// In the order in which the keys stand in the file.
 BindingTable cRadioPanelActionsHolder::Keys() {
     BindingTable keys;
     keys.AddEach("SelectorAction", kPositions, selector_, ActionKind::None);
@@ -43,16 +41,6 @@ BindingTable cRadioPanelActionsHolder::Keys() {
     keys.Add("ADFInnStep", ADFInnerKnobStep, 0.1F, kStepRange);
     keys.Add("ADFOutStep", ADFOuterKnobStep, 1.0F, kStepRange);
     return keys;
-}
-
-void cRadioPanelActionsHolder::LoadDefaults() { Keys().SetDefaults(); }
-
-void cRadioPanelActionsHolder::LoadSetup() {
-    Keys().Load(profiles_, "RadioPanel" + FormatInteger(Index));
-}
-
-void cRadioPanelActionsHolder::SaveSetup() {
-    Keys().Save(profiles_, "RadioPanel" + FormatInteger(Index));
 }
 
 int16_t cRadioPanelActionsHolder::GetAcceleration(int32_t Position) const {

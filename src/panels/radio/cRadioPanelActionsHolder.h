@@ -2,20 +2,18 @@
 
 #include <cstdint>
 
-#include "config/ProfileStore.h"
 #include "simlink/actions/ActionRecord.h"
-#include "simlink/actions/BindingTable.h"
 #include "simlink/actions/Numbered.h"
+#include "simlink/actions/cActionsHolder.h"
 
 // What one Radio Panel's controls do in the current profile. Positions are those of the selectors,
 // 1 COM1 to 7 XPDR; both rows share them. Rings are 0 inner and 1 outer, directions 1 clockwise and
 // 0 counter-clockwise. Numbers that the panel doesn't have read as nothing, and setting them does
 // nothing.
-class cRadioPanelActionsHolder {
+class cRadioPanelActionsHolder final : public cKeyedActionsHolder {
   public:
     explicit cRadioPanelActionsHolder(ProfileStore& profiles);
 
-    int16_t Index = 0;          // number of the panel, from 1; names the section
     uint8_t AltimeterUnit = 0;  // 0 changed with the button, 1 hPa, 2 inHg
     // At DME: 0 changed with the button, 1 the distances of DME1 and DME2, 2 distance and speed or
     // time of DME1, 3 of DME2.
@@ -40,21 +38,12 @@ class cRadioPanelActionsHolder {
     void SetRotActions(int32_t Rotary, int32_t Direction, int32_t Position,
                        const ActionRecord& Record);
 
-    // Of the records only FSEvent.
-    void LoadDefaults();
-    // Defaults, then what the section of the current profile says; what makes no sense there is
-    // passed over.
-    void LoadSetup();
-    // Writes what differs from the defaults: all or, where the file can't be written, nothing.
-    void SaveSetup();
-
   private:
     static constexpr int32_t kLastPosition = 7;
     using PositionActions = Numbered<ActionRecord, 1, kLastPosition>;
 
-    BindingTable Keys();
+    BindingTable Keys() override;
 
-    ProfileStore& profiles_;
     PositionActions selector_;
     PositionActions buttons_;
     PositionActions longButtons_;

@@ -2,8 +2,6 @@
 
 #include <string>
 
-#include "base/Number.h"
-
 namespace {
 
 // By number, from 1.
@@ -20,11 +18,11 @@ constexpr StateKey kStateKeys[] = {{1, "On"}, {0, "Off"}};
 
 }  // namespace
 
-cSwitchPanelActionsHolder::cSwitchPanelActionsHolder(ProfileStore& profiles) : profiles_(profiles) {
+cSwitchPanelActionsHolder::cSwitchPanelActionsHolder(ProfileStore& profiles)
+    : cKeyedActionsHolder(profiles, "SwitchPanel") {
     LoadDefaults();
 }
 
-// In the order in which the keys stand in the file.
 BindingTable cSwitchPanelActionsHolder::Keys() {
     BindingTable keys;
     for (const StateKey& key : kStateKeys) {
@@ -41,16 +39,6 @@ BindingTable cSwitchPanelActionsHolder::Keys() {
     keys.Add("SingleCowlFlaps", SingleCowlFlaps, false);
     keys.Add("SingleDeIce", SingleDeIce, false);
     return keys;
-}
-
-void cSwitchPanelActionsHolder::LoadDefaults() { Keys().SetDefaults(); }
-
-void cSwitchPanelActionsHolder::LoadSetup() {
-    Keys().Load(profiles_, "SwitchPanel" + FormatInteger(Index));
-}
-
-void cSwitchPanelActionsHolder::SaveSetup() {
-    Keys().Save(profiles_, "SwitchPanel" + FormatInteger(Index));
 }
 
 const ActionRecord& cSwitchPanelActionsHolder::GetSwitchActions(int32_t Switch,

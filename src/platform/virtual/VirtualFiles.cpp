@@ -8,16 +8,9 @@ bool VirtualFiles::Exists(const std::string& path) {
     return faults_.Take(FileCall::Exists) || files_.contains(Key(path));
 }
 
-bool VirtualFiles::Copy(const std::string& from, const std::string& to) {
-    const auto content = Look(from);
-    if (!content || !MayChange(FileCall::Copy, to, &*content)) return false;
-    files_[Key(to)] = *content;
-    return true;
-}
-
 bool VirtualFiles::Replace(const std::string& from, const std::string& to) {
     const auto content = Look(from);
-    if (!content || !MayChange(FileCall::Replace, to, nullptr)) return false;
+    if (!content || TakeHold(from) || !MayChange(FileCall::Replace, to, nullptr)) return false;
     files_.erase(Key(from));
     files_[Key(to)] = *content;
     return true;
@@ -25,7 +18,9 @@ bool VirtualFiles::Replace(const std::string& from, const std::string& to) {
 
 bool VirtualFiles::Rename(const std::string& from, const std::string& to) {
     const auto content = Look(from);
-    if (!content || Look(to) || !MayChange(FileCall::Rename, to, nullptr)) return false;
+    if (!content || Look(to) || TakeHold(from) || !MayChange(FileCall::Rename, to, nullptr)) {
+        return false;
+    }
     files_.erase(Key(from));
     files_[Key(to)] = *content;
     return true;
@@ -38,7 +33,8 @@ bool VirtualFiles::Delete(const std::string& path) {
 }
 
 std::optional<std::string> VirtualFiles::Read(const std::string& path) {
-    if (faults_.Take(FileCall::Read)) return std::nullopt;
+    ++reads_;
+    if (faults_.Take(FileCall::Read) || TakeHold(path)) return std::nullopt;
     return Look(path);
 }
 
@@ -71,9 +67,13 @@ std::string VirtualFiles::Key(const std::string& path) {
     return key;
 }
 
+bool VirtualFiles::TakeHold(const std::string& path) {
+    return Key(path) == held_ && holdLeft_-- > 0;
+}
+
 bool VirtualFiles::MayChange(FileCall call, const std::string& path, const std::string* content) {
     if (powerLeft_ && *powerLeft_ < 0) return false;
-    if (faults_.Take(call)) return false;
+    if (faults_.Take(call) || TakeHold(path)) return false;
     if (!protected_.empty() && Key(path).starts_with(protected_)) return false;
     if (powerLeft_ && (*powerLeft_)-- == 0) {
         if (content && lastChange_ == LastChange::Half) {

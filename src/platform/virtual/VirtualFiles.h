@@ -8,7 +8,7 @@
 #include "platform/FilePort.h"
 #include "platform/virtual/Faults.h"
 
-enum class FileCall : uint8_t { Exists, Copy, Replace, Rename, Delete, Read, Write };
+enum class FileCall : uint8_t { Exists, Replace, Rename, Delete, Read, Write };
 
 // Thrown by the change at which the power went.
 struct PowerCut {};
@@ -22,14 +22,11 @@ enum class LastChange : uint8_t { Undone, Half };
 class VirtualFiles : public FilePort {
   public:
     bool Exists(const std::string& path) override;
-    bool Copy(const std::string& from, const std::string& to) override;
+    std::optional<std::string> Read(const std::string& path) override;
+    bool Write(const std::string& path, const std::string& content) override;
     bool Replace(const std::string& from, const std::string& to) override;
     bool Rename(const std::string& from, const std::string& to) override;
     bool Delete(const std::string& path) override;
-
-    // What other virtual ports read and write files by.
-    std::optional<std::string> Read(const std::string& path);
-    bool Write(const std::string& path, const std::string& content);
 
     // The test's own hand: no fault touches these, and no change is counted.
     void Put(const std::string& path, const std::string& content) { files_[Key(path)] = content; }
@@ -43,6 +40,12 @@ class VirtualFiles : public FilePort {
     }
     // Refuses every change to files whose paths begin so; an empty text ends that.
     void Protect(const std::string& pathStart) { protected_ = Key(pathStart); }
+    // Another program has this file open and shares it with nobody, for the next `times` that
+    // somebody wants it; an empty path ends that.
+    void Hold(const std::string& path, int times = Faults<FileCall>::kAlways) {
+        held_ = Key(path);
+        holdLeft_ = times;
+    }
 
     // After `changes` more changes the power goes: the next one throws PowerCut, and later ones, as
     // of destructors on the way out, are refused until RestorePower.
@@ -50,16 +53,22 @@ class VirtualFiles : public FilePort {
     void RestorePower() { powerLeft_.reset(); }
     // Changes that have taken place so far.
     int ChangeCount() const { return changes_; }
+    // Readings that were asked for, given or refused.
+    int ReadCount() const { return reads_; }
 
   private:
     static std::string Key(const std::string& path);
+    bool TakeHold(const std::string& path);
     // Whether a change of `path` may go on. `content` is what it would write, if it writes any.
     bool MayChange(FileCall call, const std::string& path, const std::string* content);
 
     std::map<std::string, std::string> files_;
     std::string protected_;
+    std::string held_;
+    int holdLeft_ = 0;
     Faults<FileCall> faults_;
     std::optional<int> powerLeft_;  // below 0 once the power is gone
     LastChange lastChange_ = LastChange::Undone;
     int changes_ = 0;
+    int reads_ = 0;
 };

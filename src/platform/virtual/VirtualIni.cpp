@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "platform/virtual/IniText.h"
+#include "base/IniText.h"
 
 namespace {
 

@@ -30,7 +30,7 @@ class VirtualProcess : public ProcessPort {
     bool ClaimSingleInstance(const std::string& name) override {
         return instances_.insert(name).second;
     }
-    std::string ProgramFolder() override { return "C:\\Orvo"; }
+    std::string ProgramFolder() override { return folder_; }
 
     void AddProcess(uint32_t processId, uint32_t priority = kNormalPriority) {
         priorities_[processId] = priority;
@@ -41,9 +41,12 @@ class VirtualProcess : public ProcessPort {
     void Refuse(ProcessCall call, int times = Faults<ProcessCall>::kAlways) {
         faults_.Refuse(call, times);
     }
+    void SetProgramFolder(const std::string& folder) { folder_ = folder; }
     void SetAffinity(uint64_t mask) { affinity_ = mask; }
     // An instance of another program that holds this name.
     void HoldInstance(const std::string& name) { instances_.insert(name); }
+    // The programs that held names have ended.
+    void ReleaseInstances() { instances_.clear(); }
 
     // 0 for a process that isn't there.
     uint32_t Priority(uint32_t processId) const;
@@ -57,6 +60,7 @@ class VirtualProcess : public ProcessPort {
     uintptr_t nextHandle_ = 0x80;
     std::set<uint32_t> refusedAccess_;
     uint64_t affinity_ = 0xF;
+    std::string folder_ = "C:\\Orvo";
     std::set<std::string> instances_;
     Faults<ProcessCall> faults_;
 };

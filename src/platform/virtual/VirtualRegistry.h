@@ -20,6 +20,10 @@ class VirtualRegistry : public RegistryPort {
                                          const std::string& name) override;
     bool WriteValue(uint32_t root, const std::string& key, const std::string& name, uint32_t type,
                     const std::string& data) override;
+    bool WritePath(uint32_t root, const std::string& key, const std::string& name, uint32_t type,
+                   const std::string& path) override {
+        return WriteValue(root, key, name, type, path);
+    }
     bool DeleteValue(uint32_t root, const std::string& key, const std::string& name) override;
 
     void Refuse(RegistryCall call, int times = Faults<RegistryCall>::kAlways) {

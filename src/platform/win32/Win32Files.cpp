@@ -4,6 +4,10 @@
 
 namespace {
 
+constexpr LONGLONG kMostBytes = 64 * 1024 * 1024;
+// A file that another program is writing to isn't given: it may stand there in part.
+constexpr DWORD kReaders = FILE_SHARE_READ | FILE_SHARE_DELETE;
+
 // The system may hold ini files in a cache and doesn't notice what is done to them otherwise. It is
 // dropped here, where the files change behind its back: between the writes it does no harm.
 void DropIniCache(const std::string& path) {
@@ -27,15 +31,32 @@ bool Win32Files::Exists(const std::string& path) {
     return error != ERROR_FILE_NOT_FOUND && error != ERROR_PATH_NOT_FOUND;
 }
 
-bool Win32Files::Copy(const std::string& from, const std::string& to) {
-    DropIniCache(from);
-    DropIniCache(to);
-    if (!CopyFileA(from.c_str(), to.c_str(), FALSE)) return false;
-    const DWORD attributes = GetFileAttributesA(to.c_str());
-    if (attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY) != 0) {
-        SetFileAttributesA(to.c_str(), attributes & ~DWORD{FILE_ATTRIBUTE_READONLY});
+std::optional<std::string> Win32Files::Read(const std::string& path) {
+    const Win32Handle file(
+        CreateFileA(path.c_str(), GENERIC_READ, kReaders, nullptr, OPEN_EXISTING, 0, nullptr));
+    LARGE_INTEGER size{};
+    if (!file || !GetFileSizeEx(file.Get(), &size) || size.QuadPart > kMostBytes) {
+        return std::nullopt;
     }
-    return true;
+    std::string content(static_cast<size_t>(size.QuadPart), '\0');
+    DWORD count = 0;
+    if (!ReadFile(file.Get(), content.data(), static_cast<DWORD>(content.size()), &count,
+                  nullptr) ||
+        count != content.size()) {
+        return std::nullopt;
+    }
+    return content;
+}
+
+bool Win32Files::Write(const std::string& path, const std::string& content) {
+    DropIniCache(path);
+    const Win32Handle file(
+        CreateFileA(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr));
+    DWORD count = 0;
+    return file &&
+           WriteFile(file.Get(), content.data(), static_cast<DWORD>(content.size()), &count,
+                     nullptr) != 0 &&
+           count == content.size();
 }
 
 bool Win32Files::Replace(const std::string& from, const std::string& to) {

@@ -24,6 +24,8 @@ LRESULT CALLBACK Win32HiddenWindow::Procedure(HWND window, UINT message, WPARAM 
     const auto* self =
         reinterpret_cast<const Win32HiddenWindow*>(GetWindowLongPtrW(window, GWLP_USERDATA));
     if (!self) return DefWindowProcW(window, message, wParam, lParam);
+    // Tools that close all windows of a program mean the ones that a user sees.
+    if (message == WM_CLOSE) return 0;
     // The handler may end the window's owner.
     const std::shared_ptr<Handler> handler = self->handler_;
     return (*handler)(window, message, wParam, lParam);

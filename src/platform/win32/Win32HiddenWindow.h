@@ -6,7 +6,8 @@
 #include <memory>
 #include <string>
 
-// A window that is never shown and only takes messages. It belongs to the thread that makes it.
+// A window that is never shown and only takes messages. It belongs to the thread that makes it, and
+// only its owner can end it: a request to close does nothing.
 class Win32HiddenWindow {
   public:
     using Handler = std::function<LRESULT(HWND, UINT, WPARAM, LPARAM)>;

@@ -32,8 +32,12 @@ void ApplyPriority(int32_t priorityClass) {
 }
 
 void ApplyAffinity(int32_t mask) {
-    if (mask == -1) return;
-    SetThreadAffinityMask(GetCurrentThread(), static_cast<uint32_t>(mask));
+    DWORD_PTR own = 0;
+    DWORD_PTR system = 0;
+    if (mask == -1 || !GetProcessAffinityMask(GetCurrentProcess(), &own, &system)) return;
+    // The system refuses a mask with processors that the process doesn't use.
+    const DWORD_PTR cut = static_cast<uint32_t>(mask) & own;
+    if (cut != 0) SetThreadAffinityMask(GetCurrentThread(), cut);
 }
 
 // ERROR_NO_SUCH_DEVICE, which not all headers have.

@@ -1,6 +1,7 @@
 #include "platform/win32/Win32Process.h"
 
 #include "platform/win32/Win32Handle.h"
+#include "platform/win32/Win32Path.h"
 
 Win32Process::~Win32Process() {
     for (const uintptr_t claim : claims_) CloseHandle(ToHandle(claim));
@@ -50,12 +51,12 @@ bool Win32Process::ClaimSingleInstance(const std::string& name) {
 }
 
 std::string Win32Process::ProgramFolder() {
-    std::string path(MAX_PATH, '\0');
-    DWORD length = GetModuleFileNameA(nullptr, path.data(), static_cast<DWORD>(path.size()));
+    std::wstring path(MAX_PATH, L'\0');
+    DWORD length = GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size()));
     while (length == path.size()) {
         path.resize(path.size() * 2);
-        length = GetModuleFileNameA(nullptr, path.data(), static_cast<DWORD>(path.size()));
+        length = GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size()));
     }
     path.resize(length);
-    return path.substr(0, path.find_last_of('\\'));
+    return ReachableFolder(path.substr(0, path.find_last_of(L'\\')));
 }

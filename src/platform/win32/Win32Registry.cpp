@@ -5,6 +5,8 @@
 #include <memory>
 #include <type_traits>
 
+#include "platform/win32/Win32Path.h"
+
 namespace {
 
 constexpr REGSAM kQueryAccess = 1;
@@ -66,6 +68,16 @@ bool Win32Registry::WriteValue(uint32_t root, const std::string& key, const std:
     return RegSetValueExA(opened.get(), name.c_str(), 0, type,
                           reinterpret_cast<const BYTE*>(data.c_str()),
                           static_cast<DWORD>(size)) == ERROR_SUCCESS;
+}
+
+bool Win32Registry::WritePath(uint32_t root, const std::string& key, const std::string& name,
+                              uint32_t type, const std::string& path) {
+    const auto opened = CreateKey(root, key);
+    if (!opened) return false;
+    const std::wstring full = FullPath(path);
+    return RegSetValueExW(opened.get(), ToWide(name).c_str(), 0, type,
+                          reinterpret_cast<const BYTE*>(full.c_str()),
+                          static_cast<DWORD>((full.size() + 1) * sizeof(wchar_t))) == ERROR_SUCCESS;
 }
 
 bool Win32Registry::DeleteValue(uint32_t root, const std::string& key, const std::string& name) {

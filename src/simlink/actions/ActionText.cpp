@@ -31,7 +31,7 @@ bool ReadFields(ActionKind kind, const std::vector<std::string_view>& pieces,
 void ReadAction(std::string_view text, ActionRecord& record) {
     const auto pieces = Split(text, ',');
     for (int32_t kind = 0; kind < static_cast<int32_t>(std::size(kWords)); ++kind) {
-        if (!EqualNoCase(pieces[0], kWords[kind])) continue;
+        if (!EqualNoCase(Trim(pieces[0]), kWords[kind])) continue;
         ActionRecord read = record;
         if (ReadFields(static_cast<ActionKind>(kind), pieces, read)) record = read;
         return;

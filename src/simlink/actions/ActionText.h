@@ -6,7 +6,8 @@
 #include "simlink/actions/ActionRecord.h"
 
 // The form in which an action stands in a profile file: "None", "Offset", "VButton,64,3" or
-// "VKey,65,3,65". Words are read without regard to case.
+// "VKey,65,3,65". Words are read without regard to case, and blanks
+// around the pieces don't count.
 
 // Takes the text over into `record`; with "None" and "Offset" the fields behind FSEvent stay. A
 // text with an unknown word, a missing piece, or a piece that is no number of its field leaves the

@@ -4,7 +4,6 @@
 #include <limits>
 
 #include "base/Number.h"
-#include "config/IniSave.h"
 #include "simlink/actions/ActionText.h"
 
 namespace {
@@ -89,26 +88,18 @@ void BindingTable::SetDefaults() const {
     }
 }
 
-void BindingTable::Load(const ProfileStore& profiles, const std::string& section) const {
-    SetDefaults();
-    for (const auto& entry : profiles.OpenProfile(section).Entries()) {
+void BindingTable::Take(const IniEntries& entries) const {
+    for (const auto& entry : entries) {
         const auto row = std::ranges::find(rows_, entry.first, &Row::key);
         if (row == rows_.end()) continue;
         std::visit([&](auto* place) { Read(entry.second, row->range, *place); }, row->place);
     }
 }
 
-void BindingTable::Save(ProfileStore& profiles, const std::string& section) const {
-    profiles.SaveProfile([&](cInifile& ini) {
-        ini.Section = section;
-        std::vector<std::string> keys;
-        int32_t count = 0;
-        ini.EnumerateCurrentSection(keys, count);
-        return std::ranges::all_of(rows_, [&](const Row& row) {
-            ini.Key = row.key;
-            const std::string text = Text(row);
-            return text.empty() ? DeleteIfThere(ini, keys) : SetKey(ini, keys, text);
-        });
+bool BindingTable::Write(IniSection& keys) const {
+    return std::ranges::all_of(rows_, [&](const Row& row) {
+        const std::string text = Text(row);
+        return text.empty() ? keys.Delete(row.key) : keys.Set(row.key, text);
     });
 }
 

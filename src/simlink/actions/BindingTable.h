@@ -5,7 +5,7 @@
 #include <variant>
 #include <vector>
 
-#include "config/ProfileStore.h"
+#include "config/IniFiles.h"
 #include "simlink/actions/ActionRecord.h"
 #include "simlink/actions/Numbered.h"
 
@@ -41,12 +41,12 @@ class BindingTable {
     // Of the records only FSEvent.
     void SetDefaults() const;
 
-    // Defaults, then what the section of the current profile says; a file that can't be read says
-    // nothing. Key names count with their case; unknown ones are passed over.
-    void Load(const ProfileStore& profiles, const std::string& section) const;
+    // Takes over what a section says. Key names count with their case; unknown ones are passed
+    // over.
+    void Take(const IniEntries& entries) const;
 
-    // Writes what differs from the defaults and deletes what doesn't, all or nothing.
-    void Save(ProfileStore& profiles, const std::string& section) const;
+    // Writes what differs from the defaults and deletes what doesn't. False when a write fails.
+    [[nodiscard]] bool Write(IniSection& keys) const;
 
   private:
     struct Row {

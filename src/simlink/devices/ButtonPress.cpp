@@ -26,7 +26,7 @@ void ButtonPress::Down(int32_t mask, uint32_t clock) {
 void ButtonPress::Tick() {
     const uint32_t now = clock_.GetTickCount();
     const bool late = now - std::exchange(lastTick_, now) > kLateMs;
-    if (Held(now) <= clickThreshold_) return;
+    if (Held(now) <= Threshold()) return;
     // After a busy moment the report of the release may stand behind this tick.
     if (late && !std::exchange(waited_, true)) return;
     timerButton_.SetEnabled(false);  // first: the listeners may let the next press in

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 
 #include "base/Event.h"
@@ -10,13 +11,13 @@
 // press of a second button while the first is held restarts the time and takes its place.
 class ButtonPress {
   public:
-    // `clickThreshold` (milliseconds) is read at each use.
+    // `clickThreshold` (milliseconds) is read at each use; below 1 it works as 1.
     ButtonPress(Clock& clock, MessageLoop& loop, const int32_t& clickThreshold);
 
     // The clock is that of the report that tells it.
     void Down(int32_t mask, uint32_t clock);
     // True when the press was a short one, that is a click.
-    bool Up(uint32_t clock) const { return !wasLong_ && Held(clock) < clickThreshold_; }
+    bool Up(uint32_t clock) const { return !wasLong_ && Held(clock) < Threshold(); }
     // No long click comes of the present press any more.
     void Cancel() { timerButton_.SetEnabled(false); }
 
@@ -26,6 +27,7 @@ class ButtonPress {
 
   private:
     void Tick();
+    int32_t Threshold() const { return std::max(clickThreshold_, 1); }
     int64_t Held(uint32_t clock) const { return static_cast<uint32_t>(clock - downTick_); }
 
     Clock& clock_;

@@ -40,12 +40,22 @@ TEST_F(BIPPanelBindingsTest, WhatAHandWroteWrongCostsOnlyItsOwnTile) {
         EXPECT_EQ(Alone(holder), first + read) << each;
         EXPECT_EQ(Saved(holder), first + (each.back() == '!' ? written : read));
     }
+    auto blanks = LoadedFrom("T0=LOW_PRESSURE, Yellow, 40\r\nT1= VAC_LOW\t,Red ,5 \r\n");
+    EXPECT_EQ(Saved(blanks), head + "T0=LOW_PRESSURE,Yellow,40\r\nT1=VAC_LOW,Red,5\r\n");
     auto twice = LoadedFrom("t07=NO_SUCH\r\nT07=NAV\r\n");
     twice.ClearTile(7);
     EXPECT_EQ(Saved(twice), head) << "it doesn't come back";
     auto holder = LoadedFrom("T3=VAC_LOW,Red,5\r\n");
     holder.SetColor(3, 0);
     EXPECT_EQ(Alone(holder), head + "T3=VAC_LOW,5\r\n") << "a colour without a word";
+}
+
+TEST_F(BIPPanelBindingsTest, TilesOfAHeldFileStay) {
+    auto holder = LoadedFrom("T3=VAC_LOW,Red,5\r\n");
+    machine.files.Hold("C:\\Orvo\\Default.ini");
+    holder.LoadSetup();
+    EXPECT_EQ(holder.GetThreshold(3), 5);
+    EXPECT_FALSE(holder.SaveSetup());
 }
 
 }  // namespace

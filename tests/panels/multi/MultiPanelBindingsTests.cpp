@@ -60,4 +60,29 @@ TEST_F(MultiPanelBindingsTest, OddValuesAndSpellings) {
     EXPECT_EQ(Saved(holder), head + "ButtonActionAP=VKey,65,1,97\r\n");
 }
 
+TEST_F(MultiPanelBindingsTest, HolderOfAHeldFileKeepsWhatItHadAndSavesNothing) {
+    Holder holder = LoadedFrom("CourseSel=2\r\n");
+    const std::string jet = "C:\\Orvo\\Jet.ini", text = head + "TrimSensitivity=2\r\n";
+    machine.files.Put(jet, text);
+    machine.files.Hold(jet);
+    profiles.CurrentProfile = "Jet";
+    holder.LoadSetup();
+    EXPECT_EQ(holder.CourseSel, 2);
+    EXPECT_TRUE(profiles.ProfileMissed());
+    machine.files.Hold("");
+    EXPECT_FALSE(holder.SaveSetup()) << "what it has is another profile's";
+    EXPECT_EQ(machine.files.Look(jet), text);
+    holder.LoadSetup();
+    EXPECT_EQ(holder.CourseSel, 1);
+    EXPECT_TRUE(holder.SaveSetup());
+    EXPECT_EQ(machine.files.Look(jet), text);
+}
+
+TEST_F(MultiPanelBindingsTest, BlanksAroundThePiecesOfAnActionDontCount) {
+    Holder holder =
+        LoadedFrom("ButtonActionAP= VButton , 64,\t3\r\nFlapsActionUP=VKey, 65, 1 , 97\r\n");
+    EXPECT_EQ(Saved(holder),
+              head + "ButtonActionAP=VButton,64,3\r\nFlapsActionUP=VKey,65,1,97\r\n");
+}
+
 }  // namespace

@@ -6,18 +6,26 @@
 
 #include <algorithm>
 #include <array>
+#include <atomic>
 #include <chrono>
+#include <filesystem>
+#include <fstream>
 #include <utility>
 #include <vector>
 
 #include "bench/driver/TypingField.h"
 #include "bench/driver/Until.h"
+#include "config/ProfileStore.h"
+#include "platform/win32/Win32Files.h"
 #include "platform/win32/Win32Handle.h"
 #include "platform/win32/Win32HidLibrary.h"
 #include "platform/win32/Win32HiddenWindow.h"
+#include "platform/win32/Win32Ini.h"
 #include "platform/win32/Win32Keyboard.h"
 #include "platform/win32/Win32Loop.h"
 #include "platform/win32/Win32PanelLink.h"
+#include "platform/win32/Win32PanelReader.h"
+#include "platform/win32/Win32Path.h"
 #include "platform/win32/Win32Tray.h"
 
 using bench::TypingField;
@@ -140,6 +148,133 @@ TEST(Win32TrayTest, IconComesBack) {
 
     EXPECT_TRUE(tray.NotifyIcon(NIM_DELETE, record));
     EXPECT_FALSE(tray.NotifyIcon(NIM_MODIFY, record)) << "no longer wanted";
+}
+
+TEST(Win32HiddenWindowTest, RequestToCloseDoesNothing) {
+    Win32Loop loop;
+    const Win32Tray tray;
+    const HWND windows[] = {FindWindowW(L"OrvoTray", nullptr),
+                            FindWindowExW(HWND_MESSAGE, nullptr, L"OrvoLoop", nullptr)};
+    for (const HWND window : windows) {
+        ASSERT_TRUE(IsWindow(window));
+        SendMessageW(window, WM_CLOSE, 0, 0);
+        PostMessageW(window, WM_SYSCOMMAND, SC_CLOSE, 0);
+        loop.RunPending();
+        EXPECT_TRUE(IsWindow(window));
+    }
+    bool ran = false;
+    loop.Post([&] { ran = true; });
+    loop.RunUntil([&] { return ran; });
+}
+
+TEST(Win32PanelReaderTest, ItsProcessorsAreAmongThoseOfTheProcess) {
+    DWORD_PTR own = 0, system = 0;
+    ASSERT_TRUE(GetProcessAffinityMask(GetCurrentProcess(), &own, &system));
+    const DWORD_PTR first = own & (~own + 1);
+    const auto option = static_cast<int32_t>(first);
+    constexpr int32_t kNone = 0x40000000;
+    const struct {
+        int32_t option;
+        DWORD_PTR used;
+    } cases[] = {{option, first}, {option | kNone, first}, {kNone, own}, {-1, own}};
+    for (const auto& each : cases) {
+        const Win32Handle device(
+            CreateNamedPipeA(kPipe, PIPE_ACCESS_DUPLEX, PIPE_TYPE_MESSAGE, 1, 64, 64, 0, nullptr));
+        Win32Handle end(CreateFileA(kPipe, GENERIC_READ | GENERIC_WRITE, 0, nullptr, OPEN_EXISTING,
+                                    FILE_FLAG_OVERLAPPED, nullptr));
+        std::atomic<DWORD_PTR> used = 0;
+        const Win32PanelReader reader(std::move(end), {.affinity = each.option}, [&](auto) {
+            used = SetThreadAffinityMask(GetCurrentThread(), own);
+        });
+        DWORD count = 0;
+        WriteFile(device.Get(), "x", 1, &count, nullptr);
+        EXPECT_TRUE(Until(2000, [&] { return used != 0; }));
+        EXPECT_EQ(used, each.used) << each.option;
+    }
+}
+
+// What other programs do to files of the program.
+struct FilesTest : testing::Test {
+    FilesTest() {
+        wchar_t temp[MAX_PATH];
+        GetTempPathW(MAX_PATH, temp);
+        folder = std::filesystem::path(temp) /
+                 (L"orvo \u0391\u0392 " + std::to_wstring(GetCurrentProcessId()));
+        std::filesystem::create_directories(folder);
+        name = ReachableFolder(folder.wstring());
+    }
+    ~FilesTest() override {
+        SetCurrentDirectoryW(folder.parent_path().c_str());
+        std::error_code ignored;
+        std::filesystem::remove_all(folder, ignored);
+    }
+
+    void Put(const std::string& content) const {
+        std::ofstream(folder / "Orvo.ini", std::ios::binary) << content;
+    }
+    std::string Look() const {
+        std::ifstream file(folder / "Orvo.ini", std::ios::binary);
+        return {std::istreambuf_iterator<char>(file), {}};
+    }
+
+    std::filesystem::path folder;  // has letters that the code page lacks
+    std::string name;
+    Win32Ini ini;
+    Win32Files files;
+    IniFiles both{ini, files};
+};
+
+TEST_F(FilesTest, FolderWithLettersBeyondTheCodePageIsReached) {
+    const auto byShortName = ByShortName(folder.wstring());
+    const auto byCurrentFolder = ByCurrentFolder(folder.wstring());
+    ASSERT_TRUE(byShortName && byCurrentFolder);
+    EXPECT_EQ(name, *byShortName);
+    for (const std::string& each : {*byShortName, *byCurrentFolder}) {
+        Put("[A]\r\nx=1\r\n");
+        const std::string path = each + "\\Orvo.ini";
+        EXPECT_TRUE(both.Save(path, "A", [](IniSection& keys) { return keys.Set("x", "2"); }));
+        EXPECT_EQ(Look(), "[A]\r\nx=2\r\n") << each;
+        EXPECT_EQ(FullPath(path), (folder / "Orvo.ini").wstring());
+        std::filesystem::remove(folder / "Orvo.ini");
+        EXPECT_FALSE(files.Exists(path)) << each;
+        EXPECT_TRUE(both.Save(path, "A", [](IniSection& keys) { return keys.Set("x", "3"); }));
+        EXPECT_EQ(Look(), "[A]\r\nx=3\r\n") << each;
+    }
+}
+
+TEST_F(FilesTest, FileThatAnotherProgramHasIsHeld) {
+    const std::string path = name + "\\Orvo.ini", text = "[A]\r\nx=1\r\n";
+    Put(text);
+    const auto save = [&] {
+        return both.Save(path, "A", [](IniSection& keys) { return keys.Set("x", "2"); });
+    };
+    for (const DWORD access : {DWORD{GENERIC_READ}, DWORD{GENERIC_WRITE}}) {
+        const Win32Handle other(CreateFileW((folder / "Orvo.ini").c_str(), access,
+                                            access == GENERIC_READ ? 0 : FILE_SHARE_READ, nullptr,
+                                            OPEN_EXISTING, 0, nullptr));
+        ASSERT_TRUE(other);
+        EXPECT_FALSE(both.Read(path)) << access;
+        EXPECT_FALSE(save());
+    }
+    std::filesystem::create_directory(folder / "Orvo.ini.new");
+    EXPECT_EQ(Look(), text);
+    EXPECT_TRUE(save()) << "also with a folder where the copy would be";
+    EXPECT_EQ(Look(), "[A]\r\nx=2\r\n");
+    EXPECT_FALSE(std::filesystem::exists(folder / "Orvo.ini.new2"));
+}
+
+// Its keys can't be named, and so not be deleted, by 8-bit text.
+TEST_F(FilesTest, ListOf16BitTextIsReadAndAddedTo) {
+    std::wstring text = L"\xFEFF[Aircrafts]\r\n";
+    for (int i = 0; i < 1000; ++i) text += L"\u0391\u0392 " + std::to_wstring(i) + L"=Jet\r\n";
+    Put({reinterpret_cast<const char*>(text.data()), text.size() * 2});
+    ProfileStore store(ini, files, name);
+    store.LoadAircraftList();
+    EXPECT_EQ(store.ProfileOfAircraft("?? 999"), "Jet");
+    store.AddAircraft("One more", "Default");
+    EXPECT_TRUE(store.SaveAircraftList());
+    text += L"One more=Default\r\n";
+    EXPECT_EQ(Look(), std::string(reinterpret_cast<const char*>(text.data()), text.size() * 2));
 }
 
 TEST(Win32KeyboardTest, RecordsReachTheWindowWithTheFocusInOrder) {

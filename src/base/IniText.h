@@ -3,7 +3,11 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
+
+// Keys of a section and their values.
+using IniEntries = std::vector<std::pair<std::string, std::string>>;
 
 // The text of a private profile file, as the platform's service reads and changes it. Names compare
 // without regard to case and to blanks around them; where a name comes twice the first one counts.
@@ -20,11 +24,16 @@ class IniText {
     // In the order of the file, as they are spelled there.
     std::vector<std::string> Keys(std::string_view section) const;
     std::vector<std::string> Sections() const;
+    // The keys with their values; one that comes twice has the first value both times.
+    IniEntries Entries(std::string_view section) const;
 
     // Each gives whether it changed anything.
     bool Set(std::string_view section, std::string_view key, std::string_view value);
     bool DeleteKey(std::string_view section, std::string_view key);
     bool DeleteSection(std::string_view section);
+    // Takes the section out, however often it is there, and puts a new one behind all others. The
+    // keys must differ, and neither they nor the values may have what the text would misread.
+    void ReplaceSection(std::string_view section, const IniEntries& entries);
 
     // All lines, each with CRLF behind it.
     std::string Text() const;

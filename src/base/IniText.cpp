@@ -1,6 +1,7 @@
-#include "platform/virtual/IniText.h"
+#include "base/IniText.h"
 
 #include <algorithm>
+#include <unordered_map>
 
 #include "base/Text.h"
 
@@ -56,6 +57,19 @@ std::vector<std::string> IniText::Sections() const {
     return sections;
 }
 
+IniEntries IniText::Entries(std::string_view section) const {
+    IniEntries entries;
+    std::unordered_map<std::string, std::string_view> values;
+    const auto [begin, end] = Range(section);
+    for (size_t i = begin; i < end; ++i) {
+        const Line& line = lines_[i];
+        if (line.kind != Kind::Key) continue;
+        const auto first = values.try_emplace(ToLower(line.name), WithoutQuotes(line.value)).first;
+        entries.emplace_back(line.name, first->second);
+    }
+    return entries;
+}
+
 bool IniText::Set(std::string_view section, std::string_view key, std::string_view value) {
     if (const auto found = FindKey(section, key)) {
         Line& line = lines_[*found];
@@ -84,6 +98,17 @@ bool IniText::DeleteSection(std::string_view section) {
     lines_.erase(lines_.begin() + static_cast<Lines::difference_type>(begin),
                  lines_.begin() + static_cast<Lines::difference_type>(end));
     return begin != end;
+}
+
+void IniText::ReplaceSection(std::string_view section, const IniEntries& entries) {
+    while (DeleteSection(section)) {
+    }
+    if (!entries.empty()) lines_.push_back(Parse('[' + std::string(section) + ']'));
+    std::string line;
+    for (const auto& [key, value] : entries) {
+        line.assign(key).append(1, '=').append(value);
+        lines_.push_back(Parse(line));
+    }
 }
 
 std::string IniText::Text() const {

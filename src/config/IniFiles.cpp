@@ -1,0 +1,118 @@
+#include "config/IniFiles.h"
+
+#include <algorithm>
+
+#include "base/Number.h"
+#include "base/Text.h"
+
+namespace {
+
+constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
+constexpr std::string_view kUtf16Mark = "\xFF\xFE";
+
+constexpr int kMostCopies = 9;
+
+bool IsUtf16(std::string_view bytes) { return bytes.starts_with(kUtf16Mark); }
+
+IniText TextOf(const std::string& bytes) {
+    return IsUtf16(bytes) ? IniText(FromUtf16(std::string_view(bytes).substr(kUtf16Mark.size())))
+                          : IniText(bytes);
+}
+
+bool HasKey(const IniEntries& entries, const std::string& key) {
+    return std::ranges::find(entries, key, &IniEntries::value_type::first) != entries.end();
+}
+
+// Only what differs is touched: a key with characters that 8-bit text hasn't can't be written
+// again.
+bool WriteDifferences(IniSection& keys, const IniEntries& before, const IniEntries& after) {
+    for (const auto& [key, value] : before) {
+        if (!HasKey(after, key) && !keys.Delete(key)) return false;
+    }
+    return std::ranges::all_of(after, [&](const auto& entry) {
+        const bool there = std::ranges::find(before, entry) != before.end();
+        return there || keys.Set(entry.first, entry.second);
+    });
+}
+
+}  // namespace
+
+bool IniSection::Set(const std::string& key, const std::string& text) {
+    const bool there = std::ranges::find(keys_, key) != keys_.end();
+    if (!there && !Delete(key)) return false;
+    ini_.Key = key;
+    ini_.SetValue(text);
+    return ini_.Success();
+}
+
+bool IniSection::Delete(const std::string& key) {
+    ini_.Key = key;
+    // A key that a hand wrote twice would come to light when only its first one went.
+    return std::ranges::all_of(keys_, [&](const std::string& each) {
+        if (!EqualNoCase(each, key)) return true;
+        ini_.DeleteKey();
+        return ini_.Success();
+    });
+}
+
+std::optional<IniText> IniFiles::Read(const std::string& path) const {
+    const auto bytes = Bytes(path);
+    if (!bytes) return std::nullopt;
+    return TextOf(*bytes);
+}
+
+bool IniFiles::Save(const std::string& path, const std::string& section,
+                    const std::function<bool(IniSection&)>& write) const {
+    const auto bytes = Bytes(path);
+    return bytes && ByCopy(path, *bytes, [&](const std::string& copy) {
+               cInifile ini(service_);
+               ini.Path = copy;
+               ini.Section = section;
+               IniSection keys(ini, TextOf(*bytes).Keys(section));
+               return write(keys);
+           });
+}
+
+bool IniFiles::SaveSection(const std::string& path, const std::string& section,
+                           const IniEntries& entries) const {
+    const auto bytes = Bytes(path);
+    if (!bytes) return false;
+    IniText text = TextOf(*bytes);
+    if (IsUtf16(*bytes)) {
+        const IniEntries before = text.Entries(section);
+        return Save(path, section,
+                    [&](IniSection& keys) { return WriteDifferences(keys, before, entries); });
+    }
+    text.ReplaceSection(section, entries);
+    return ByCopy(path, text.Text(), [](const std::string&) { return true; });
+}
+
+// The mark that some editors put before 8-bit text would hide the first section from the service.
+std::optional<std::string> IniFiles::Bytes(const std::string& path) const {
+    if (!files_.Exists(path)) return std::string();
+    auto bytes = files_.Read(path);
+    if (bytes && bytes->starts_with(kUtf8Mark)) bytes->erase(0, kUtf8Mark.size());
+    return bytes;
+}
+
+bool IniFiles::ByCopy(const std::string& path, const std::string& bytes,
+                      const std::function<bool(const std::string&)>& write) const {
+    const bool isNew = !files_.Exists(path);
+    const auto copy = MakeCopy(path, bytes);
+    if (!copy) return false;
+    const bool written = write(*copy);
+    const bool forNothing = written && isNew && files_.Read(*copy) == "";
+    if (written && !forNothing && files_.Replace(*copy, path)) return true;
+    files_.Delete(*copy);
+    return forNothing;
+}
+
+// Something else may have the copy's name: a folder, or a file that another program holds.
+std::optional<std::string> IniFiles::MakeCopy(const std::string& path,
+                                              const std::string& bytes) const {
+    for (int number = 1; number <= kMostCopies; ++number) {
+        std::string copy = path + ".new" + (number > 1 ? FormatInteger(number) : "");
+        if (files_.Write(copy, bytes)) return copy;
+    }
+    return std::nullopt;
+}

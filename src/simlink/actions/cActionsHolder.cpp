@@ -1,0 +1,18 @@
+#include "simlink/actions/cActionsHolder.h"
+
+#include "base/Number.h"
+
+void cActionsHolder::LoadSetup() {
+    const auto entries = profiles_.ReadProfile(Section());
+    whole_ = entries.has_value();
+    if (!entries) return;
+    SetDefaults();
+    Take(*entries);
+}
+
+bool cActionsHolder::SaveSetup() {
+    return whole_ &&
+           profiles_.SaveProfile(Section(), [this](IniSection& keys) { return Write(keys); });
+}
+
+std::string cActionsHolder::Section() const { return panel_ + FormatInteger(Index); }
