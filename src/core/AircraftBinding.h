@@ -69,7 +69,7 @@ class AircraftBinding {
     const Parts parts_;
     std::string currentAircraft_;
     bool binding_ = false;
-    bool gearKnown_ = true;  // until there is an aircraft
+    bool gearKnown_ = true;   // until there is an aircraft
     bool unsettled_ = false;  // the aircraft in use came before the lists could be read
     bool unsaved_ = false;    // a binding isn't in the file yet
 };

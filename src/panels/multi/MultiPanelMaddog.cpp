@@ -11,7 +11,7 @@ constexpr uint8_t kAutopilotLight = 1;
 constexpr uint8_t kMachLight = 128;
 
 // Controls of the add-on. What they mean besides their names is its own affair.
-namespace Control {
+namespace MaddogControl {
 enum : int32_t {
     kSetSpeed = 69653,
     kSetMach = 69654,
@@ -42,7 +42,7 @@ enum : int32_t {
     kSetCourse1 = 65716,
     kSetCourse2 = 65717,
 };
-}  // namespace Control
+}  // namespace MaddogControl
 
 // A button that only runs a control, with parameter 1.
 struct PlainButton {
@@ -51,12 +51,12 @@ struct PlainButton {
     int32_t longClick;  // 0 for none
 };
 constexpr PlainButton kPlainButtons[] = {
-    {MultiButton::kHDG, Control::kHeading, Control::kHeadingLong},
-    {MultiButton::kNAV, Control::kNav, Control::kNavLong},
-    {MultiButton::kIAS, 0, Control::kVerticalSpeedTurned},
-    {MultiButton::kALT, 0, Control::kAltitudeLong},
-    {MultiButton::kVS, Control::kVerticalSpeed, Control::kVerticalSpeedLong},
-    {MultiButton::kAPR, Control::kApproach, Control::kApproachLong},
+    {MultiButton::kHDG, MaddogControl::kHeading, MaddogControl::kHeadingLong},
+    {MultiButton::kNAV, MaddogControl::kNav, MaddogControl::kNavLong},
+    {MultiButton::kIAS, 0, MaddogControl::kVerticalSpeedTurned},
+    {MultiButton::kALT, 0, MaddogControl::kAltitudeLong},
+    {MultiButton::kVS, MaddogControl::kVerticalSpeed, MaddogControl::kVerticalSpeedLong},
+    {MultiButton::kAPR, MaddogControl::kApproach, MaddogControl::kApproachLong},
 };
 
 // What REV sends next after 1 to 6.
@@ -109,15 +109,16 @@ void MultiPanelMaddog::SM_MADDOG_ButtonClick(int32_t Button, bool autopilotRead)
             ToggleAutopilot(autopilotRead);
             break;
         case MultiButton::kIAS:
-            output_.SendControl(values_.MDMachMode ? Control::kMachHold : Control::kSpeedHold, 1);
+            output_.SendControl(
+                values_.MDMachMode ? MaddogControl::kMachHold : MaddogControl::kSpeedHold, 1);
             break;
         case MultiButton::kALT:
-            output_.SendControl(Control::kArmAltitude, values_.MDAltitude);
-            output_.SendControl(Control::kAltitude, 1);
+            output_.SendControl(MaddogControl::kArmAltitude, values_.MDAltitude);
+            output_.SendControl(MaddogControl::kAltitude, 1);
             break;
         case MultiButton::kREV:
-            output_.SendControl(Control::kSetNavMode, values_.MDNavMode);
-            output_.SendControl(Control::kNavMode, 1);
+            output_.SendControl(MaddogControl::kSetNavMode, values_.MDNavMode);
+            output_.SendControl(MaddogControl::kNavMode, 1);
             values_.MDNavMode = kNextNavMode[values_.MDNavMode];
             break;
         default:
@@ -142,12 +143,12 @@ void MultiPanelMaddog::SM_MADDOG_ButtonLongClick(int32_t Button, int32_t positio
 void MultiPanelMaddog::ToggleAutopilot(bool read) {
     if (!read) return;
     values_.MDAutopilotOn = !values_.MDAutopilotOn;
-    output_.SendControl(Control::kAutopilot, values_.MDAutopilotOn ? 1 : 0);
+    output_.SendControl(MaddogControl::kAutopilot, values_.MDAutopilotOn ? 1 : 0);
 }
 
 void MultiPanelMaddog::ToggleMach(int32_t position) {
     values_.MDMachMode = !values_.MDMachMode;
-    output_.SendControl(Control::kMachMode, values_.MDMachMode ? 1 : 0);
+    output_.SendControl(MaddogControl::kMachMode, values_.MDMachMode ? 1 : 0);
     if (position != MultiPosition::kIAS) return;
     control_.WriteDisplay(values_.MDMachMode ? FormatInteger(values_.MDMach, 4)
                                              : FormatInteger(values_.MDSpeed, 3));
@@ -161,15 +162,15 @@ void MultiPanelMaddog::SM_MADDOG_Rotary(int16_t Direction, int16_t Speed, int32_
         case MultiPosition::kALT:
             v.MDAltitude = std::clamp(v.MDAltitude + step * 100, 0, 99000);
             control_.WriteDisplay(FormatInteger(v.MDAltitude, 5));
-            output_.SendControl(Control::kSetAltitude, v.MDAltitude);
-            output_.SendControl(Control::kArmAltitude, v.MDAltitude);
+            output_.SendControl(MaddogControl::kSetAltitude, v.MDAltitude);
+            output_.SendControl(MaddogControl::kArmAltitude, v.MDAltitude);
             break;
         case MultiPosition::kVS:
             v.MDVerticalSpeed = std::clamp(v.MDVerticalSpeed + step * 100, -8000, 4000);
             control_.WriteDisplay(std::nullopt, FormatInteger(v.MDVerticalSpeed));
-            output_.SendControl(Control::kVerticalSpeedTurned, 1);
-            output_.SendControl(Control::kVerticalSpeed, 1);
-            output_.SendControl(Control::kSetVerticalSpeed, v.MDVerticalSpeed);
+            output_.SendControl(MaddogControl::kVerticalSpeedTurned, 1);
+            output_.SendControl(MaddogControl::kVerticalSpeed, 1);
+            output_.SendControl(MaddogControl::kSetVerticalSpeed, v.MDVerticalSpeed);
             break;
         case MultiPosition::kIAS:
             TurnSpeed(step);
@@ -177,13 +178,13 @@ void MultiPanelMaddog::SM_MADDOG_Rotary(int16_t Direction, int16_t Speed, int32_
         case MultiPosition::kHDG:
             v.MDHeading = OnCircle(v.MDHeading + step);
             control_.WriteDisplay(FormatInteger(v.MDHeading, 3));
-            output_.SendControl(Control::kSetHeading, v.MDHeading);
+            output_.SendControl(MaddogControl::kSetHeading, v.MDHeading);
             break;
         case MultiPosition::kCRS:
             v.MDCourse = OnCircle(v.MDCourse + step);
             control_.WriteDisplay(FormatInteger(v.MDCourse, 3));
-            output_.SendControl(secondCourse ? Control::kSetCourse2 : Control::kSetCourse1,
-                                v.MDCourse);
+            output_.SendControl(
+                secondCourse ? MaddogControl::kSetCourse2 : MaddogControl::kSetCourse1, v.MDCourse);
             break;
         default:
             break;
@@ -195,15 +196,15 @@ void MultiPanelMaddog::TurnSpeed(int32_t step) {
     if (v.MDMachMode) {
         v.MDMach = std::clamp(v.MDMach + step, 500, 900);
         control_.WriteDisplay(FormatInteger(v.MDMach, 4));
-        output_.SendControl(Control::kSetMach, v.MDMach);
+        output_.SendControl(MaddogControl::kSetMach, v.MDMach);
         return;
     }
     v.MDSpeed = std::clamp(v.MDSpeed + step, 100, 350);
     control_.WriteDisplay(FormatInteger(v.MDSpeed));
-    output_.SendControl(Control::kSetSpeed, v.MDSpeed);
-    output_.SendControl(Control::kSpeedTurned, v.MDSpeed);
+    output_.SendControl(MaddogControl::kSetSpeed, v.MDSpeed);
+    output_.SendControl(MaddogControl::kSpeedTurned, v.MDSpeed);
 }
 
 void MultiPanelMaddog::SM_MADDOG_AutoThrottle(int16_t State) {
-    output_.SendControl(Control::kAutoThrottle, State != 0 ? 1 : 0);
+    output_.SendControl(MaddogControl::kAutoThrottle, State != 0 ? 1 : 0);
 }
