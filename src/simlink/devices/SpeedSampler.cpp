@@ -18,8 +18,8 @@ SpeedSampler::SpeedSampler(Clock& clock, MessageLoop& loop, uint32_t periodMs,
 void SpeedSampler::SetPeriod(uint32_t milliseconds) {
     if (milliseconds == period_) return;
     period_ = milliseconds;
-    begin_ = clock_.GetTickCount();
-    lastTick_ = begin_;
+    begin_ = lastSeen_;
+    lastTick_ = clock_.GetTickCount();
     timer_.SetInterval(milliseconds);
 }
 
@@ -41,6 +41,7 @@ int16_t SpeedSampler::SpeedAt(uint32_t clock) {
 // Ends the periods that are over at this clock: the one that the pulses fell into, and one without
 // any where more time has gone by.
 void SpeedSampler::Advance(uint32_t clock) {
+    lastSeen_ = clock;
     const auto since = static_cast<int32_t>(clock - begin_);
     if (resting_ || period_ == 0 || since < static_cast<int32_t>(period_)) return;
     const uint32_t periods = static_cast<uint32_t>(since) / period_;

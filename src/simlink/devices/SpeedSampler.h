@@ -41,7 +41,8 @@ class SpeedSampler {
     Timer timer_;  // runs only while there are periods
     bool started_ = false;
     bool resting_ = true;
-    uint32_t begin_ = 0;  // of the present period
+    uint32_t lastSeen_ = 0;  // clock of the last report or tick
+    uint32_t begin_ = 0;     // of the present period
     uint32_t lastTick_ = 0;
     int32_t pulses_ = 0;
     int32_t seen_ = 0;
