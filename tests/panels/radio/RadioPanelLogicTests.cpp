@@ -62,6 +62,8 @@ TEST_F(RadioPanelLogicTest, UpperRowOfTheFirstPanelSelectsTheEngine) {
         MoveSelectorTo(engine);
         EXPECT_EQ(Engine(), engine);
     }
+    for (const int knob : {-1, 4}) Radio().RotaryUp.Raise(knob, 1);  // the panel has 0 to 3
+    EXPECT_EQ(Sent(), kNothing);
     for (const Position none : {ADF, DME, XPDR, None}) MoveSelectorTo(none);
     At(Lower), MoveSelectorTo(COM2);
     EXPECT_EQ(Engine(), 4);

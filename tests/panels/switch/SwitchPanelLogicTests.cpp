@@ -48,8 +48,8 @@ struct SwitchPanelLogicTest : PanelFlight {
     void MoveSelectorTo(int32_t to) {
         SwitchLogic().SelectorChange(to, std::exchange(position, to));
     }
-    void LeverDown() { SwitchLogic().GearDown(); }
-    void LeverUp() { SwitchLogic().GearUp(); }
+    void LeverDown() { Switch().GearDown.Raise(); }
+    void LeverUp() { Switch().GearUp.Raise(); }
 
     void TellPiledUp() override {
         PanelFlight::TellPiledUp();
