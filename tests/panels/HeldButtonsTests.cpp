@@ -15,7 +15,7 @@ struct HeldButtonsTest : MultiPanelFlight {
     void HoldAll() {
         FlyWith(kAllHeld);
         MoveSelectorTo(Position::HDG), SetAutoThrottle(true), SwitchLogic().GearDown();
-        EXPECT_EQ(Sent(), Pressed(1) + Pressed(3) + Pressed(4));
+        ExpectSent(Pressed(1) + Pressed(3) + Pressed(4));
     }
     void LeaveAll(Position to) {
         MoveSelectorTo(to), SetAutoThrottle(false), SwitchLogic().GearUp();
@@ -50,21 +50,18 @@ TEST_F(HeldButtonsTest, ComeUpWhateverTheProfileAndTheModeSayByThen) {
 
 TEST_F(HeldButtonsTest, SelectorThatPassesAPlaceWithoutABitLetsGo) {
     HoldAll();
-    MoveSelectorTo(Position::None);
-    EXPECT_EQ(Sent(), Released(1));
-    MoveSelectorTo(Position::CRS);
-    EXPECT_EQ(Sent(), Pressed(2));
-    MoveSelectorTo(Position::HDG);
-    EXPECT_EQ(Sent(), Pressed(1) + Released(2));
+    MoveSelectorTo(Position::None), ExpectSent(Released(1));
+    MoveSelectorTo(Position::CRS), ExpectSent(Pressed(2));
+    MoveSelectorTo(Position::HDG), ExpectSent(Pressed(1) + Released(2));
 }
 
 TEST_F(HeldButtonsTest, GearLeverThatIsBoundOnOneSideWorksEachTime) {
     FlyWith(kAllHeld);
     for (int time = 0; time < 3; ++time) {
         SwitchLogic().GearDown();
-        EXPECT_EQ(Sent(), Pressed(4));
+        ExpectSent(Pressed(4));
         SwitchLogic().GearUp();
-        EXPECT_EQ(Sent(), Released(4));
+        ExpectSent(Released(4));
     }
 }
 
@@ -77,7 +74,7 @@ TEST_F(HeldButtonsTest, WhatIsLeftWhileTheSimulatorIsAwayComesUpInTheNextSession
     device.positions = {0, 0x04, 0, 0};  // IAS
     Connect();
     for (int tick = 0; tick < 4; ++tick) Tick();
-    EXPECT_EQ(Sent(), Released(3) + Released(4) + Released(1));
+    ExpectSent(Released(3) + Released(4) + Released(1));
     EXPECT_EQ(sim.Get<uint32_t>(0x3340), 0U);
 }
 
@@ -87,7 +84,7 @@ TEST_F(HeldButtonsTest, ComeUpWhenTheProgramEnds) {
     SwitchLogic().SPActions->SetSwitchActions(6, 1, {ActionKind::VButton, 64, 5, 0});
     SwitchLogic().SwitchChange(6, true);  // pressed for a while
     Window().btnQuit.Press();
-    EXPECT_EQ(Sent(), Pressed(5) + Released(5) + AllReleased());
+    ExpectSent(Pressed(5) + Released(5) + AllReleased());
     EXPECT_EQ(machine.ipc.OpenViews(), 0U);
 }
 

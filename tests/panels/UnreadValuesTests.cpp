@@ -51,11 +51,10 @@ TEST_F(UnreadValuesTest, ActsThatWaitKeepTheirOrderAndEndWithTheSession) {
     failures[0]();
     TurnTrim(+1), TurnTrim(-3), Click(Button::HDG);
     Tick(), Tick(), Tick();
-    EXPECT_EQ(Sent(), WroteWord(kTrim, 32) + WroteWord(kTrim, -64) + WroteDword(0x07C8, 1));
+    ExpectSent(WroteWord(kTrim, 32) + WroteWord(kTrim, -64) + WroteDword(0x07C8, 1));
     failures[0]();
     TurnTrim(+1);
-    Reconnect();
-    EXPECT_EQ(Sent(), kNothing);
+    Reconnect(), ExpectSent(kNothing);
 }
 
 TEST_F(UnreadValuesTest, KnobsStartFromTheFirstTickOfSessionBindingAndMode) {
@@ -92,10 +91,8 @@ TEST_F(UnreadValuesTest, TickWhoseReplyEndsEarlyHasReadNothing) {
     machine.ipc.AfterServing([](std::span<uint8_t> block) { std::ranges::fill(block, 0); });
     Tick();
     machine.ipc.AfterServing({});
-    TurnKnob(+1), TurnTrim(+1);
-    EXPECT_EQ(Sent(), WroteWord(kTrim, 32));
-    TurnKnob(+1);
-    EXPECT_EQ(Sent(), WroteWord(kHeading, 16566));
+    TurnKnob(+1), TurnTrim(+1), ExpectSent(WroteWord(kTrim, 32));
+    TurnKnob(+1), ExpectSent(WroteWord(kHeading, 16566));
 }
 
 TEST_F(UnreadValuesTest, SwitchesThatNeedAValueAskForItBeforeTheFirstTick) {
@@ -103,15 +100,13 @@ TEST_F(UnreadValuesTest, SwitchesThatNeedAValueAskForItBeforeTheFirstTick) {
     Simulator<uint8_t>(kPumps, 0x0C);
     LoseSimulator();
     Link();
-    Throw(SwitchNumber::kFuelPump);
-    EXPECT_EQ(Sent(), WroteByte(kPumps, 0x0D));
+    Throw(SwitchNumber::kFuelPump), ExpectSent(WroteByte(kPumps, 0x0D));
     Fly("ngx");
     Simulator<uint8_t>(kAddOnThrottle, 1);
     Window().cmbProfiles.SetListIndex(0);
     SetAutoThrottle(true);
     EXPECT_EQ(Sent(), kNothing) << "the add-on's switch stands there already";
-    SetAutoThrottle(false);
-    EXPECT_EQ(Sent(), SentControl(70012, kLeftClick));
+    SetAutoThrottle(false), ExpectSent(SentControl(70012, kLeftClick));
     Fly("maddog");
     Simulator<int32_t>(kAutopilot, 1);
     Window().cmbProfiles.SetListIndex(0);
@@ -148,7 +143,7 @@ TEST_F(UnreadValuesTest, OthersVirtualButtonsStayDown) {
         MoveSelectorTo(Position::HDG);
         Click(Button::AP);
         for (int tick = 0; tick < 4; ++tick) Tick();
-        EXPECT_EQ(Sent(), Pressed(2) + Pressed(1) + Released(1));
+        ExpectSent(Pressed(2) + Pressed(1) + Released(1));
         fail();
         MoveSelectorTo(Position::None);
         EXPECT_EQ(Sent() + Sent(), Released(2));

@@ -65,10 +65,6 @@ struct MultiPanelFlight : PanelFlight {
         Sent();
         return Shown();
     }
-    std::string SentAndShown() {
-        const std::string sent = Sent();
-        return sent + Shows(Shown());
-    }
     int Lights() { return device.featureReports.back()[11]; }
 
   private:

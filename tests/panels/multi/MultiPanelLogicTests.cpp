@@ -115,8 +115,7 @@ TEST_F(MultiPanelLogicTest, CourseFollowsTheBindingOrTheEngine) {
         Logic().MPActions->CourseSel = test.courseSel;
         program->Session.EngineSelected = test.engine;
         EXPECT_EQ(RowsAt(Position::CRS), test.rows);
-        TurnKnob(+1);
-        EXPECT_EQ(Sent(), test.sent);
+        TurnKnob(+1), ExpectSent(test.sent);
     }
 }
 
@@ -125,37 +124,33 @@ TEST_F(MultiPanelLogicTest, ButtonsToggleTheirHold) {
     Simulator<int32_t>(0x07FC, 0);
     Click(Button::APR, Button::APR);
     LongClick(Button::HDG);
-    EXPECT_EQ(Sent(), WroteDword(0x0800, 0) + WroteDword(0x07FC, 0) + WroteDword(0x0800, 1) +
-                          WroteDword(0x07FC, 1) + WroteDword(0x07C8, 1));
+    ExpectSent(WroteDword(0x0800, 0) + WroteDword(0x07FC, 0) + WroteDword(0x0800, 1) +
+               WroteDword(0x07FC, 1) + WroteDword(0x07C8, 1));
     Click(Button{0}, Button{0x010000});  // none of the panel's
     Click(Button::AP, Button::NAV, Button::IAS, Button::ALT, Button::VS, Button::REV);
-    EXPECT_EQ(Sent(), WroteDword(0x07BC, 1) + WroteDword(0x07C4, 1) + WroteDword(0x07DC, 1) +
-                          WroteDword(0x07D0, 1) + WroteDword(0x07EC, 1) + WroteDword(0x0804, 1));
+    ExpectSent(WroteDword(0x07BC, 1) + WroteDword(0x07C4, 1) + WroteDword(0x07DC, 1) +
+               WroteDword(0x07D0, 1) + WroteDword(0x07EC, 1) + WroteDword(0x0804, 1));
 }
 
 TEST_F(MultiPanelLogicTest, TrimFlapsAndAutoThrottle) {
     TurnTrim(+1);
     EXPECT_EQ(sim.Get<int16_t>(kTrim), 32) << "at once";
     TurnTrim(-20), TurnTrim(+3);
-    EXPECT_EQ(Sent(), WroteWord(kTrim, 32) + WroteWord(kTrim, -608) + WroteWord(kTrim, -512));
+    ExpectSent(WroteWord(kTrim, 32) + WroteWord(kTrim, -608) + WroteWord(kTrim, -512));
     Simulator<int16_t>(kTrim, 16380);
-    TurnTrim(+1);
-    EXPECT_EQ(Sent(), WroteWord(kTrim, 16383));
+    TurnTrim(+1), ExpectSent(WroteWord(kTrim, 16383));
     Logic().MPActions->ReverseTrim = 1;
     Simulator<int16_t>(kTrim, -16380);
-    TurnTrim(+20);
-    EXPECT_EQ(Sent(), WroteWord(kTrim, -16383));
+    TurnTrim(+20), ExpectSent(WroteWord(kTrim, -16383));
     Simulator<int16_t>(0x3BFA, 6000);  // from one notch to the next
     FlapsDown(), FlapsDown(), FlapsDown();
-    EXPECT_EQ(Sent(),
-              WroteWord(kFlaps, 6000) + WroteWord(kFlaps, 12000) + WroteWord(kFlaps, 16383));
+    ExpectSent(WroteWord(kFlaps, 6000) + WroteWord(kFlaps, 12000) + WroteWord(kFlaps, 16383));
     Logic().MPActions->ReverseFlaps = 1;
     FlapsDown(), FlapsUp(), FlapsDown(), FlapsDown(), FlapsDown();
-    EXPECT_EQ(Sent(), WroteWord(kFlaps, 10383) + WroteWord(kFlaps, 16383) +
-                          WroteWord(kFlaps, 10383) + WroteWord(kFlaps, 4383) +
-                          WroteWord(kFlaps, 0));
+    ExpectSent(WroteWord(kFlaps, 10383) + WroteWord(kFlaps, 16383) + WroteWord(kFlaps, 10383) +
+               WroteWord(kFlaps, 4383) + WroteWord(kFlaps, 0));
     SetAutoThrottle(true), SetAutoThrottle(false);
-    EXPECT_EQ(Sent(), WroteDword(kAutoThrottle, 1) + WroteDword(kAutoThrottle, 0));
+    ExpectSent(WroteDword(kAutoThrottle, 1) + WroteDword(kAutoThrottle, 0));
 }
 
 TEST_F(MultiPanelFlight, RecordsGoOutInsteadOfTheBuiltInBehaviour) {

@@ -45,36 +45,33 @@ TEST_F(MultiPanelSpecialModeTest, NGXKnobsTurnByTheWheel) {
     EXPECT_EQ((TurnKnob(+1), Sent()), kNothing) << "no position";
     for (const auto& knob : knobs) {
         MoveSelectorTo(knob.position), TurnKnob(+20), TurnKnob(-1);
-        EXPECT_EQ(Sent(),
-                  SentControl(knob.control, knob.up) + SentControl(knob.control, knob.down));
+        ExpectSent(SentControl(knob.control, knob.up) + SentControl(knob.control, knob.down));
     }
-    EXPECT_EQ((MoveSelectorTo(Position::CRS), TurnKnob(+1), Sent()), SentControl(70008, kWheelUp));
+    MoveSelectorTo(Position::CRS), TurnKnob(+1), ExpectSent(SentControl(70008, kWheelUp));
     program->Session.EngineSelected = 4;
-    EXPECT_EQ((TurnKnob(-1), Sent()), SentControl(70041, kWheelDown));
+    TurnKnob(-1), ExpectSent(SentControl(70041, kWheelDown));
 }
 
 TEST_F(MultiPanelSpecialModeTest, NGXButtonsAndLeversGoOutAsControls) {
     Fly("ngx", "NGXIASShort=17\r\nButtonActionREV=VButton,64,1\r\n");
     Click(Button::AP), LongClick(Button::AP), Click(Button::IAS);
-    EXPECT_EQ(Sent(), SentControl(70034, kLeftClick) + SentControl(70035, kLeftClick) +
-                          SentControl(70019, kLeftClick));
+    ExpectSent(SentControl(70034, kLeftClick) + SentControl(70035, kLeftClick) +
+               SentControl(70019, kLeftClick));
     EXPECT_EQ((Click(Button::REV), Sent()), Pressed(1) + Released(1)) << "a record comes first";
     const uint64_t before = machine.clock.Elapsed();
     const std::string trimUp = SentControl(65615, 0), trimDown = SentControl(65607, 0);
     const std::string flapsUp = SentControl(65759, 0), flapsDown = SentControl(65758, 0);
-    EXPECT_EQ((TurnTrim(+3), TurnTrim(-1), Sent()), trimUp + trimUp + trimUp + trimDown);
+    TurnTrim(+3), TurnTrim(-1), ExpectSent(trimUp + trimUp + trimUp + trimDown);
     EXPECT_EQ(machine.clock.Elapsed(), before + 4 * 50 + 10) << "a pause after each";
-    EXPECT_EQ((FlapsUp(), FlapsDown(), Sent()), flapsUp + flapsDown);
+    FlapsUp(), FlapsDown(), ExpectSent(flapsUp + flapsDown);
     Logic().MPActions->ReverseTrim = 2;
     Logic().MPActions->ReverseFlaps = 2;
-    EXPECT_EQ((TurnTrim(+1), FlapsDown(), Sent()), trimDown + flapsUp);
+    TurnTrim(+1), FlapsDown(), ExpectSent(trimDown + flapsUp);
     for (const uint8_t addOn : {uint8_t{0}, uint8_t{1}, uint8_t{2}}) {
         Simulator<uint8_t>(0x6535, addOn);
         Tick();
-        SetAutoThrottle(false);
-        EXPECT_EQ(Sent(), addOn == 1 ? SentControl(70012, kLeftClick) : kNothing);
-        SetAutoThrottle(true);
-        EXPECT_EQ(Sent(), addOn == 0 ? SentControl(70012, kLeftClick) : kNothing);
+        SetAutoThrottle(false), ExpectSent(addOn == 1 ? SentControl(70012, kLeftClick) : kNothing);
+        SetAutoThrottle(true), ExpectSent(addOn == 0 ? SentControl(70012, kLeftClick) : kNothing);
     }
 }
 
@@ -99,7 +96,7 @@ TEST_F(MultiPanelSpecialModeTest, MaddogButtons) {
         EXPECT_EQ((LongClick(button), Sent()), longClick) << static_cast<int>(button);
     }
     for (const int mode : {1, 5, 3, 4, 6, 2, 1}) {
-        EXPECT_EQ((Click(Button::REV), Sent()), SentControl(69740, mode) + SentControl(69671, 1));
+        Click(Button::REV), ExpectSent(SentControl(69740, mode) + SentControl(69671, 1));
     }
     LongClick(Button::REV), Click(Button::IAS);
     EXPECT_EQ(Sent(), SentControl(69655, 1) + SentControl(69745, 1)) << "Mach";
@@ -109,7 +106,7 @@ TEST_F(MultiPanelSpecialModeTest, MaddogButtons) {
     EXPECT_EQ(Sent(), SentControl(69666, 0) + SentControl(69666, 1))
         << "from what the simulator says";
     SetAutoThrottle(true), SetAutoThrottle(false);
-    EXPECT_EQ(Sent(), SentControl(69665, 1) + SentControl(69665, 0));
+    ExpectSent(SentControl(69665, 1) + SentControl(69665, 0));
     TurnTrim(+1), TurnTrim(-1), FlapsDown();
     EXPECT_EQ(Sent(), Pressed(1) + Released(1) + WroteWord(kTrim, -32) + WroteWord(kFlaps, 0))
         << "as standard";
@@ -126,32 +123,25 @@ TEST_F(MultiPanelSpecialModeTest, MaddogKnobChangesAndSendsThePanelsOwnValues) {
     const auto speed = [](int knots) {
         return SentControl(69653, knots) + SentControl(69661, knots);
     };
-    MoveSelectorTo(Position::ALT), TurnKnob(-1);
-    EXPECT_EQ(SentAndShown(), altitude(0) + Shows("00000|0"));
+    MoveSelectorTo(Position::ALT), TurnKnob(-1), Expect(altitude(0), "00000|0");
     TurnKnob(+5), Click(Button::ALT);
-    EXPECT_EQ(SentAndShown(),
-              altitude(500) + SentControl(69663, 500) + SentControl(69664, 1) + Shows("00500|0"));
-    EXPECT_EQ((TurnKnob(+986), SentAndShown()), altitude(99000) + Shows("99000|0"));
-    MoveSelectorTo(Position::VS), TurnKnob(+41);
-    EXPECT_EQ(SentAndShown(), verticalSpeed(4000) + Shows("99000|4000"));
-    EXPECT_EQ((TurnKnob(-121), SentAndShown()), verticalSpeed(-8000) + Shows("99000|-8000"));
-    MoveSelectorTo(Position::IAS), TurnKnob(-1);
-    EXPECT_EQ(SentAndShown(), speed(100) + Shows("100|-8000"));
-    TurnKnob(+249), TurnKnob(+5);
-    EXPECT_EQ(SentAndShown(), speed(349) + speed(350) + Shows("350|-8000"));
+    Expect(altitude(500) + SentControl(69663, 500) + SentControl(69664, 1), "00500|0");
+    TurnKnob(+986), Expect(altitude(99000), "99000|0");
+    MoveSelectorTo(Position::VS), TurnKnob(+41), Expect(verticalSpeed(4000), "99000|4000");
+    TurnKnob(-121), Expect(verticalSpeed(-8000), "99000|-8000");
+    MoveSelectorTo(Position::IAS), TurnKnob(-1), Expect(speed(100), "100|-8000");
+    TurnKnob(+249), TurnKnob(+5), Expect(speed(349) + speed(350), "350|-8000");
     LongClick(Button::REV), TurnKnob(-1), TurnKnob(+400);
-    EXPECT_EQ(SentAndShown(), SentControl(69655, 1) + SentControl(69654, 500) +
-                                  SentControl(69654, 900) + Shows("0900|-8000"))
-        << "Mach";
-    EXPECT_EQ((LongClick(Button::REV), SentAndShown()), SentControl(69655, 0) + Shows("350|-8000"));
+    Expect(SentControl(69655, 1) + SentControl(69654, 500) + SentControl(69654, 900),
+           "0900|-8000");  // Mach
+    LongClick(Button::REV), Expect(SentControl(69655, 0), "350|-8000");
     MoveSelectorTo(Position::HDG), TurnKnob(+358), TurnKnob(+5);
-    EXPECT_EQ(SentAndShown(), SentControl(69656, 358) + SentControl(69656, 3) + Shows("003|-8000"));
+    Expect(SentControl(69656, 358) + SentControl(69656, 3), "003|-8000");
     TurnKnob(-4), LongClick(Button::REV);
-    EXPECT_EQ(SentAndShown(), SentControl(69656, 359) + SentControl(69655, 1) + Shows("359|-8000"));
-    MoveSelectorTo(Position::CRS), TurnKnob(+360);
-    EXPECT_EQ(SentAndShown(), SentControl(65717, 0) + Shows("000|-8000"));
-    EXPECT_EQ((MoveSelectorTo(Position::IAS), SentAndShown()), Shows("0900|-8000"));
-    EXPECT_EQ((MoveSelectorTo(Position::ALT), SentAndShown()), Shows("99000|-8000"));
+    Expect(SentControl(69656, 359) + SentControl(69655, 1), "359|-8000");
+    MoveSelectorTo(Position::CRS), TurnKnob(+360), Expect(SentControl(65717, 0), "000|-8000");
+    MoveSelectorTo(Position::IAS), ExpectShown("0900|-8000");
+    MoveSelectorTo(Position::ALT), ExpectShown("99000|-8000");
     EXPECT_EQ(Lights(), 128) << "Mach";
 }
 
@@ -167,8 +157,8 @@ TEST_F(MultiPanelSpecialModeTest, MaddogStartsAfreshAndShowsNothingNewByItself) 
         EXPECT_EQ(Shown(), rows);
         EXPECT_EQ(Lights(), 1) << "power doesn't count here";
         Click(Button::REV), LongClick(Button::REV), TurnKnob(+5);
-        EXPECT_EQ(Sent(), SentControl(69740, 1) + SentControl(69671, 1) + SentControl(69655, 1) +
-                              SentControl(69656, 5));
+        ExpectSent(SentControl(69740, 1) + SentControl(69671, 1) + SentControl(69655, 1) +
+                   SentControl(69656, 5));
         EXPECT_EQ(Lights(), 129);
     }
 }

@@ -43,13 +43,9 @@ struct RadioPanelFlight : PanelFlight {
     void Release() { Radio(panel).ButtonUp.Raise(Button()); }
 
     // "active|standby" of the row.
-    std::string Shown() {
+    std::string Shown() override {
         const auto& shown = Radio(panel).OnScreen.At(row);
         return shown.labActive.Caption.Get() + "|" + shown.labStandby.Caption.Get();
-    }
-    std::string SentAndShown() {
-        const std::string sent = Sent();
-        return sent + Shows(Shown());
     }
     int Engine() const { return program->Session.EngineSelected; }
 
