@@ -14,7 +14,7 @@ struct HeldButtonsTest : MultiPanelFlight {
 
     void HoldAll() {
         FlyWith(kAllHeld);
-        MoveSelectorTo(Position::HDG), SetAutoThrottle(true), SwitchLogic().GearDown();
+        MoveSelectorTo(HDG), SetAutoThrottle(true), SwitchLogic().GearDown();
         ExpectSent(Pressed(1) + Pressed(3) + Pressed(4));
     }
     void LeaveAll(Position to) {
@@ -37,22 +37,22 @@ TEST_F(HeldButtonsTest, ComeUpWhateverTheProfileAndTheModeSayByThen) {
     for (const auto& [what, profile, selector, throttle, gear] : cases) {
         HoldAll();
         FlyWith(profile);
-        MoveSelectorTo(Position::IAS);
+        MoveSelectorTo(IAS);
         EXPECT_EQ(Sent(), selector + Released(1)) << what;
         SetAutoThrottle(false);
         EXPECT_EQ(Sent(), Released(3) + throttle) << what;
         SwitchLogic().GearUp();
         EXPECT_EQ(Sent(), Released(4) + gear) << what;
         FlyWith("");
-        LeaveAll(Position::None);
+        LeaveAll(None);
     }
 }
 
 TEST_F(HeldButtonsTest, SelectorThatPassesAPlaceWithoutABitLetsGo) {
     HoldAll();
-    MoveSelectorTo(Position::None), ExpectSent(Released(1));
-    MoveSelectorTo(Position::CRS), ExpectSent(Pressed(2));
-    MoveSelectorTo(Position::HDG), ExpectSent(Pressed(1) + Released(2));
+    MoveSelectorTo(None), ExpectSent(Released(1));
+    MoveSelectorTo(CRS), ExpectSent(Pressed(2));
+    MoveSelectorTo(HDG), ExpectSent(Pressed(1) + Released(2));
 }
 
 TEST_F(HeldButtonsTest, GearLeverThatIsBoundOnOneSideWorksEachTime) {

@@ -49,7 +49,7 @@ TEST_F(SlowSimulatorTest, EventsWaitForOneTimeOutAndNotForEachOfTheirSteps) {
 
 TEST_F(SlowSimulatorTest, FastStepOfAVirtualButtonLetsMessagesRun) {
     Fly("", "RotUpActionHDG=VButton,64,1\r\n");
-    MoveSelectorTo(Position::HDG);
+    MoveSelectorTo(HDG);
     Sent();
     machine.ipc.ForgetSentMessages();
     size_t mostExchanges = 0, last = 0;

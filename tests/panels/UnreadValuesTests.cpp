@@ -30,10 +30,8 @@ struct UnreadValuesTest : MultiPanelFlight {
 
 TEST_F(UnreadValuesTest, StepsAndTogglesAreDoneOnceTheirValueIsRead) {
     for (const auto& fail : failures) {
-        Simulator<int32_t>(kAutopilot, 1);
-        Simulator<int16_t>(kTrim, 5000);
-        Simulator<int16_t>(kFlaps, 8188);
-        Simulator<int16_t>(kFlapsNotch, 2047);
+        Simulator<int32_t>(kAutopilot, 1), Simulator<int16_t>(kTrim, 5000);
+        Simulator<int16_t>(kFlaps, 8188), Simulator<int16_t>(kFlapsNotch, 2047);
         const std::pair<std::function<void()>, std::string> acts[] = {
             {[&] { TurnTrim(+1); }, WroteWord(kTrim, 5032)},
             {[&] { FlapsUp(); }, WroteWord(kFlaps, 6141)},
@@ -58,8 +56,7 @@ TEST_F(UnreadValuesTest, ActsThatWaitKeepTheirOrderAndEndWithTheSession) {
 }
 
 TEST_F(UnreadValuesTest, KnobsStartFromTheFirstTickOfSessionBindingAndMode) {
-    Simulator(kHeading, 32768);
-    Simulator(kStandby1, 0x3200);
+    Simulator(kHeading, 32768), Simulator(kStandby1, 0x3200);
     const auto turnBoth = [&] { TurnKnob(+1), RadioLogic().Rotary(1, 1, 1, 1); };
     const std::pair<const char*, std::function<void()>> beginnings[] = {
         {"session", [&] { LoseSimulator(), Link(); }},
@@ -72,11 +69,9 @@ TEST_F(UnreadValuesTest, KnobsStartFromTheFirstTickOfSessionBindingAndMode) {
          }},
     };
     for (const auto& [what, begin] : beginnings) {
-        Simulator(kHeading, 32768);
-        Simulator(kStandby1, 0x2200);
+        Simulator(kHeading, 32768), Simulator(kStandby1, 0x2200);
         begin();
-        Simulator(kHeading, 16384);
-        Simulator(kStandby1, 0x2300);
+        Simulator(kHeading, 16384), Simulator(kStandby1, 0x2300);
         turnBoth();
         EXPECT_EQ(Sent(), kNothing) << what;
         turnBoth();
@@ -140,12 +135,12 @@ TEST_F(UnreadValuesTest, OthersVirtualButtonsStayDown) {
     for (const auto& fail : failures) {
         Simulator<uint32_t>(0x3340, 0xF0);
         fail();
-        MoveSelectorTo(Position::HDG);
+        MoveSelectorTo(HDG);
         Click(Button::AP);
         for (int tick = 0; tick < 4; ++tick) Tick();
         ExpectSent(Pressed(2) + Pressed(1) + Released(1));
         fail();
-        MoveSelectorTo(Position::None);
+        MoveSelectorTo(None);
         EXPECT_EQ(Sent() + Sent(), Released(2));
         EXPECT_EQ(sim.Get<uint32_t>(0x3340), 0xF0U);
     }

@@ -14,7 +14,7 @@ inline constexpr uint32_t kTrim = 0x0BC0, kFlaps = 0x0BDC, kAutoThrottle = 0x081
 // A session with one Multi Panel. Its control's events come to its logic as in the program.
 struct MultiPanelFlight : PanelFlight {
     // As the panel sends them.
-    enum class Position : int32_t {
+    enum Position : int32_t {
         None,
         ALT = 0x010000,
         VS = 0x020000,
@@ -34,7 +34,7 @@ struct MultiPanelFlight : PanelFlight {
     };
 
     VirtualDevice& device = Plug(PanelKind::Multi);
-    Position position = Position::None;
+    Position position = None;
 
     void Fly(const std::string& mode = "", const std::string& keys = "") {
         FlyWith("[Common]\r\nSpecialMode=" + mode + "\r\n[MultiPanel1]\r\n" + keys);
@@ -42,8 +42,7 @@ struct MultiPanelFlight : PanelFlight {
     // What the pilot does. Steps are clockwise or up, with a minus the other way, and so many
     // within one event.
     void MoveSelectorTo(Position to) {
-        const Position from = std::exchange(position, to);
-        Multi().SelectorChange.Raise(static_cast<int32_t>(to), static_cast<int32_t>(from));
+        Multi().SelectorChange.Raise(to, std::exchange(position, to));
     }
     void TurnKnob(int steps) { Turn(steps, Multi().RotaryUp, Multi().RotaryDown); }
     void TurnTrim(int steps) { Turn(steps, Multi().TrimUp, Multi().TrimDown); }

@@ -8,8 +8,7 @@ constexpr int32_t kWheelUp = 16384, kWheelDown = 8192;  // parameters of the NGX
 
 TEST_F(MultiPanelSpecialModeTest, NGXShowsTheWindowsAndLampsOfTheAddOn) {
     for (const uint32_t lamp : {0, 0x653F, 0x6546}) Simulator<uint8_t>(lamp, 1);
-    Simulator<uint8_t>(0x6540, 2);
-    Simulator<int32_t>(0x07D0, 1);
+    Simulator<uint8_t>(0x6540, 2), Simulator<int32_t>(0x07D0, 1);
     Simulator(0x652E, 5000);           // altitude
     Simulator(0x652C, 7);              // heading
     Simulator(0x6522, 359);            // second course
@@ -22,15 +21,15 @@ TEST_F(MultiPanelSpecialModeTest, NGXShowsTheWindowsAndLampsOfTheAddOn) {
                                       {251.5F, "252|"},
                                       {0.78F, "0.780|"}}) {
         Simulator<float>(0x6524, speed);
-        EXPECT_EQ(RowsAt(Position::IAS), rows);
+        EXPECT_EQ(RowsAt(IAS), rows);
     }
     EXPECT_EQ(device.featureReports.back()[2], kMultiBlank) << "the point";
-    EXPECT_EQ(RowsAt(Position::ALT), "5000|-0700");
-    EXPECT_EQ(RowsAt(Position::HDG), "007|");
-    EXPECT_EQ(RowsAt(Position::CRS), "359|");
+    EXPECT_EQ(RowsAt(ALT), "5000|-0700");
+    EXPECT_EQ(RowsAt(HDG), "007|");
+    EXPECT_EQ(RowsAt(CRS), "359|");
     for (const uint32_t blank : {0x6528, 0x6532}) Simulator<uint8_t>(blank, 2);
-    EXPECT_EQ(RowsAt(Position::VS), "5000|");
-    EXPECT_EQ(RowsAt(Position::IAS), "|");
+    EXPECT_EQ(RowsAt(VS), "5000|");
+    EXPECT_EQ(RowsAt(IAS), "|");
 }
 
 TEST_F(MultiPanelSpecialModeTest, NGXKnobsTurnByTheWheel) {
@@ -38,16 +37,16 @@ TEST_F(MultiPanelSpecialModeTest, NGXKnobsTurnByTheWheel) {
     const struct {
         Position position;
         int32_t control, up, down;
-    } knobs[] = {{Position::ALT, 70032, kWheelUp, kWheelDown},
-                 {Position::VS, 70033, kWheelDown, kWheelUp},  // reversed
-                 {Position::IAS, 70016, kWheelUp, kWheelDown},
-                 {Position::HDG, 70022, kWheelUp, kWheelDown}};
+    } knobs[] = {{ALT, 70032, kWheelUp, kWheelDown},
+                 {VS, 70033, kWheelDown, kWheelUp},  // reversed
+                 {IAS, 70016, kWheelUp, kWheelDown},
+                 {HDG, 70022, kWheelUp, kWheelDown}};
     EXPECT_EQ((TurnKnob(+1), Sent()), kNothing) << "no position";
     for (const auto& knob : knobs) {
         MoveSelectorTo(knob.position), TurnKnob(+20), TurnKnob(-1);
         ExpectSent(SentControl(knob.control, knob.up) + SentControl(knob.control, knob.down));
     }
-    MoveSelectorTo(Position::CRS), TurnKnob(+1), ExpectSent(SentControl(70008, kWheelUp));
+    MoveSelectorTo(CRS), TurnKnob(+1), ExpectSent(SentControl(70008, kWheelUp));
     program->Session.EngineSelected = 4;
     TurnKnob(-1), ExpectSent(SentControl(70041, kWheelDown));
 }
@@ -123,25 +122,25 @@ TEST_F(MultiPanelSpecialModeTest, MaddogKnobChangesAndSendsThePanelsOwnValues) {
     const auto speed = [](int knots) {
         return SentControl(69653, knots) + SentControl(69661, knots);
     };
-    MoveSelectorTo(Position::ALT), TurnKnob(-1), Expect(altitude(0), "00000|0");
+    MoveSelectorTo(ALT), TurnKnob(-1), Expect(altitude(0), "00000|0");
     TurnKnob(+5), Click(Button::ALT);
     Expect(altitude(500) + SentControl(69663, 500) + SentControl(69664, 1), "00500|0");
     TurnKnob(+986), Expect(altitude(99000), "99000|0");
-    MoveSelectorTo(Position::VS), TurnKnob(+41), Expect(verticalSpeed(4000), "99000|4000");
+    MoveSelectorTo(VS), TurnKnob(+41), Expect(verticalSpeed(4000), "99000|4000");
     TurnKnob(-121), Expect(verticalSpeed(-8000), "99000|-8000");
-    MoveSelectorTo(Position::IAS), TurnKnob(-1), Expect(speed(100), "100|-8000");
+    MoveSelectorTo(IAS), TurnKnob(-1), Expect(speed(100), "100|-8000");
     TurnKnob(+249), TurnKnob(+5), Expect(speed(349) + speed(350), "350|-8000");
     LongClick(Button::REV), TurnKnob(-1), TurnKnob(+400);
     Expect(SentControl(69655, 1) + SentControl(69654, 500) + SentControl(69654, 900),
            "0900|-8000");  // Mach
     LongClick(Button::REV), Expect(SentControl(69655, 0), "350|-8000");
-    MoveSelectorTo(Position::HDG), TurnKnob(+358), TurnKnob(+5);
+    MoveSelectorTo(HDG), TurnKnob(+358), TurnKnob(+5);
     Expect(SentControl(69656, 358) + SentControl(69656, 3), "003|-8000");
     TurnKnob(-4), LongClick(Button::REV);
     Expect(SentControl(69656, 359) + SentControl(69655, 1), "359|-8000");
-    MoveSelectorTo(Position::CRS), TurnKnob(+360), Expect(SentControl(65717, 0), "000|-8000");
-    MoveSelectorTo(Position::IAS), ExpectShown("0900|-8000");
-    MoveSelectorTo(Position::ALT), ExpectShown("99000|-8000");
+    MoveSelectorTo(CRS), TurnKnob(+360), Expect(SentControl(65717, 0), "000|-8000");
+    MoveSelectorTo(IAS), ExpectShown("0900|-8000");
+    MoveSelectorTo(ALT), ExpectShown("99000|-8000");
     EXPECT_EQ(Lights(), 128) << "Mach";
 }
 
@@ -149,7 +148,7 @@ TEST_F(MultiPanelSpecialModeTest, MaddogStartsAfreshAndShowsNothingNewByItself) 
     Simulator(kHeading, 16384);
     for (const uint32_t light : {0x07BC, 0x07C8}) Simulator<int32_t>(light, 1);
     Fly();
-    EXPECT_EQ(RowsAt(Position::HDG), "090|");
+    EXPECT_EQ(RowsAt(HDG), "090|");
     EXPECT_EQ(Lights(), 3);
     Simulator<int32_t>(kBatteryMaster, 0);
     for (const char* rows : {"090|", "005|"}) {

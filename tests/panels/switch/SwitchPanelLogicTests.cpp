@@ -58,8 +58,7 @@ struct SwitchPanelLogicTest : PanelFlight {
     }
     // 16383 is down, 0 up.
     void Gear(int nose, int left, int right) {
-        Simulator<int32_t>(kNoseGear, nose);
-        Simulator<int32_t>(kLeftGear, left);
+        Simulator<int32_t>(kNoseGear, nose), Simulator<int32_t>(kLeftGear, left);
         Simulator<int32_t>(kRightGear, right);
     }
 };
@@ -272,8 +271,7 @@ TEST_F(SwitchPanelLogicTest, GearLightsShowARetractableGear) {
         Gear(nose, left, right), WaitMs(10);
         EXPECT_EQ(Sent(), lights + Waited(10)) << nose;
     }
-    Simulator(kBatteryMaster, 0), WaitMs(10);
-    Simulator(kLeftGear, 0), WaitMs(10);
+    Simulator(kBatteryMaster, 0), WaitMs(10), Simulator(kLeftGear, 0), WaitMs(10);
     EXPECT_EQ(Sent(), Lights(0) + Waited(10) + Waited(10)) << "dark without power";
     Simulator(kBatteryMaster, 0x0100), Simulator(kNoseGear, down), WaitMs(10);
     ExpectSent(Lights(0x21) + Waited(10));
