@@ -5,21 +5,11 @@
 
 namespace {
 
-using Reports = std::vector<VirtualDevice::Report>;
-
 const VirtualDevice::Report kDark = {0, 15, 15, 15, 15, 15, 15, 15, 15, 15, 15, 0, 0};
 
 struct SessionTest : testing::Test, VirtualCockpit {
     VirtualDevice& panel = Plug(PanelKind::Multi);
 
-    void Turn(int32_t bit, int pulses) {
-        for (int i = 0; i < pulses; ++i) {
-            const auto high = static_cast<uint8_t>((bit | MultiPanelBit::kSelectorHDG) >> 16);
-            panel.SendReport({0, high, 0, 0});
-            panel.SendReport({0, MultiPanelBit::kSelectorHDG >> 16, 0, 0});
-        }
-        machine.loop.RunPending();
-    }
     std::string Texts() {
         return Window().Status.Text.Get() + "|" + Window().FSUIPCver.Text.Get() + "|" +
                Window().FSver.Text.Get() + "|" + Window().Aircraft.Text.Get();
@@ -120,38 +110,18 @@ TEST_F(SessionTest, WhatTheSimulatorDoesNotGiveAtOnceIsAskedForAgain) {
     EXPECT_EQ(machine.ipc.SentMessages().size(), 10U) << "and not once it is known";
 }
 
-TEST_F(SessionTest, KnobAtHeadingMovesTheSimulatorAndThePanelShowsIt) {
-    panel.positions = {0, 0x08, 0, 0};
-    machine.server.Set<uint16_t>(0x07CC, 14564);  // 80 degrees
-    ASSERT_TRUE(Start());
-    Connect();
-    Tick();
-    EXPECT_EQ(panel.featureReports.back(),
-              (VirtualDevice::Report{0, 10, 10, 0, 8, 0, 10, 10, 10, 10, 10, 0, 0}));
-    Turn(MultiPanelBit::kKnobClockwisePulse, 6);
-    machine.loop.Advance(300);
-    Turn(MultiPanelBit::kKnobCounterClockwisePulse, 2);
-    Tick();
-    EXPECT_EQ(machine.server.Get<uint16_t>(0x07CC), 14928) << "82 degrees";
-    Tick();
-    EXPECT_EQ(panel.featureReports.back()[5], 2);
-    EXPECT_EQ(Multi().OnScreen.labUpperValue.Caption.Get(), "082");
-    const size_t sent = panel.featureReports.size();
-    machine.loop.Advance(1000);
-    EXPECT_EQ(panel.featureReports.size(), sent) << "no change, no report";
-}
-
 TEST_F(SessionTest, InputWithoutASessionIsDropped) {
     ASSERT_TRUE(Start());
     // The channel alone is no session; a write that got into its batch would go out.
     machine.ipc.AddWindow("UIPCMAIN");
     int32_t result = 0;
     ASSERT_TRUE(program->Session.Fsuipc.FSUIPC_Open(0, result));
-    Turn(MultiPanelBit::kKnobClockwisePulse, 6);
+    Multi().SelectorChange.Raise(MultiPanelBit::kSelectorHDG, 0);
+    Multi().RotaryUp.Raise(1);
     EXPECT_FALSE(program->Session.Fsuipc.FSUIPC_Process(result));
     EXPECT_EQ(result, 10);
     program->Session.FSConnected = true;
-    Turn(MultiPanelBit::kKnobClockwisePulse, 6);
+    Multi().RotaryUp.Raise(1);
     EXPECT_FALSE(program->Session.Fsuipc.FSUIPC_Process(result))
         << "the selector's place was not kept either";
 }
@@ -175,19 +145,6 @@ TEST_F(SessionTest, LostSessionDarkensThePanelAndIsFoundAgain) {
     EXPECT_EQ(Window().Aircraft.Text.Get(), "Aircraft in use: Baron 58");
     EXPECT_NE(panel.featureReports.back(), kDark);
     EXPECT_EQ(program->Session.OffsetTable.Shape(), shape) << "no entry twice";
-}
-
-TEST_F(SessionTest, LostSessionTurnsGearLightsOffAndLeavesTiles) {
-    VirtualDevice &lights = Plug(PanelKind::Switch), &tiles = Plug(PanelKind::BIP);
-    PutProfile("Default", "[BIPPanel1]\r\nT0=NAV,Green\r\n");
-    for (const uint32_t gear : {0x060C, 0x0BEC}) machine.server.Set<int32_t>(gear, 16383);
-    Start();
-    EXPECT_EQ(tiles.featureReports.back(), (VirtualDevice::Report{0xB8, 0, 0, 0, 0, 0, 0}));
-    Connect();
-    Tick();
-    LoseSimulator();
-    EXPECT_EQ(lights.featureReports, (Reports{{0, 1}, {0, 0}}));
-    EXPECT_EQ(tiles.featureReports.back(), (VirtualDevice::Report{0xB8, 1, 0, 0, 0, 0, 0}));
 }
 
 TEST_F(SessionTest, ServersThatMisbehaveEndTheSessionAndNothingElse) {
@@ -303,17 +260,6 @@ TEST_F(SessionTest, EndOfTheUsersSessionLeavesNoPanelLit) {
     machine.loop.Advance(1000);
     program.reset();
     EXPECT_EQ(panel.featureReports.size(), sent);
-}
-
-TEST_F(SessionTest, UnwritableFolderDoesNotKeepItFromEnding) {
-    machine.files.Protect("C:\\Orvo");
-    ASSERT_TRUE(Start("Splash=0\r\nAutoQuit=1\r\n"));
-    Connect();
-    LoseSimulator();
-    EXPECT_TRUE(machine.loop.QuitWasCalled());
-    EXPECT_TRUE(ui.Boxes.empty());
-    EXPECT_EQ(machine.files.Look("C:\\Orvo\\Orvo.ini"),
-              "[GeneralSetup]\r\nSplash=0\r\nAutoQuit=1\r\n");
 }
 
 }  // namespace

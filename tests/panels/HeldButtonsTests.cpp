@@ -14,8 +14,8 @@ struct HeldButtonsTest : MultiPanelFlight {
 
     void HoldAll() {
         FlyWith(kAllHeld);
-        MoveSelectorTo(Position::HDG), SetAutoThrottle(true), SwitchLogic().GearDown();
-        EXPECT_EQ(Sent(), Pressed(1) + Pressed(3) + Pressed(4));
+        MoveSelectorTo(HDG), SetAutoThrottle(true), SwitchLogic().GearDown();
+        ExpectSent(Pressed(1) + Pressed(3) + Pressed(4));
     }
     void LeaveAll(Position to) {
         MoveSelectorTo(to), SetAutoThrottle(false), SwitchLogic().GearUp();
@@ -37,34 +37,31 @@ TEST_F(HeldButtonsTest, ComeUpWhateverTheProfileAndTheModeSayByThen) {
     for (const auto& [what, profile, selector, throttle, gear] : cases) {
         HoldAll();
         FlyWith(profile);
-        MoveSelectorTo(Position::IAS);
+        MoveSelectorTo(IAS);
         EXPECT_EQ(Sent(), selector + Released(1)) << what;
         SetAutoThrottle(false);
         EXPECT_EQ(Sent(), Released(3) + throttle) << what;
         SwitchLogic().GearUp();
         EXPECT_EQ(Sent(), Released(4) + gear) << what;
         FlyWith("");
-        LeaveAll(Position::None);
+        LeaveAll(None);
     }
 }
 
 TEST_F(HeldButtonsTest, SelectorThatPassesAPlaceWithoutABitLetsGo) {
     HoldAll();
-    MoveSelectorTo(Position::None);
-    EXPECT_EQ(Sent(), Released(1));
-    MoveSelectorTo(Position::CRS);
-    EXPECT_EQ(Sent(), Pressed(2));
-    MoveSelectorTo(Position::HDG);
-    EXPECT_EQ(Sent(), Pressed(1) + Released(2));
+    MoveSelectorTo(None), ExpectSent(Released(1));
+    MoveSelectorTo(CRS), ExpectSent(Pressed(2));
+    MoveSelectorTo(HDG), ExpectSent(Pressed(1) + Released(2));
 }
 
 TEST_F(HeldButtonsTest, GearLeverThatIsBoundOnOneSideWorksEachTime) {
     FlyWith(kAllHeld);
     for (int time = 0; time < 3; ++time) {
         SwitchLogic().GearDown();
-        EXPECT_EQ(Sent(), Pressed(4));
+        ExpectSent(Pressed(4));
         SwitchLogic().GearUp();
-        EXPECT_EQ(Sent(), Released(4));
+        ExpectSent(Released(4));
     }
 }
 
@@ -77,7 +74,7 @@ TEST_F(HeldButtonsTest, WhatIsLeftWhileTheSimulatorIsAwayComesUpInTheNextSession
     device.positions = {0, 0x04, 0, 0};  // IAS
     Connect();
     for (int tick = 0; tick < 4; ++tick) Tick();
-    EXPECT_EQ(Sent(), Released(3) + Released(4) + Released(1));
+    ExpectSent(Released(3) + Released(4) + Released(1));
     EXPECT_EQ(sim.Get<uint32_t>(0x3340), 0U);
 }
 
@@ -87,7 +84,7 @@ TEST_F(HeldButtonsTest, ComeUpWhenTheProgramEnds) {
     SwitchLogic().SPActions->SetSwitchActions(6, 1, {ActionKind::VButton, 64, 5, 0});
     SwitchLogic().SwitchChange(6, true);  // pressed for a while
     Window().btnQuit.Press();
-    EXPECT_EQ(Sent(), Pressed(5) + Released(5) + AllReleased());
+    ExpectSent(Pressed(5) + Released(5) + AllReleased());
     EXPECT_EQ(machine.ipc.OpenViews(), 0U);
 }
 

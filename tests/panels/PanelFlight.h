@@ -2,6 +2,7 @@
 
 #include <cstring>
 #include <gtest/gtest.h>
+#include <source_location>
 #include <string>
 #include <type_traits>
 #include <utility>
@@ -24,7 +25,6 @@ inline std::string WroteWord(uint32_t offset, int value) {
 }
 
 inline constexpr Happening Waited{"Waited"};  // milliseconds
-inline constexpr Happening Shows{"Shows"};
 
 inline constexpr uint32_t kBatteryMaster = 0x281C, kAvionicsMaster = 0x2E80;
 inline constexpr int32_t kLeftClick = 0x20000000;  // parameter of an add-on's control
@@ -66,6 +66,24 @@ struct PanelFlight : testing::Test, VirtualCockpit {
         Tick();
         TellPiledUp();
         return std::exchange(told, {});
+    }
+    // The rows of the panel.
+    virtual std::string Shown() { return VirtualCockpit::Shown(); }
+
+    using Where = std::source_location;
+    // This has gone out by the next tick, no more and no less.
+    void ExpectSent(const std::string& sent, Where where = Where::current()) {
+        const testing::ScopedTrace line(where.file_name(), static_cast<int>(where.line()), "");
+        EXPECT_EQ(Sent(), sent);
+    }
+    // And the rows show this then.
+    void Expect(const std::string& sent, const std::string& shown, Where where = Where::current()) {
+        const testing::ScopedTrace line(where.file_name(), static_cast<int>(where.line()), "");
+        EXPECT_EQ(Sent(), sent);
+        EXPECT_EQ(Shown(), shown);
+    }
+    void ExpectShown(const std::string& shown, Where where = Where::current()) {
+        Expect(kNothing, shown, where);
     }
 
   protected:

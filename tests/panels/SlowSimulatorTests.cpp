@@ -49,7 +49,7 @@ TEST_F(SlowSimulatorTest, EventsWaitForOneTimeOutAndNotForEachOfTheirSteps) {
 
 TEST_F(SlowSimulatorTest, FastStepOfAVirtualButtonLetsMessagesRun) {
     Fly("", "RotUpActionHDG=VButton,64,1\r\n");
-    MoveSelectorTo(Position::HDG);
+    MoveSelectorTo(HDG);
     Sent();
     machine.ipc.ForgetSentMessages();
     size_t mostExchanges = 0, last = 0;
@@ -65,7 +65,7 @@ TEST_F(SlowSimulatorTest, FastStepOfAVirtualButtonLetsMessagesRun) {
     std::string sent;
     for (int time = 0; time < 20; ++time) sent += Pressed(1) + Released(1);
     watch = [] {};
-    EXPECT_EQ(Sent(), sent);
+    ExpectSent(sent);
 }
 
 TEST_F(SlowSimulatorTest, SecondClickHasItsSecondFromWhenTheFirstArrived) {
@@ -90,12 +90,12 @@ TEST_F(SlowSimulatorTest, SecondClickHasItsSecondFromWhenTheFirstArrived) {
 TEST_F(SlowSimulatorTest, SwitchThatIsThrownBackGetsNoSecondClick) {
     Fly("ngx");
     SwitchLogic().GearDown(), WaitMs(500), SwitchLogic().GearUp(), WaitMs(2000);
-    EXPECT_EQ(Sent(), SentControl(kGearControl, kLeftClick) + Waited(500) +
-                          SentControl(kGearControl, kRightClick) + Waited(2000));
+    ExpectSent(SentControl(kGearControl, kLeftClick) + Waited(500) +
+               SentControl(kGearControl, kRightClick) + Waited(2000));
     Strobe(true), WaitMs(10);
     Simulator<uint8_t>(0x6500, 1);
     Strobe(false), WaitMs(2000);
-    EXPECT_EQ(Sent(), SentControl(kStrobeControl, kRightClick) + Waited(10) + Waited(2000));
+    ExpectSent(SentControl(kStrobeControl, kRightClick) + Waited(10) + Waited(2000));
     Simulator<uint8_t>(0x6500, 0);
     Strobe(true), WaitMs(500);
     Simulator<uint8_t>(0x6500, 1);

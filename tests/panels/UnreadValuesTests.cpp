@@ -30,10 +30,8 @@ struct UnreadValuesTest : MultiPanelFlight {
 
 TEST_F(UnreadValuesTest, StepsAndTogglesAreDoneOnceTheirValueIsRead) {
     for (const auto& fail : failures) {
-        Simulator<int32_t>(kAutopilot, 1);
-        Simulator<int16_t>(kTrim, 5000);
-        Simulator<int16_t>(kFlaps, 8188);
-        Simulator<int16_t>(kFlapsNotch, 2047);
+        Simulator<int32_t>(kAutopilot, 1), Simulator<int16_t>(kTrim, 5000);
+        Simulator<int16_t>(kFlaps, 8188), Simulator<int16_t>(kFlapsNotch, 2047);
         const std::pair<std::function<void()>, std::string> acts[] = {
             {[&] { TurnTrim(+1); }, WroteWord(kTrim, 5032)},
             {[&] { FlapsUp(); }, WroteWord(kFlaps, 6141)},
@@ -51,16 +49,14 @@ TEST_F(UnreadValuesTest, ActsThatWaitKeepTheirOrderAndEndWithTheSession) {
     failures[0]();
     TurnTrim(+1), TurnTrim(-3), Click(Button::HDG);
     Tick(), Tick(), Tick();
-    EXPECT_EQ(Sent(), WroteWord(kTrim, 32) + WroteWord(kTrim, -64) + WroteDword(0x07C8, 1));
+    ExpectSent(WroteWord(kTrim, 32) + WroteWord(kTrim, -64) + WroteDword(0x07C8, 1));
     failures[0]();
     TurnTrim(+1);
-    Reconnect();
-    EXPECT_EQ(Sent(), kNothing);
+    Reconnect(), ExpectSent(kNothing);
 }
 
 TEST_F(UnreadValuesTest, KnobsStartFromTheFirstTickOfSessionBindingAndMode) {
-    Simulator(kHeading, 32768);
-    Simulator(kStandby1, 0x3200);
+    Simulator(kHeading, 32768), Simulator(kStandby1, 0x3200);
     const auto turnBoth = [&] { TurnKnob(+1), RadioLogic().Rotary(1, 1, 1, 1); };
     const std::pair<const char*, std::function<void()>> beginnings[] = {
         {"session", [&] { LoseSimulator(), Link(); }},
@@ -73,11 +69,9 @@ TEST_F(UnreadValuesTest, KnobsStartFromTheFirstTickOfSessionBindingAndMode) {
          }},
     };
     for (const auto& [what, begin] : beginnings) {
-        Simulator(kHeading, 32768);
-        Simulator(kStandby1, 0x2200);
+        Simulator(kHeading, 32768), Simulator(kStandby1, 0x2200);
         begin();
-        Simulator(kHeading, 16384);
-        Simulator(kStandby1, 0x2300);
+        Simulator(kHeading, 16384), Simulator(kStandby1, 0x2300);
         turnBoth();
         EXPECT_EQ(Sent(), kNothing) << what;
         turnBoth();
@@ -92,10 +86,8 @@ TEST_F(UnreadValuesTest, TickWhoseReplyEndsEarlyHasReadNothing) {
     machine.ipc.AfterServing([](std::span<uint8_t> block) { std::ranges::fill(block, 0); });
     Tick();
     machine.ipc.AfterServing({});
-    TurnKnob(+1), TurnTrim(+1);
-    EXPECT_EQ(Sent(), WroteWord(kTrim, 32));
-    TurnKnob(+1);
-    EXPECT_EQ(Sent(), WroteWord(kHeading, 16566));
+    TurnKnob(+1), TurnTrim(+1), ExpectSent(WroteWord(kTrim, 32));
+    TurnKnob(+1), ExpectSent(WroteWord(kHeading, 16566));
 }
 
 TEST_F(UnreadValuesTest, SwitchesThatNeedAValueAskForItBeforeTheFirstTick) {
@@ -103,15 +95,13 @@ TEST_F(UnreadValuesTest, SwitchesThatNeedAValueAskForItBeforeTheFirstTick) {
     Simulator<uint8_t>(kPumps, 0x0C);
     LoseSimulator();
     Link();
-    Throw(SwitchNumber::kFuelPump);
-    EXPECT_EQ(Sent(), WroteByte(kPumps, 0x0D));
+    Throw(SwitchNumber::kFuelPump), ExpectSent(WroteByte(kPumps, 0x0D));
     Fly("ngx");
     Simulator<uint8_t>(kAddOnThrottle, 1);
     Window().cmbProfiles.SetListIndex(0);
     SetAutoThrottle(true);
     EXPECT_EQ(Sent(), kNothing) << "the add-on's switch stands there already";
-    SetAutoThrottle(false);
-    EXPECT_EQ(Sent(), SentControl(70012, kLeftClick));
+    SetAutoThrottle(false), ExpectSent(SentControl(70012, kLeftClick));
     Fly("maddog");
     Simulator<int32_t>(kAutopilot, 1);
     Window().cmbProfiles.SetListIndex(0);
@@ -145,12 +135,12 @@ TEST_F(UnreadValuesTest, OthersVirtualButtonsStayDown) {
     for (const auto& fail : failures) {
         Simulator<uint32_t>(0x3340, 0xF0);
         fail();
-        MoveSelectorTo(Position::HDG);
+        MoveSelectorTo(HDG);
         Click(Button::AP);
         for (int tick = 0; tick < 4; ++tick) Tick();
-        EXPECT_EQ(Sent(), Pressed(2) + Pressed(1) + Released(1));
+        ExpectSent(Pressed(2) + Pressed(1) + Released(1));
         fail();
-        MoveSelectorTo(Position::None);
+        MoveSelectorTo(None);
         EXPECT_EQ(Sent() + Sent(), Released(2));
         EXPECT_EQ(sim.Get<uint32_t>(0x3340), 0xF0U);
     }

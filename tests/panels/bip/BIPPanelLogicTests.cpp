@@ -267,6 +267,10 @@ TEST_F(BIPPanelFlight, OnlyChangesAreSentButADarkPanelIsToldAtEveryTick) {
         Simulator<int32_t>(master, 1);
         EXPECT_EQ(NextTicks(), Ticks(3, 0, {kDark, kRed, kYellow, kRed}));
     }
+    device.featureReports.clear();
+    LoseSimulator();
+    EXPECT_TRUE(device.featureReports.empty()) << "the tiles stay";
+    Connect();
     program->Windows.BIPSetupOpen = true;
     for (const uint32_t offset : {0x3122, 0x281C}) {
         Simulator<uint8_t>(offset, 0);

@@ -11,13 +11,30 @@ inline constexpr uint32_t kVerticalSpeed = 0x07F2, kAirspeed = 0x07E2;
 inline constexpr uint32_t kCourse1 = 0x0C4E, kCourse2 = 0x0C5E;
 inline constexpr uint32_t kTrim = 0x0BC0, kFlaps = 0x0BDC, kAutoThrottle = 0x0810;
 
-// A session with one Multi Panel, whose logic is driven directly.
+// A session with one Multi Panel. Its control's events come to its logic as in the program.
 struct MultiPanelFlight : PanelFlight {
-    enum class Position : int32_t { None, ALT, VS, IAS, HDG, CRS };
-    enum class Button : int32_t { AP = 1, HDG, NAV, IAS, ALT, VS, APR, REV };
+    // As the panel sends them.
+    enum Position : int32_t {
+        None,
+        ALT = 0x010000,
+        VS = 0x020000,
+        IAS = 0x040000,
+        HDG = 0x080000,
+        CRS = 0x100000
+    };
+    enum class Button : int32_t {
+        AP = 0x800000,
+        HDG = 0x000100,
+        NAV = 0x000200,
+        IAS = 0x000400,
+        ALT = 0x000800,
+        VS = 0x001000,
+        APR = 0x002000,
+        REV = 0x004000
+    };
 
     VirtualDevice& device = Plug(PanelKind::Multi);
-    Position position = Position::None;
+    Position position = None;
 
     void Fly(const std::string& mode = "", const std::string& keys = "") {
         FlyWith("[Common]\r\nSpecialMode=" + mode + "\r\n[MultiPanel1]\r\n" + keys);
@@ -25,21 +42,20 @@ struct MultiPanelFlight : PanelFlight {
     // What the pilot does. Steps are clockwise or up, with a minus the other way, and so many
     // within one event.
     void MoveSelectorTo(Position to) {
-        const Position from = std::exchange(position, to);
-        Logic().SelectorChange(static_cast<int32_t>(to), static_cast<int32_t>(from));
+        Multi().SelectorChange.Raise(to, std::exchange(position, to));
     }
-    void TurnKnob(int steps) { Logic().Rotary(Way(steps), Speed(steps)); }
-    void TurnTrim(int steps) { Logic().Trim(Way(steps), Speed(steps)); }
-    void FlapsUp() { Logic().Flaps(1); }
-    void FlapsDown() { Logic().Flaps(0); }
-    void SetAutoThrottle(bool arm) { Logic().AutoThrottleChange(arm ? 1 : 0); }
+    void TurnKnob(int steps) { Turn(steps, Multi().RotaryUp, Multi().RotaryDown); }
+    void TurnTrim(int steps) { Turn(steps, Multi().TrimUp, Multi().TrimDown); }
+    void FlapsUp() { Multi().FlapsUp.Raise(); }
+    void FlapsDown() { Multi().FlapsDown.Raise(); }
+    void SetAutoThrottle(bool arm) { Multi().AutoThrottleChange.Raise(arm); }
     template <class... Buttons>
     void Click(Buttons... buttons) {
-        (Logic().ButtonClick(static_cast<int32_t>(buttons)), ...);
+        (Multi().ButtonClick.Raise(static_cast<int32_t>(buttons)), ...);
     }
     template <class... Buttons>
     void LongClick(Buttons... buttons) {
-        (Logic().ButtonLongClick(static_cast<int32_t>(buttons)), ...);
+        (Multi().ButtonLongClick.Raise(static_cast<int32_t>(buttons)), ...);
     }
 
     // The rows with the selector there.
@@ -48,13 +64,10 @@ struct MultiPanelFlight : PanelFlight {
         Sent();
         return Shown();
     }
-    std::string SentAndShown() {
-        const std::string sent = Sent();
-        return sent + Shows(Shown());
-    }
     int Lights() { return device.featureReports.back()[11]; }
 
   private:
-    static int16_t Way(int steps) { return steps > 0 ? 1 : 0; }
-    static int16_t Speed(int steps) { return static_cast<int16_t>(std::abs(steps)); }
+    static void Turn(int steps, Event<int16_t>& up, Event<int16_t>& down) {
+        (steps > 0 ? up : down).Raise(static_cast<int16_t>(std::abs(steps)));
+    }
 };

@@ -16,7 +16,7 @@ inline constexpr uint32_t kXPDR = 0x0354;
 inline constexpr uint32_t kAltimeter = 0x0330;  // sixteenths of a hPa
 inline constexpr uint32_t kSwap = 0x3123;       // 8 COM1, 4 COM2, 2 NAV1, 1 NAV2
 
-// A session with two Radio Panels, whose logics are driven directly.
+// A session with two Radio Panels. Their controls' events come to their logics as in the program.
 struct RadioPanelFlight : PanelFlight {
     enum Row : uint8_t { Upper = 1, Lower };
     enum Position : int32_t { None, COM1, COM2, NAV1, NAV2, ADF, DME, XPDR };
@@ -35,28 +35,29 @@ struct RadioPanelFlight : PanelFlight {
         row = theRow;
         panel = thePanel;
     }
-    void MoveSelectorTo(Position to) { RadioLogic(panel).SelectorChange(row, to, None); }
+    void MoveSelectorTo(Position to) { Radio(panel).SelectorChange.Raise(row, Bit(to), 0); }
     void TurnInner(int steps) { Turn(0, steps); }
     void TurnOuter(int steps) { Turn(1, steps); }
-    void Click() { RadioLogic(panel).ButtonClick(Button()); }
-    void LongClick() { RadioLogic(panel).ButtonLongClick(Button()); }
-    void Release() { RadioLogic(panel).ButtonUp(Button()); }
+    void Click() { Radio(panel).ButtonClick.Raise(Button()); }
+    void LongClick() { Radio(panel).ButtonLongClick.Raise(Button()); }
+    void Release() { Radio(panel).ButtonUp.Raise(Button()); }
 
     // "active|standby" of the row.
-    std::string Shown() {
+    std::string Shown() override {
         const auto& shown = Radio(panel).OnScreen.At(row);
         return shown.labActive.Caption.Get() + "|" + shown.labStandby.Caption.Get();
-    }
-    std::string SentAndShown() {
-        const std::string sent = Sent();
-        return sent + Shows(Shown());
     }
     int Engine() const { return program->Session.EngineSelected; }
 
   private:
+    // As the panel sends them.
     int32_t Button() const { return 0x4000 * row; }
-    void Turn(int16_t ring, int steps) {
-        const auto speed = static_cast<uint8_t>(std::abs(steps));
-        RadioLogic(panel).Rotary(ring, steps > 0 ? 1 : 0, row, speed);
+    int32_t Bit(Position at) const {
+        if (at == None) return 0;
+        return row == Upper ? 0x008000 << at : at == COM1 ? 0x800000 : 0x000040 << at;
+    }
+    void Turn(int32_t ring, int steps) {
+        auto& turned = steps > 0 ? Radio(panel).RotaryUp : Radio(panel).RotaryDown;
+        turned.Raise(2 * (row - Upper) + ring, static_cast<int16_t>(std::abs(steps)));
     }
 };

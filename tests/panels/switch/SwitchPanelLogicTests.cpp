@@ -48,8 +48,8 @@ struct SwitchPanelLogicTest : PanelFlight {
     void MoveSelectorTo(int32_t to) {
         SwitchLogic().SelectorChange(to, std::exchange(position, to));
     }
-    void LeverDown() { SwitchLogic().GearDown(); }
-    void LeverUp() { SwitchLogic().GearUp(); }
+    void LeverDown() { Switch().GearDown.Raise(); }
+    void LeverUp() { Switch().GearUp.Raise(); }
 
     void TellPiledUp() override {
         PanelFlight::TellPiledUp();
@@ -58,8 +58,7 @@ struct SwitchPanelLogicTest : PanelFlight {
     }
     // 16383 is down, 0 up.
     void Gear(int nose, int left, int right) {
-        Simulator<int32_t>(kNoseGear, nose);
-        Simulator<int32_t>(kLeftGear, left);
+        Simulator<int32_t>(kNoseGear, nose), Simulator<int32_t>(kLeftGear, left);
         Simulator<int32_t>(kRightGear, right);
     }
 };
@@ -78,11 +77,11 @@ TEST_F(SwitchPanelLogicTest, FirstReportBringsTheSimulatorIntoLine) {
                WroteByte(kPitotHeat, on) + Each(kCowlFlaps, WroteDouble, on ? 0.0 : 1.0);
     };
     device.SendReport({0x00, 0xFF, 0x5F, 0x08});  // the selector at R, all switches, lever down
-    EXPECT_EQ(Sent(), all(1, On) + WroteLights({0x20, 0x22, 0x23, 0x33, 0x3B, 0x3F}) +
-                          WroteDword(kGearHandle, 16383));
+    ExpectSent(all(1, On) + WroteLights({0x20, 0x22, 0x23, 0x33, 0x3B, 0x3F}) +
+               WroteDword(kGearHandle, 16383));
     device.SendReport({0x00, 0x00, 0x00, 0x06});  // START, lever up
-    EXPECT_EQ(Sent(), all(4, Off) + WroteLights({0x1F, 0x1D, 0x1C, 0x0C, 0x04, 0x00}) +
-                          WroteDword(kGearHandle, 0));
+    ExpectSent(all(4, Off) + WroteLights({0x1F, 0x1D, 0x1C, 0x0C, 0x04, 0x00}) +
+               WroteDword(kGearHandle, 0));
     for (const int none : {0, 1, 5, 20, 21}) Throw(none, On);
     Throw(19, Off), MoveSelectorTo(0);
     EXPECT_EQ(Sent(), kNothing) << "none of these is a switch, or a position";
@@ -122,7 +121,7 @@ TEST_F(SwitchPanelLogicTest, OptionsHoldTheirSwitchesToTheSelectedEngine) {
 TEST_F(SwitchPanelLogicTest, LightSwitchesChangeTheWordAsItIsJustThen) {
     Simulator(kLights, 0x8014);
     Throw(kPanel, On), Throw(kBeacon, On), Throw(kPanel, Off), Throw(kBeacon, Off);
-    EXPECT_EQ(Sent(), WroteLights({0x8034, 0x8036, 0x8016, 0x8014}));
+    ExpectSent(WroteLights({0x8034, 0x8036, 0x8016, 0x8014}));
     Simulator(kLights, 0x15);
     Throw(kNav, On), Throw(kStrobe, On), Throw(kLanding, On);
     Simulator(kLights, 0x3A);
@@ -188,17 +187,16 @@ TEST_F(SwitchPanelLogicTest, SecondClickComesASecondLaterAndAllElseGoesOnMeanwhi
     Throw(kPanel, On), WaitMs(500);
     LeverDown(), Throw(kBat, On), WaitMs(490);
     WaitMs(20), WaitMs(480), WaitMs(20);
-    EXPECT_EQ(Sent(), panelLight + Waited(500) + gearDown + WroteByte(kBatteries, 1) + Waited(490) +
-                          panelLight + Waited(20) + Waited(480) + gearDown + Waited(20));
+    ExpectSent(panelLight + Waited(500) + gearDown + WroteByte(kBatteries, 1) + Waited(490) +
+               panelLight + Waited(20) + Waited(480) + gearDown + Waited(20));
     LeverUp(), WaitMs(1100);
     Throw(kPanel, On), LeverDown(), WaitMs(500);
     Reconnect(), WaitMs(1000);
-    EXPECT_EQ(Sent(), gearUp + Waited(1100) + panelLight + gearDown + Waited(500) + Lights(0) +
-                          Waited(1000));
+    ExpectSent(gearUp + Waited(1100) + panelLight + gearDown + Waited(500) + Lights(0) +
+               Waited(1000));
     Fly("SpecialMode=maddog");
     Simulator(kLights, 0);
-    Throw(kNav, On), LeverUp();
-    EXPECT_EQ(Sent(), WroteLights({0x01}) + WroteDword(kGearHandle, 0));
+    Throw(kNav, On), LeverUp(), ExpectSent(WroteLights({0x01}) + WroteDword(kGearHandle, 0));
 }
 
 TEST_F(SwitchPanelLogicTest, BoundActionsGoOutInsteadOfTheBuiltInBehaviour) {
@@ -216,21 +214,19 @@ TEST_F(SwitchPanelLogicTest, BoundActionsGoOutInsteadOfTheBuiltInBehaviour) {
             MoveSelectorTo(to);
         LeverDown(), LeverUp();
         for (const int key : {101, 2, 102, 5, 105, 1, 20, 19}) keys += Typed(key);
-        EXPECT_EQ(Sent(), kind == VKey ? keys : kNothing);
+        ExpectSent(kind == VKey ? keys : kNothing);
     }
 }
 
 TEST_F(SwitchPanelLogicTest, VirtualButtonsOfSwitchesAreDownForAWhile) {
     Fly("SwitchBATOn=VButton,64,1\nSwitchSELOFFOff=VButton,64,2\nSwitchSELROn=VButton,64,3");
     Throw(kBat, On), Throw(kAvionics, On), WaitMs(40), WaitMs(20);
-    EXPECT_EQ(Sent(),
-              Pressed(1) + WroteByte(kAvionicsSwitch, 1) + Waited(40) + Released(1) + Waited(20));
+    ExpectSent(Pressed(1) + WroteByte(kAvionicsSwitch, 1) + Waited(40) + Released(1) + Waited(20));
     MoveSelectorTo(kSelectorR), WaitMs(40), WaitMs(20), WaitMs(30), WaitMs(20), MoveSelectorTo(0);
-    EXPECT_EQ(Sent(), Pressed(2) + Waited(40) + Released(2) + Pressed(3) + Waited(20) + Waited(30) +
-                          Released(3) + Waited(20));
+    ExpectSent(Pressed(2) + Waited(40) + Released(2) + Pressed(3) + Waited(20) + Waited(30) +
+               Released(3) + Waited(20));
     position = kSelectorOff;
-    MoveSelectorTo(kSelectorR);
-    EXPECT_EQ(Sent(), Pressed(2));
+    MoveSelectorTo(kSelectorR), ExpectSent(Pressed(2));
     machine.clock.Sleep(85);
     WaitMs(1), WaitMs(45), WaitMs(20);
     EXPECT_EQ(Sent(), Released(2) + Pressed(3) + Waited(1) + Waited(45) + Released(3) + Waited(20))
@@ -240,8 +236,8 @@ TEST_F(SwitchPanelLogicTest, VirtualButtonsOfSwitchesAreDownForAWhile) {
 TEST_F(SwitchPanelLogicTest, VirtualButtonOfTheLeverIsDownAsLongAsItStands) {
     Fly("SwitchGEARDOWNOn=VButton,64,1\nSwitchGEARUPOn=VButton,64,2\nSwitchGEARUPOff=VKey,3,0,0");
     LeverDown(), WaitMs(500), LeverUp(), WaitMs(500), LeverDown(), WaitMs(500);
-    EXPECT_EQ(Sent(), Pressed(1) + ButtonsWrittenAsTheyWere() + Waited(500) + Pressed(2) +
-                          Released(1) + Waited(500) + Pressed(1) + Released(2) + Waited(500));
+    ExpectSent(Pressed(1) + ButtonsWrittenAsTheyWere() + Waited(500) + Pressed(2) + Released(1) +
+               Waited(500) + Pressed(1) + Released(2) + Waited(500));
     Fly("SwitchGEARDOWNOn=VButton,64,3\nSwitchGEARUPOn=VButton,64,4");
     LeverUp();
     EXPECT_EQ(Sent(), Pressed(4) + ButtonsWrittenAsTheyWere() + Released(1))
@@ -260,7 +256,7 @@ TEST_F(SwitchPanelLogicTest, GearLightsShowARetractableGear) {
     Gear(down, down, down), WaitMs(10);
     EXPECT_EQ(Sent(), Waited(10)) << "it is fixed";
     Simulator(kRetractable, 0x0100), SetTitle("Baron"), WaitMs(20), WaitMs(20);
-    EXPECT_EQ(Sent(), Lights(0x07) + Waited(20) + Waited(20));
+    ExpectSent(Lights(0x07) + Waited(20) + Waited(20));
     const struct {
         int nose, left, right;
         std::string lights;
@@ -275,23 +271,22 @@ TEST_F(SwitchPanelLogicTest, GearLightsShowARetractableGear) {
         Gear(nose, left, right), WaitMs(10);
         EXPECT_EQ(Sent(), lights + Waited(10)) << nose;
     }
-    Simulator(kBatteryMaster, 0), WaitMs(10);
-    Simulator(kLeftGear, 0), WaitMs(10);
+    Simulator(kBatteryMaster, 0), WaitMs(10), Simulator(kLeftGear, 0), WaitMs(10);
     EXPECT_EQ(Sent(), Lights(0) + Waited(10) + Waited(10)) << "dark without power";
     Simulator(kBatteryMaster, 0x0100), Simulator(kNoseGear, down), WaitMs(10);
-    EXPECT_EQ(Sent(), Lights(0x21) + Waited(10));
+    ExpectSent(Lights(0x21) + Waited(10));
     Reconnect(), WaitMs(20);
     Simulator(kLeftGear, down), WaitMs(10);
-    EXPECT_EQ(Sent(), Lights(0) + Waited(20) + Lights(0x23) + Waited(10));
+    ExpectSent(Lights(0) + Waited(20) + Lights(0x23) + Waited(10));
     Fly("RetractableGear=0"), WaitMs(10);
     Simulator(kRetractable, 0), SetTitle("Glider"), WaitMs(20);
     Simulator(0x3308, 7), Reconnect(), WaitMs(20);  // FS2004
-    EXPECT_EQ(Sent(), Waited(10) + Lights(0) + Waited(20) + Lights(0) + Waited(20));
+    ExpectSent(Waited(10) + Lights(0) + Waited(20) + Lights(0) + Waited(20));
     Fly("RetractableGear=1");
     EXPECT_EQ(Sent(), Lights(0x23)) << "the option counts on FS2004 only";
     Fly("RetractableGear=0"), WaitMs(10);
     Simulator(kRetractable, 1), SetTitle("Baron"), WaitMs(20);
-    EXPECT_EQ(Sent(), Lights(0) + Waited(10) + Lights(0x23) + Waited(20));
+    ExpectSent(Lights(0) + Waited(10) + Lights(0x23) + Waited(20));
 }
 
 }  // namespace

@@ -56,16 +56,31 @@ COLORREF PixelOf(const Control& control, int x, int y) {
     return color;
 }
 
-// What a display of five places shows of a text.
-std::vector<COLORREF> Drawn(const std::string& text, Alignment align, bool hasPoints = true) {
-    const RECT area{0, 0, 167, 40};
-    Canvas canvas(area);
-    DrawSevenSegment(canvas.Dc(), area, ToSegmentCells(text, hasPoints), align, 40, 0xFFFFFF);
-    std::vector<COLORREF> pixels;
-    for (int y = 0; y < area.bottom; ++y) {
-        for (int x = 0; x < area.right; ++x) pixels.push_back(GetPixel(canvas.Dc(), x, y));
-    }
+// What a parent answers when its control asks how to paint itself, and the color of its text then.
+LRESULT AskColors(UINT message, const Control& parent, const Control& control, COLORREF& text) {
+    const HDC dc = GetDC(WindowOf(control));
+    const LRESULT brush = Tell(parent, message, reinterpret_cast<WPARAM>(dc),
+                               reinterpret_cast<LPARAM>(WindowOf(control)));
+    text = GetTextColor(dc);
+    ReleaseDC(WindowOf(control), dc);
+    return brush;
+}
+
+using Pixels = std::vector<COLORREF>;
+constexpr RECT kDisplay{0, 0, 167, 40};  // of five places
+
+Pixels AllOf(HDC dc) {
+    Pixels pixels;
+    for (int y = 0; y < kDisplay.bottom; ++y)
+        for (int x = 0; x < kDisplay.right - 1; ++x) pixels.push_back(GetPixel(dc, x, y));
     return pixels;
+}
+
+// What a display shows of a text.
+Pixels Drawn(const std::string& text, Alignment align, bool hasPoints = true) {
+    Canvas canvas(kDisplay);
+    DrawSevenSegment(canvas.Dc(), kDisplay, ToSegmentCells(text, hasPoints), align, 40, 0xFFFFFF);
+    return AllOf(canvas.Dc());
 }
 
 struct PeerTest : testing::Test {
@@ -94,6 +109,13 @@ struct ListPeerTest : PeerTest {
         Show();
         SetFocus(WindowOf(box));
     }
+    HWND List() {
+        COMBOBOXINFO parts{};
+        parts.cbSize = sizeof parts;
+        GetComboBoxInfo(WindowOf(box), &parts);
+        return parts.hwndList;
+    }
+    void Drop(bool down = true) { Tell(box, CB_SHOWDROPDOWN, down); }
 
     ComboBox box{&form};
 };
@@ -129,7 +151,6 @@ TEST_F(PeerTest, TabsFollowBothWaysAndClickOnce) {
     tabs.AddTab(1, "Radio", "Radio");
     EXPECT_EQ(Tell(tabs, TCM_GETITEMCOUNT), 3);
     EXPECT_EQ(Tell(tabs, TCM_GETCURSEL), 2);
-
     RECT first;
     Tell(tabs, TCM_GETITEMRECT, 0, reinterpret_cast<LPARAM>(&first));
     Tell(tabs, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(first.left + 5, first.top + 5));
@@ -156,8 +177,7 @@ TEST_F(ListPeerTest, FollowsBothWaysAndClicksOnce) {
 TEST_F(ListPeerTest, LeavingItSelectsWhatItShowsThen) {
     box.SetListIndex(0);
     for (const WPARAM shown : {1, 0}) {
-        Tell(box, CB_SHOWDROPDOWN, TRUE);
-        Press(VK_DOWN);
+        Drop(), Press(VK_DOWN);
         Tell(box, CB_SETCURSEL, shown);
         Press(VK_ESCAPE);
     }
@@ -166,34 +186,25 @@ TEST_F(ListPeerTest, LeavingItSelectsWhatItShowsThen) {
 
 TEST_F(ListPeerTest, ChoosingTheSameEntryClicksOnce) {
     box.SetListIndex(0);
-    Tell(box, CB_SHOWDROPDOWN, TRUE);
-    Press(VK_RETURN);
+    Drop(), Press(VK_RETURN);
     EXPECT_EQ(seen, (std::vector<int32_t>{0, 0}));
-    Tell(box, CB_SHOWDROPDOWN, TRUE);
-    COMBOBOXINFO parts{};
-    parts.cbSize = sizeof parts;
-    GetComboBoxInfo(WindowOf(box), &parts);
-    SendMessageW(parts.hwndList, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
-    SendMessageW(parts.hwndList, WM_LBUTTONUP, 0, MAKELPARAM(5, 5));
+    Drop();
+    SendMessageW(List(), WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
+    SendMessageW(List(), WM_LBUTTONUP, 0, MAKELPARAM(5, 5));
     Pump();
     EXPECT_EQ(seen, (std::vector<int32_t>{0, 0, 0}));
-    Tell(box, CB_SHOWDROPDOWN, TRUE);
-    Press(VK_DOWN);
-    Press(VK_RETURN);
+    Drop(), Press(VK_DOWN), Press(VK_RETURN);
     EXPECT_EQ(seen, (std::vector<int32_t>{0, 0, 0, 1})) << "a move has clicked already";
 }
 
 TEST_F(ListPeerTest, ClosedItHasItsHeightAndOpenRoomForTwelve) {
-    COMBOBOXINFO parts{};
-    parts.cbSize = sizeof parts;
-    GetComboBoxInfo(WindowOf(box), &parts);
     for (const int height : {24, 30}) {
         box.Height = height * kTwipsPerPixel;
         RECT place = PlaceOf(box);
         EXPECT_EQ(place.bottom - place.top, height);
-        Tell(box, CB_SHOWDROPDOWN, TRUE);
-        GetClientRect(parts.hwndList, &place);
-        Tell(box, CB_SHOWDROPDOWN, FALSE);
+        Drop();
+        GetClientRect(List(), &place);
+        Drop(false);
         EXPECT_EQ(place.bottom / Tell(box, CB_GETITEMHEIGHT), 12);
     }
 }
@@ -213,15 +224,11 @@ TEST_F(PeerTest, FrameIsANativeGroupThatHandsOnWhatItsControlsTell) {
     EXPECT_EQ(TextOf(frame), "Profiles");
     EXPECT_EQ(PixelOf(frame, 250, 150), GetSysColor(COLOR_BTNFACE));
     SetFocus(WindowOf(before));
-    Press(VK_TAB);
-    Press(VK_RETURN);
+    Press(VK_TAB), Press(VK_RETURN);
     EXPECT_EQ(clicks, 1);
-
-    const HDC dc = GetDC(WindowOf(label));
-    Tell(frame, WM_CTLCOLORSTATIC, reinterpret_cast<WPARAM>(dc),
-         reinterpret_cast<LPARAM>(WindowOf(label)));
-    EXPECT_EQ(GetTextColor(dc), 0x0000FFu);
-    ReleaseDC(WindowOf(label), dc);
+    COLORREF text = 0;
+    AskColors(WM_CTLCOLORSTATIC, frame, label, text);
+    EXPECT_EQ(text, 0x0000FFu);
 }
 
 TEST_F(PeerTest, StatusBarSharesTheWidthAndShowsItsTexts) {
@@ -233,7 +240,6 @@ TEST_F(PeerTest, StatusBarSharesTheWidthAndShowsItsTexts) {
     wchar_t text[20];
     Tell(bar, SB_GETTEXTW, 1, reinterpret_cast<LPARAM>(text));
     EXPECT_EQ(FromWide(text), "\xA9 10");
-
     form.Width = 9000;
     int ends[2];
     ASSERT_EQ(Tell(bar, SB_GETPARTS, 2, reinterpret_cast<LPARAM>(ends)), 2);
@@ -250,17 +256,14 @@ TEST_F(PeerTest, UsersMoveReachesTheFormAndHiddenWindowsFollowIt) {
     EXPECT_EQ(form.Left, 33 * 15);
     EXPECT_EQ(form.Top, 44 * 15);
     EXPECT_EQ(form.Height, 4208) << "a fraction of a pixel is no change of size";
-
     form.Left = 1200;
     form.Caption = "Orvo";
     EXPECT_EQ(PlaceOf(form).left, 80);
     EXPECT_EQ(PlaceOf(form).top, 44);
     EXPECT_EQ(TextOf(form), "Orvo");
-
     EnableWindow(WindowOf(form), FALSE);
     form.Caption = "Orvo 2";
     EXPECT_FALSE(IsWindowEnabled(WindowOf(form))) << "as a message box has left it";
-
     form.Width = 150;
     EXPECT_EQ(form.Width, 150) << "the system's smallest width is no act of the user";
 }
@@ -280,7 +283,6 @@ TEST_F(PeerTest, ContentsNeverCoverTheStatusBar) {
     SetWindowPos(WindowOf(form), nullptr, 33, 44, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
     EXPECT_EQ(form.Left, 33 * 15);
     EXPECT_EQ(form.Height, 4208) << "what the program has set";
-
     page.Height = 1500;
     form.Top = 900;
     EXPECT_EQ(PlaceOf(form).bottom - PlaceOf(form).top, 281) << "as set, where there is room";
@@ -294,7 +296,6 @@ TEST_F(PeerTest, ShowBringsAMinimisedFormBackAndACoveredOneToTheFront) {
     form.Show();
     EXPECT_FALSE(IsIconic(WindowOf(form)));
     EXPECT_EQ(form.Left, 1500);
-
     Form other(ui);
     other.Move(1500, 1500, 6000, 4208);
     other.Load();
@@ -322,8 +323,7 @@ TEST_F(PeerTest, EnterPressesTheFocusedButtonOnce) {
     Show();
     Count(button);
     SetFocus(WindowOf(button));
-    Press(VK_RETURN);
-    Press(VK_RETURN, LPARAM{KF_REPEAT} << 16);
+    Press(VK_RETURN), Press(VK_RETURN, LPARAM{KF_REPEAT} << 16);
     EXPECT_EQ(clicks, 1);
     SetFocus(WindowOf(tabs));
     Press(VK_RETURN);
@@ -340,7 +340,6 @@ TEST_F(PeerTest, HiddenPageGivesTheKeyboardAway) {
     page.Visible = false;
     EXPECT_EQ(GetFocus(), WindowOf(tabs));
     EXPECT_EQ(TextOf(tabs), "Pages");
-
     page.Visible = true;
     tabs.Visible = false;
     SetFocus(WindowOf(second));
@@ -362,12 +361,9 @@ TEST_F(PeerTest, PictureTellsScreenReadersItsLabelsAndButtonsItsGround) {
     value.Caption = "083";
     mode.Visible = false;
     EXPECT_EQ(TextOf(picture), "083");
-
     picture.BackColor = 0x403020U;
-    const HDC dc = GetDC(WindowOf(button));
-    const LRESULT brush = Tell(picture, WM_CTLCOLORBTN, reinterpret_cast<WPARAM>(dc),
-                               reinterpret_cast<LPARAM>(WindowOf(button)));
-    ReleaseDC(WindowOf(button), dc);
+    COLORREF text = 0;
+    const LRESULT brush = AskColors(WM_CTLCOLORBTN, picture, button, text);
     LOGBRUSH ground{};
     ASSERT_NE(GetObjectW(reinterpret_cast<HGDIOBJ>(brush), sizeof ground, &ground), 0);
     EXPECT_EQ(ground.lbColor, 0x403020u);
@@ -399,7 +395,6 @@ TEST_F(PeerTest, KeyboardAndStackGoByTheOrderOfChildren) {
     CommandButton last(&form);
     form.Load();
     EXPECT_EQ(GetWindow(WindowOf(form), GW_CHILD), WindowOf(last));
-
     form.Show();
     SetFocus(WindowOf(first));
     for (const Control* next : {&inner, &last, &first, &inner}) {
@@ -424,12 +419,10 @@ TEST_F(PeerTest, PictureIsPaintedWhereItChangedAndOnlyWhenSeen) {
     form.Load();
     lamp.FillColor = 0x00FF00U;
     EXPECT_FALSE(GetUpdateRect(WindowOf(picture), nullptr, FALSE));
-
     form.Show();
     Pump();
     EXPECT_EQ(PixelOf(picture, 40, 40), 0x00FF00u);
     EXPECT_EQ(PixelOf(picture, 100, 40), 0x202020u);
-
     lamp.Left = 600;
     RECT changed;
     ASSERT_TRUE(GetUpdateRect(WindowOf(picture), &changed, FALSE));
@@ -439,10 +432,13 @@ TEST_F(PeerTest, PictureIsPaintedWhereItChangedAndOnlyWhenSeen) {
     EXPECT_EQ(PixelOf(picture, 60, 40), 0x00FF00u);
 }
 
-TEST(SevenSegmentTest, TooLongATextLosesItsFirstPlacesAtTheRightAndElseItsLast) {
+TEST(SevenSegmentTest, FivePlacesAreDrawnAndAPointIsBlankWhereThereIsNone) {
     EXPECT_EQ(Drawn("123456.", Alignment::Right), Drawn("23456.", Alignment::Right));
     EXPECT_EQ(Drawn("123456", Alignment::Left), Drawn("12345", Alignment::Left));
-    EXPECT_NE(Drawn("12345", Alignment::Right), Drawn("2345", Alignment::Right)) << "five places";
+    EXPECT_NE(Drawn("12345", Alignment::Right), Drawn("2345", Alignment::Right));
+    for (const char* text : {"0.780", "10,780"})
+        EXPECT_EQ(Drawn(text, Alignment::Right, false), Drawn("0 780", Alignment::Right));
+    EXPECT_NE(Drawn("0.780", Alignment::Right), Drawn("0 780", Alignment::Right));
 }
 
 TEST(SevenSegmentTest, PointJoinsTheDigitBeforeItAndLettersAreBlank) {
@@ -451,12 +447,6 @@ TEST(SevenSegmentTest, PointJoinsTheDigitBeforeItAndLettersAreBlank) {
               (std::vector<SegmentCell>{{0x40, false}, {0x06, true}, {0x7F, true}}));
     EXPECT_EQ(ToSegmentCells(" A", true), (std::vector<SegmentCell>{blank, blank}));
     EXPECT_EQ(ToSegmentCells("..", true).size(), 2u);
-}
-
-TEST(SevenSegmentTest, PointIsABlankPlaceOfADisplayThatHasNone) {
-    EXPECT_EQ(Drawn("0.780", Alignment::Right, false), Drawn("0 780", Alignment::Right));
-    EXPECT_EQ(Drawn("10,780", Alignment::Right, false), Drawn("0 780", Alignment::Right));
-    EXPECT_NE(Drawn("0.780", Alignment::Right), Drawn("0 780", Alignment::Right));
 }
 
 TEST_F(PeerTest, DisplayOfAPictureIsDrawnAnewWithoutItsPoints) {
@@ -473,13 +463,11 @@ TEST_F(PeerTest, DisplayOfAPictureIsDrawnAnewWithoutItsPoints) {
         display.Caption = text;
         display.HasPoints = hasPoints;
         Pump();
-        std::vector<COLORREF> pixels;
-        for (int y = 0; y < 40; ++y) {
-            for (int x = 0; x < 166; ++x) pixels.push_back(PixelOf(picture, x, y));
-        }
+        const HDC dc = GetDC(WindowOf(picture));
+        const Pixels pixels = AllOf(dc);
+        ReleaseDC(WindowOf(picture), dc);
         return pixels;
     };
-    const std::vector<COLORREF> withPoint = shown("0.780", true);
-    EXPECT_NE(shown("0.780", false), withPoint);
+    EXPECT_NE(shown("0.780", false), shown("0.780", true));
     EXPECT_EQ(shown("0.780", false), shown("0 780", true));
 }
