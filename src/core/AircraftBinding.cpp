@@ -122,6 +122,7 @@ void AircraftBinding::SelectCurrentProfile() {
 void AircraftBinding::ApplyProfile() {
     const ProfileReading reading(parts_.profiles);
     const bool read = ReadSpecialMode();
+    if (read) parts_.session.Acts.Drop(PendingActs::Lasts::Binding);
     parts_.panels.ForEachLogic([read](cPanelLogic& logic) {
         logic.LoadSetup();
         if (read) logic.SetupChanged();

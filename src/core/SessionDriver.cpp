@@ -5,6 +5,8 @@
 namespace {
 
 constexpr int32_t kTitleLength = 60;
+// So much of a tick for what waits; most of it are exchanges of its own.
+constexpr uint32_t kCatchUpMs = 5;
 
 constexpr const char* kSimulatorNames[] = {"Any",    "FS98",   "FS2K", "CFS2", "CFS1", "FLY",
                                            "FS2002", "FS2004", "FSX",  "ESP",  "P3D"};
@@ -103,7 +105,10 @@ void SessionDriver::TellAircraft() {
 void SessionDriver::CatchUp() {
     AskVersions();
     parts_.binding.AskForGear();
-    parts_.session.Acts.DoFirst();
+    const uint32_t start = parts_.clock.GetTickCount();
+    while (parts_.session.Acts.DoFirst() && parts_.clock.GetTickCount() - start < kCatchUpMs) {
+    }
+    parts_.output.TickDone();
 }
 
 void SessionDriver::LoseSession() {

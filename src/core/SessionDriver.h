@@ -6,6 +6,7 @@
 #include "base/Event.h"
 #include "core/AircraftBinding.h"
 #include "core/PanelUnit.h"
+#include "platform/Clock.h"
 #include "platform/MessageLoop.h"
 #include "simlink/actions/EventOutput.h"
 #include "simlink/channel/cSession.h"
@@ -17,6 +18,7 @@ class SessionDriver {
     struct Parts {
         cSession& session;
         EventOutput& output;
+        Clock& clock;
         MessageLoop& loop;
         PanelLists& panels;
         AircraftBinding& binding;

@@ -39,7 +39,8 @@ frmMain::frmMain(const MainServices& services)
       Binding({services.session, services.profiles, services.generalSetup, services.windows,
                cmbProfiles, Panels}),
       Files(services.platform.clock, services.platform.process, services.generalSetup, Binding),
-      Driver({services.session, services.output, services.platform.loop, Panels, Binding}),
+      Driver({services.session, services.output, services.platform.clock, services.platform.loop,
+              Panels, Binding}),
       services_(services) {
     Caption = "  ORVO    v0.5.1";
     PlaceControls();

@@ -47,25 +47,53 @@ TEST_F(SlowSimulatorTest, EventsWaitForOneTimeOutAndNotForEachOfTheirSteps) {
     EXPECT_EQ(sim.Get<int32_t>(0x07BC) + sim.Get<int32_t>(0x07C8), 2);
 }
 
-TEST_F(SlowSimulatorTest, FastStepOfAVirtualButtonLetsMessagesRun) {
-    Fly("", "RotUpActionHDG=VButton,64,1\r\n");
-    MoveSelectorTo(HDG);
-    Sent();
-    machine.ipc.ForgetSentMessages();
-    size_t mostExchanges = 0, last = 0;
+TEST_F(SlowSimulatorTest, FastStepsOfAVirtualButtonLetMessagesRunAndLoseNoClick) {
+    Fly("", "RotUpActionHDG=VButton,64,1\r\nRotDownActionHDG=VButton,64,2\r\n");
+    MoveSelectorTo(HDG), Sent();
+    const auto clicks = [](int times, int button) {
+        std::string text;
+        for (int time = 0; time < times; ++time) text += Pressed(button) + Released(button);
+        return text;
+    };
+    size_t mostExchanges = 0, last = machine.ipc.SentMessages().size();
     std::function<void()> watch = [&] {
         const size_t now = machine.ipc.SentMessages().size();
         mostExchanges = std::max(mostExchanges, now - std::exchange(last, now));
-        machine.loop.Post(watch);
+        machine.loop.After(1, watch);
     };
-    machine.loop.Post(watch);
-    TurnKnob(+20);
-    EXPECT_LE(mostExchanges, 3U);
-    EXPECT_EQ(last, 38U);
-    std::string sent;
-    for (int time = 0; time < 20; ++time) sent += Pressed(1) + Released(1);
+    watch();
+    TurnKnob(+20), TurnKnob(-5), WaitMs(50);
+    EXPECT_LE(mostExchanges, 4U) << "a click's two, and a tick's";
     watch = [] {};
-    ExpectSent(sent);
+    EXPECT_EQ(Sent(), clicks(20, 1) + clicks(5, 2) + Waited(50));
+    TurnTrim(+1), machine.ipc.AnswerWith(0, 1), TurnTrim(+1), TurnKnob(+20), WaitMs(60);
+    EXPECT_EQ(Sent(), WroteWord(kTrim, 32) + WroteWord(kTrim, 64) + clicks(20, 1) + Waited(60))
+        << "nor behind an act that waits";
+    TurnKnob(+20);
+    Reconnect(), WaitMs(50);
+    const std::string sent = Sent();
+    EXPECT_TRUE(sent.ends_with(Waited(50))) << "nothing goes on in another session: " << sent;
+    EXPECT_LE(sent.size(), clicks(2, 1).size() + Waited(50).size());
+}
+
+TEST_F(SlowSimulatorTest, PressForAWhileHasItsTimeAfterAReadInVainToo) {
+    Fly("", "");
+    SwitchLogic().SPActions->SetSwitchActions(kBat, 1, {ActionKind::VButton, 64, 5, 0});
+    std::vector<uint64_t> times;
+    const ScopedConnection noting =
+        sim.Written.Connect([&](uint32_t offset, std::span<const uint8_t>) {
+            if (offset == 0x3340) times.push_back(machine.clock.Elapsed());
+        });
+    for (int before = 0; before < 12; ++before) {
+        times.clear();
+        machine.ipc.AnswerWith(0, 1);
+        for (int act = 0; act < before; ++act) TurnTrim(+1);
+        SwitchLogic().SwitchChange(kBat, true);
+        WaitMs(500);
+        ASSERT_EQ(times.size(), 2U);
+        EXPECT_GE(times[1] - times[0], 50U) << before;
+        EXPECT_LE(times[1] - times[0], 70U) << before;
+    }
 }
 
 TEST_F(SlowSimulatorTest, SecondClickHasItsSecondFromWhenTheFirstArrived) {

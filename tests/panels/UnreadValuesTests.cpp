@@ -73,9 +73,9 @@ TEST_F(UnreadValuesTest, KnobsStartFromTheFirstTickOfSessionBindingAndMode) {
         begin();
         Simulator(kHeading, 16384), Simulator(kStandby1, 0x2300);
         turnBoth();
-        EXPECT_EQ(Sent(), kNothing) << what;
-        turnBoth();
-        EXPECT_EQ(Sent(), WroteWord(kHeading, 16566) + WroteWord(kStandby1, 0x2400)) << what;
+        EXPECT_EQ(told, kNothing) << what;
+        Simulator(kHeading, 0), Simulator(kStandby1, 0x2600);
+        EXPECT_EQ(Sent() + Sent(), WroteWord(kHeading, 182) + WroteWord(kStandby1, 0x2700)) << what;
     }
 }
 
@@ -86,8 +86,8 @@ TEST_F(UnreadValuesTest, TickWhoseReplyEndsEarlyHasReadNothing) {
     machine.ipc.AfterServing([](std::span<uint8_t> block) { std::ranges::fill(block, 0); });
     Tick();
     machine.ipc.AfterServing({});
-    TurnKnob(+1), TurnTrim(+1), ExpectSent(WroteWord(kTrim, 32));
-    TurnKnob(+1), ExpectSent(WroteWord(kHeading, 16566));
+    TurnKnob(+1);
+    EXPECT_EQ(Sent() + Sent(), WroteWord(kHeading, 16566));
 }
 
 TEST_F(UnreadValuesTest, SwitchesThatNeedAValueAskForItBeforeTheFirstTick) {
@@ -105,8 +105,29 @@ TEST_F(UnreadValuesTest, SwitchesThatNeedAValueAskForItBeforeTheFirstTick) {
     Fly("maddog");
     Simulator<int32_t>(kAutopilot, 1);
     Window().cmbProfiles.SetListIndex(0);
-    Click(Button::AP);
-    EXPECT_EQ(Sent(), kNothing) << "nobody knows whether it is on";
+    Click(Button::AP), ExpectSent(SentControl(69666, 0));
+}
+
+// What was meant for one aircraft isn't done to another.
+TEST_F(UnreadValuesTest, ActsThatWaitEndWithTheirBindings) {
+    failures[0]();
+    Click(Button::AP), SetAutoThrottle(true);
+    Fly("ngx");
+    ExpectSent(kNothing);
+    Simulator<uint8_t>(kAddOnThrottle, 1);
+    failures[0]();
+    Window().cmbProfiles.SetListIndex(0);
+    SetAutoThrottle(false);
+    PutProfile("Default", "");
+    Window().cmbProfiles.SetListIndex(0);
+    EXPECT_EQ(Sent() + Sent(), kNothing);
+}
+
+TEST_F(UnreadValuesTest, FuelPumpsOfAnotherBindingAreReadAnew) {
+    SwitchLogic().SPActions->SingleFuelPump = true;
+    Simulator<uint8_t>(kPumps, 0x0C);
+    SwitchLogic().SetupChanged();
+    Throw(SwitchNumber::kFuelPump), ExpectSent(WroteByte(kPumps, 0x0D));
 }
 
 TEST_F(UnreadValuesTest, FirstReportWithEverythingOnArrivesWholeAfterAReadInVain) {

@@ -46,6 +46,7 @@ TEST_F(ActionTest, VirtualButtonsAreBitsAndEachPressIsSeenBeforeItsRelease) {
         output.SetVirtualButton(joystick, button, false, true);
         seen.clear();
         output.SendAction({VButton, joystick, button, 0}, 2);
+        machine.loop.Advance(1);
         EXPECT_EQ(seen, (std::vector{on, off, on})) << "the last release waits";
         fsuipc.FSUIPC_Process(result);
         EXPECT_EQ(machine.server.Get<uint32_t>(offset), off);
@@ -57,11 +58,13 @@ TEST_F(ActionTest, VirtualButtonsAreBitsAndEachPressIsSeenBeforeItsRelease) {
     EXPECT_TRUE(seen.empty() && result == kFsuipcEmptyBatch);
     machine.ipc.TimeOut(11);
     output.SendAction({VButton, 64, 1, 0}, 20);
+    machine.loop.Advance(100);
     fsuipc.FSUIPC_Process(result);
     EXPECT_TRUE(seen.empty() && result == kFsuipcEmptyBatch) << "no press without its release";
     machine.ipc.RemoveWindows();
     const uint32_t before = machine.clock.GetTickCount();
     output.SendAction({VButton, 64, 1, 0}, 20);
+    machine.loop.Advance(100);
     EXPECT_LE(machine.clock.GetTickCount() - before, 1000U) << "one exchange without an answer";
     machine.loop.Post([&] { session.FSConnected = false; });
     output.SendAction({VKey, 65, 0, 0}, 20);

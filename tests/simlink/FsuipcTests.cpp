@@ -259,4 +259,19 @@ TEST_F(FsuipcTest, EventsExchangeInVainKeepsItsWritesAndNoRead) {
     EXPECT_EQ(result, 10) << "once";
 }
 
+// It has done what it was asked for, only too late.
+TEST_F(FsuipcTest, WritesThatWereTakenAtTheLastRepeatAreNotSentAgain) {
+    ASSERT_TRUE(Open());
+    int swaps = 0;
+    const ScopedConnection counting =
+        machine.server.Written.Connect([&](uint32_t, std::span<const uint8_t>) { ++swaps; });
+    const uint8_t value = 8;
+    fsuipc.FSUIPC_Write(0x3123, 1, &value, result);
+    machine.ipc.TimeOut(10);
+    EXPECT_FALSE(fsuipc.ProcessForEvent(result));
+    fsuipc.FSUIPC_Process(result);
+    EXPECT_EQ(swaps, 1);
+    EXPECT_EQ(result, 10);
+}
+
 }  // namespace

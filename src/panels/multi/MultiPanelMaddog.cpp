@@ -38,7 +38,7 @@ enum : int32_t {
     kAltitudeLong = 69679,
     kSetNavMode = 69740,
     kMachHold = 69745,
-    // Of the simulator.
+    // Controls of the simulator itself.
     kSetCourse1 = 65716,
     kSetCourse2 = 65717,
 };
@@ -103,10 +103,10 @@ void MultiPanelMaddog::ShowPosition(int32_t position) {
     }
 }
 
-void MultiPanelMaddog::SM_MADDOG_ButtonClick(int32_t Button, bool autopilotRead) {
+void MultiPanelMaddog::SM_MADDOG_ButtonClick(int32_t Button) {
     switch (Button) {
         case MultiButton::kAP:
-            ToggleAutopilot(autopilotRead);
+            ToggleAutopilot();
             break;
         case MultiButton::kIAS:
             output_.SendControl(
@@ -129,10 +129,9 @@ void MultiPanelMaddog::SM_MADDOG_ButtonClick(int32_t Button, bool autopilotRead)
     }
 }
 
-void MultiPanelMaddog::SM_MADDOG_ButtonLongClick(int32_t Button, int32_t position,
-                                                 bool autopilotRead) {
+void MultiPanelMaddog::SM_MADDOG_ButtonLongClick(int32_t Button, int32_t position) {
     if (Button == MultiButton::kAP) {
-        ToggleAutopilot(autopilotRead);
+        ToggleAutopilot();
     } else if (Button == MultiButton::kREV) {
         ToggleMach(position);
     } else if (const int32_t control = ControlOf(Button, &PlainButton::longClick)) {
@@ -140,8 +139,7 @@ void MultiPanelMaddog::SM_MADDOG_ButtonLongClick(int32_t Button, int32_t positio
     }
 }
 
-void MultiPanelMaddog::ToggleAutopilot(bool read) {
-    if (!read) return;
+void MultiPanelMaddog::ToggleAutopilot() {
     values_.MDAutopilotOn = !values_.MDAutopilotOn;
     output_.SendControl(MaddogControl::kAutopilot, values_.MDAutopilotOn ? 1 : 0);
 }

@@ -20,9 +20,11 @@ class MultiPanelMaddog {
     // The selector has reached a position.
     void ShowPosition(int32_t position);
 
-    // `autopilotRead`: whether a tick has read its state in this mode.
-    void SM_MADDOG_ButtonClick(int32_t Button, bool autopilotRead);
-    void SM_MADDOG_ButtonLongClick(int32_t Button, int32_t position, bool autopilotRead);
+    // What the simulator says of the autopilot, where no tick has told it yet.
+    void SetAutopilot(bool on) { values_.MDAutopilotOn = on; }
+
+    void SM_MADDOG_ButtonClick(int32_t Button);
+    void SM_MADDOG_ButtonLongClick(int32_t Button, int32_t position);
     // Direction 1 is clockwise. `secondCourse`: whether CRS is that of NAV2.
     void SM_MADDOG_Rotary(int16_t Direction, int16_t Speed, int32_t position, bool secondCourse);
     void SM_MADDOG_AutoThrottle(int16_t State);
@@ -40,7 +42,7 @@ class MultiPanelMaddog {
         int32_t MDNavMode = 1;        // next parameter of the REV button's control
     };
 
-    void ToggleAutopilot(bool read);
+    void ToggleAutopilot();
     void ToggleMach(int32_t position);
     void TurnSpeed(int32_t step);
 

@@ -46,7 +46,7 @@ void cMultiPanelLogic::Rotary(int16_t Direction, int16_t Speed) {
 
 void cMultiPanelLogic::ButtonClick(int32_t Button) {
     if (session_.SpecialMode == kMaddogMode) {
-        maddog_.SM_MADDOG_ButtonClick(Button, values_.AreRead());
+        PressMaddog([this, Button] { maddog_.SM_MADDOG_ButtonClick(Button); });
     } else {
         PressButton(Button, MPActions->GetButtonsActions(Button),
                     MPActions->NGXGetShortButtonsActions(Button));
@@ -63,7 +63,23 @@ void cMultiPanelLogic::ButtonLongClick(int32_t Button) {
 }
 
 void cMultiPanelLogic::SM_MADDOG_ButtonLongClick(int32_t Button) {
-    maddog_.SM_MADDOG_ButtonLongClick(Button, selectorPosition_, values_.AreRead());
+    PressMaddog([this, Button, position = selectorPosition_] {
+        maddog_.SM_MADDOG_ButtonLongClick(Button, position);
+    });
+}
+
+// The AP button starts from what the simulator says of the autopilot.
+void cMultiPanelLogic::PressMaddog(std::function<void()> press) {
+    session_.Acts.Do([this, press = std::move(press)] {
+        if (!values_.AreRead()) {
+            const OffsetRow& row = kMultiOffsets[MultiValue::kMaster];
+            const auto autopilot = session_.ReadOffset(row.offset, row.dataType);
+            if (!autopilot) return false;
+            maddog_.SetAutopilot(*autopilot == 1);
+        }
+        press();
+        return true;
+    });
 }
 
 void cMultiPanelLogic::PressButton(int32_t button, const ActionRecord& record, uint8_t ngxRow) {

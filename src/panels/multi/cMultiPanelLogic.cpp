@@ -13,6 +13,23 @@ uint8_t AsAcceleration(int16_t value) {
     return static_cast<uint8_t>(std::clamp<int16_t>(value, 0, 255));
 }
 
+std::array<std::string, kMultiPanelLights> LightNames(int16_t panel) {
+    std::array<std::string, kMultiPanelLights> names;
+    for (size_t light = 0; light < kMultiPanelLights; ++light) {
+        names[light] = kMultiOffsets[light].name + (' ' + FormatInteger(panel));
+    }
+    return names;
+}
+
+std::array<OffsetRow, kMultiPanelLights> LightRows(
+    const std::array<std::string, kMultiPanelLights>& names) {
+    std::array<OffsetRow, kMultiPanelLights> rows{};
+    for (size_t light = 0; light < kMultiPanelLights; ++light) {
+        rows[light] = {names[light].c_str(), 0, kNGXLightType, kNGXMode};
+    }
+    return rows;
+}
+
 }  // namespace
 
 cMultiPanelLogic::cMultiPanelLogic(const LogicServices& services, ctlMultiPanel& control,
@@ -23,18 +40,16 @@ cMultiPanelLogic::cMultiPanelLogic(const LogicServices& services, ctlMultiPanel&
       profiles_(services.profiles),
       control_(control),
       offsets_(session_.OffsetTable, kMultiOffsets),
+      lightNames_(LightNames(index)),
+      lightRows_(LightRows(lightNames_)),
+      lights_(session_.OffsetTable, lightRows_),
       power_(session_.OffsetTable),
       maddog_(output_, control),
       ngx_(output_, services.clock),
       standard_(session_),
       selector_(output_),
       autoThrottle_(output_),
-      values_(session_, offsets_) {
-    for (size_t light = 0; light < kMultiPanelLights; ++light) {
-        lightNames_[light] = kMultiOffsets[light].name + (' ' + FormatInteger(Index));
-        lights_.emplace_back(session_.OffsetTable, lightNames_[light].c_str());
-    }
-}
+      values_(session_, offsets_) {}
 
 void cMultiPanelLogic::StartUp() {
     MPActions = std::make_unique<cMultiPanelActionsHolder>(profiles_);
@@ -60,21 +75,16 @@ void cMultiPanelLogic::ApplyTrimAcceleration() {
     control_.TrimAcceleration(AsAcceleration(MPActions->TrimAcceleration));
 }
 
+// A button's light in the NGX is that of its short function.
 void cMultiPanelLogic::RegisterOffsets() {
-    for (const std::string& name : lightNames_) session_.OffsetTable.UnregisterOffset(name);
-    offsets_.RegisterMode(session_.SpecialMode);
-    if (session_.SpecialMode == kNGXMode) RegisterNGXLights();
-    if (session_.SpecialMode == kMaddogMode) maddog_.Start();
-}
-
-// A button's light is that of its short function.
-void cMultiPanelLogic::RegisterNGXLights() {
     for (size_t light = 0; light < kMultiPanelLights; ++light) {
-        const auto button = static_cast<int32_t>(light + 1);
+        const auto button = static_cast<int32_t>(light) + MultiButton::kAP;
         const size_t function = MPActions->NGXGetShortButtonsActions(button);
-        session_.OffsetTable.RegisterOffset(NGXEventTable[kNGXRows + function], kNGXLightType,
-                                            lightNames_[light]);
+        lightRows_[light].offset = NGXEventTable[kNGXRows + function];
     }
+    lights_.RegisterMode(session_.SpecialMode);
+    offsets_.RegisterMode(session_.SpecialMode);
+    if (session_.SpecialMode == kMaddogMode) maddog_.Start();
 }
 
 void cMultiPanelLogic::RefreshData() {
@@ -97,9 +107,8 @@ void cMultiPanelLogic::RefreshData() {
 uint8_t cMultiPanelLogic::Lights() const {
     unsigned lights = 0;
     for (size_t light = 0; light < kMultiPanelLights; ++light) {
-        const NamedOffset& state =
-            session_.SpecialMode == kNGXMode ? lights_[light] : offsets_[light];
-        if (state.Data() == 1) lights |= 1U << light;
+        const OffsetRows& rows = session_.SpecialMode == kNGXMode ? lights_ : offsets_;
+        if (rows[light].Data() == 1) lights |= 1U << light;
     }
     return static_cast<uint8_t>(lights);
 }

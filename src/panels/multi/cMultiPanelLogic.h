@@ -2,9 +2,9 @@
 
 #include <array>
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
-#include <vector>
 
 #include "panels/multi/MultiPanelMaddog.h"
 #include "panels/multi/MultiPanelNGX.h"
@@ -47,13 +47,13 @@ class cMultiPanelLogic final : public cPanelLogic {
     void ApplyRotAcceleration();
     void ApplyTrimAcceleration();
     void RegisterOffsets();
-    void RegisterNGXLights();
     uint8_t Lights() const;
     bool SecondCourse() const;
 
     template <class NGX, class Standard>
     void Do(const ActionRecord& record, int times, NGX ngx, Standard standard);
     void PressButton(int32_t button, const ActionRecord& record, uint8_t ngxRow);
+    void PressMaddog(std::function<void()> press);
     bool SetThrottleNGX(bool armed);
 
     cSession& session_;
@@ -63,7 +63,8 @@ class cMultiPanelLogic final : public cPanelLogic {
     OffsetRows offsets_;
     // In the NGX mode each panel has lights of its own, as the functions of its buttons are.
     std::array<std::string, kMultiPanelLights> lightNames_;
-    std::vector<NamedOffset> lights_;
+    std::array<OffsetRow, kMultiPanelLights> lightRows_;
+    OffsetRows lights_;
     MasterPower power_;
     MultiPanelMaddog maddog_;
     MultiPanelNGX ngx_;

@@ -58,10 +58,10 @@ void RadioAdf::Show(uint8_t mode, uint8_t side, std::string& active, std::string
     }
 }
 
-void RadioAdf::Click(uint8_t mode, uint8_t side, bool read) {
+void RadioAdf::Click(uint8_t mode, uint8_t side) {
     if (mode == Mode::kBoth) {
         tuned_ = tuned_ == 1 ? 2 : 1;
-    } else if (mode > Mode::kBoth && mode < Mode::kModes && read) {
+    } else if (mode > Mode::kBoth && mode < Mode::kModes) {
         PrepareStandby();
         const size_t adf = AdfOf(mode, side);
         std::swap(session_.AdfActive[adf], session_.AdfStandby[adf]);

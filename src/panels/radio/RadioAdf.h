@@ -19,9 +19,8 @@ class RadioAdf {
     void Read();
     void Show(uint8_t mode, uint8_t side, std::string& active, std::string& standby);
 
-    // `read`: whether a tick has read the frequencies, without which none is swapped.
-    void Click(uint8_t mode, uint8_t side, bool read);
-    // Only once a tick has read. `stepKHz` for each of `steps`, which are negative for down.
+    // Both only once a tick has read. `stepKHz` for each of `steps`, which are negative for down.
+    void Click(uint8_t mode, uint8_t side);
     void Turn(uint8_t mode, uint8_t side, float stepKHz, int32_t steps);
 
   private:

@@ -23,7 +23,7 @@ class RadioTransponder {
 
     void NextDigit() { digit_ = static_cast<uint8_t>(digit_ % 4 + 1); }
     void ToggleUnit();
-    // Both only once a tick has read.
+    // Turn what a tick has to have read before.
     void TurnDigit(bool up);
     void TurnAltimeter(bool up);
 

@@ -62,7 +62,8 @@ void cRadioPanelLogic::ClickStandard(Row& row) {
             Swap(static_cast<size_t>(row.selectorPos - RadioPosition::kCOM1));
             break;
         case RadioPosition::kADF:
-            adf_.Click(RPActions->ADFMode, row.side, values_.AreRead());
+            OnceRead(
+                [this, mode = RPActions->ADFMode, side = row.side] { adf_.Click(mode, side); });
             break;
         case RadioPosition::kDME:
             if (RPActions->DMEMode == 0)
@@ -102,22 +103,40 @@ void cRadioPanelLogic::Rotary(int16_t Rotary, int16_t Direction, uint8_t Side, u
     }
 }
 
+// What starts from the radios' values is done once a tick has read them.
+void cRadioPanelLogic::OnceRead(std::function<void()> act) {
+    session_.Acts.Do([this, act = std::move(act)] {
+        if (values_.AreRead()) act();
+        return values_.AreRead();
+    });
+}
+
 void cRadioPanelLogic::TurnStandard(const Row& row, bool outer, bool up, uint8_t speed) {
-    if (!values_.AreRead()) return;
     const int32_t steps = up ? speed : -speed;
     switch (row.selectorPos) {
         case RadioPosition::kCOM1:
         case RadioPosition::kCOM2:
         case RadioPosition::kNAV1:
-        case RadioPosition::kNAV2:
-            TuneChannel(static_cast<size_t>(row.selectorPos - RadioPosition::kCOM1), outer, steps);
+        case RadioPosition::kNAV2: {
+            const auto channel = static_cast<size_t>(row.selectorPos - RadioPosition::kCOM1);
+            OnceRead([=, this] { TuneChannel(channel, outer, steps); });
             break;
-        case RadioPosition::kADF:
-            adf_.Turn(RPActions->ADFMode, row.side,
-                      outer ? RPActions->ADFOuterKnobStep : RPActions->ADFInnerKnobStep, steps);
+        }
+        case RadioPosition::kADF: {
+            const float step = outer ? RPActions->ADFOuterKnobStep : RPActions->ADFInnerKnobStep;
+            OnceRead([=, this, mode = RPActions->ADFMode, side = row.side] {
+                adf_.Turn(mode, side, step, steps);
+            });
             break;
+        }
         case RadioPosition::kXPDR:
-            outer ? transponder_.TurnAltimeter(up) : transponder_.TurnDigit(up);
+            if (outer && session_.SpecialMode == kNGXMode) {
+                transponder_.TurnAltimeter(up);
+            } else {
+                OnceRead([=, this] {
+                    outer ? transponder_.TurnAltimeter(up) : transponder_.TurnDigit(up);
+                });
+            }
             break;
         default:
             break;

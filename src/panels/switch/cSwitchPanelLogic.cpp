@@ -26,7 +26,10 @@ void cSwitchPanelLogic::StartUp() {
     SetupChanged();
 }
 
-void cSwitchPanelLogic::SetupChanged() { offsets_.RegisterMode(session_.SpecialMode); }
+void cSwitchPanelLogic::SetupChanged() {
+    offsets_.RegisterMode(session_.SpecialMode);
+    values_.Forget();
+}
 
 // FS2004 doesn't tell whether the gear is retractable.
 bool cSwitchPanelLogic::GearShown() const {

@@ -12,6 +12,7 @@ constexpr int kFirstJoystick = 64;
 constexpr int kLastJoystick = 72;
 constexpr int kButtonsOfJoystick = 32;
 constexpr int32_t kControls = 0x3110;
+constexpr uint32_t kClickMs = 1;
 constexpr uint32_t kPressMs = 50;
 constexpr uint32_t kRepetitionMs = 1000;
 
@@ -35,8 +36,10 @@ EventOutput::EventOutput(cSession& session, KeyboardPort& keyboard, MessageLoop&
       fsuipc_(session.Fsuipc),
       keyboard_(keyboard),
       loop_(loop),
+      timerClicks_(loop, kClickMs),
       timerRelease_(loop, kPressMs),
-      taken_(fsuipc_.Taken.Connect([this] { BeginRepetitions(); })) {
+      taken_(fsuipc_.Taken.Connect([this] { BeginTimes(); })) {
+    timerClicks_.Tick.Connect([this] { ClickNext(); });
     timerRelease_.Tick.Connect([this] { ReleaseInTime(); });
 }
 
@@ -69,7 +72,9 @@ std::optional<uint32_t> EventOutput::ReadButtons(uint8_t joystick) {
 
 void EventOutput::SessionLost() {
     repetitions_.clear();
-    session_.Acts.SessionLost();
+    clicks_.clear();
+    timerClicks_.SetEnabled(false);
+    session_.Acts.Drop(PendingActs::Lasts::Session);
     if (!presses_.empty()) SetVirtualButton(presses_.front(), false, false);
     presses_.clear();
     timerRelease_.SetEnabled(false);
@@ -98,14 +103,26 @@ void EventOutput::PressForAWhile(const ActionRecord& record) {
     if (presses_.size() == 1) Press();
 }
 
-// It goes out at once: its time begins.
+// It goes out at once.
 void EventOutput::Press() {
-    SetVirtualButton(presses_.front(), true, true);
-    timerRelease_.SetEnabled(true);
+    pressed_ = false;
+    session_.Acts.Do([this] { return PressFirst(); }, PendingActs::Lasts::Session);
+    int32_t result = 0;
+    if (session_.Acts.Empty()) static_cast<void>(fsuipc_.ProcessForEvent(result));
+}
+
+bool EventOutput::PressFirst() {
+    const ActionRecord& first = presses_.front();
+    pressed_ = ChangeButton(first.VJoystickOrKeyCode, first.VButtonOrKeyQualifiers, true);
+    return pressed_;
+}
+
+void EventOutput::BeginTimes() {
+    for (Repetition& each : repetitions_) each.timer.SetEnabled(true);
+    if (!presses_.empty() && pressed_) timerRelease_.SetEnabled(true);
 }
 
 void EventOutput::ReleaseInTime() {
-    if (!session_.Acts.Empty()) return;  // the press may wait among them: its time is to come
     SetVirtualButton(presses_.front(), false, false);
     presses_.pop_front();
     timerRelease_.SetEnabled(false);
@@ -146,10 +163,6 @@ void EventOutput::SendControlTwice(int32_t Control, int32_t Parameter) {
     place->timer.Tick.Connect([this, place] { Repeat(place); });
 }
 
-void EventOutput::BeginRepetitions() {
-    for (Repetition& each : repetitions_) each.timer.SetEnabled(true);
-}
-
 void EventOutput::Repeat(std::list<Repetition>::iterator repetition) {
     const auto [control, parameter] = std::pair(repetition->control, repetition->parameter);
     repetitions_.erase(repetition);
@@ -161,20 +174,29 @@ void EventOutput::DropSecond(int32_t Control) {
 }
 
 void EventOutput::SendAction(ActionRecord record, int times) {
+    if (record.FSEvent == ActionKind::VKey) SendKeyStrokes(record, times);
+    if (record.FSEvent != ActionKind::VButton || times < 1) return;
+    clicks_.push_back({record, times});
+    if (clicks_.size() == 1) ClickNext();
+}
+
+void EventOutput::SendKeyStrokes(const ActionRecord& record, int times) {
+    const uint32_t link = session_.Link;
     for (int i = 0; i < times; ++i) {
-        if (i > 0 && record.FSEvent == ActionKind::VButton) loop_.RunPending();
-        const bool lost = i > 0 && !session_.FSConnected;
-        if (lost || !SendOnce(record)) return;
+        const bool lost = !session_.FSConnected || session_.Link != link;
+        if (i > 0 && lost) return;
+        SendKeyStroke(record.VJoystickOrKeyCode, record.VButtonOrKeyQualifiers);
     }
 }
 
-bool EventOutput::SendOnce(const ActionRecord& record) {
-    if (record.FSEvent == ActionKind::VKey) {
-        SendKeyStroke(record.VJoystickOrKeyCode, record.VButtonOrKeyQualifiers);
-        return true;
+// What waits for the simulator comes first; the clicks go on with a tick then.
+void EventOutput::ClickNext() {
+    const bool waits = !session_.Acts.Empty();
+    if (!clicks_.empty() && !waits) {
+        Clicks& first = clicks_.front();
+        SetVirtualButton(first.record, true, false);
+        SetVirtualButton(first.record, false, false);
+        if (--first.left == 0) clicks_.pop_front();
     }
-    if (record.FSEvent != ActionKind::VButton) return false;
-    SetVirtualButton(record, true, false);
-    SetVirtualButton(record, false, false);
-    return session_.Acts.Empty();
+    timerClicks_.SetEnabled(!clicks_.empty() && session_.Acts.Empty());
 }

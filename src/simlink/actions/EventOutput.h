@@ -49,10 +49,15 @@ class EventOutput {
     void DropSecond(int32_t Control);
 
     // Does `times` times what a VButton record (press and release) or a VKey record says, as long
-    // as the simulator answers and the session lasts; no button is left down. Nothing for other
-    // records. Lets pending messages run between the times. The record is a copy: its holder may be
-    // loaded anew on the way.
+    // as the session lasts; nothing for other records. The first click of a virtual button is made
+    // at once, the others follow, one a millisecond or slower, and those of later calls behind
+    // them: the caller goes on meanwhile. Keystrokes let pending messages run. The record is a
+    // copy: its holder may be loaded anew on the way.
     void SendAction(ActionRecord record, int times = 1);
+    // A tick is done: clicks that waited for the simulator go on.
+    void TickDone() {
+        if (!timerClicks_.Enabled()) ClickNext();
+    }
 
     // The session has ended: nothing that was begun goes on in another one, but that what is down
     // comes up.
@@ -66,10 +71,11 @@ class EventOutput {
     std::optional<uint32_t> ReadButtons(uint8_t joystick);
     // False when it can't be made now.
     bool ChangeButton(uint8_t joystick, uint8_t button, bool state);
-    // False when there is no use in going on.
-    bool SendOnce(const ActionRecord& record);
+    void SendKeyStrokes(const ActionRecord& record, int times);
+    void ClickNext();
     void PressForAWhile(const ActionRecord& record);
     void Press();
+    bool PressFirst();
     void ReleaseInTime();
 
     // The second sending of a control. Its time begins when the first one has been taken.
@@ -80,15 +86,23 @@ class EventOutput {
         int32_t parameter;
         Timer timer;
     };
-    void BeginRepetitions();
+    // The simulator has taken what was sent: times that count from then begin.
+    void BeginTimes();
     void Repeat(std::list<Repetition>::iterator repetition);
 
     cSession& session_;
     modFSUIPC& fsuipc_;
     KeyboardPort& keyboard_;
     MessageLoop& loop_;
-    std::deque<ActionRecord> presses_;  // the first one is down, the others wait
-    Timer timerRelease_;                // runs only while there are presses
+    struct Clicks {
+        ActionRecord record;
+        int left;
+    };
+    std::deque<Clicks> clicks_;
+    Timer timerClicks_;                 // runs only while there are clicks to make
+    std::deque<ActionRecord> presses_;  // the first one is down, or about to be; the others wait
+    bool pressed_ = false;              // the first one's press is on its way to the simulator
+    Timer timerRelease_;                // runs only while the first one is down
     std::list<Repetition> repetitions_;
     ScopedConnection taken_;
 };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <deque>
 #include <functional>
 
@@ -8,12 +9,13 @@
 class PendingActs {
   public:
     using Act = std::function<bool()>;
-    // An act of a lost session is of no use in the next one, unless it is to let something go.
-    enum class Lasts : bool { Session, Program };
+    // How long an act is of use: built-in behaviour as long as bindings and mode are the same, a
+    // press as long as the session, what lets something go until it is done.
+    enum class Lasts : uint8_t { Binding, Session, Program };
 
     // Does it now, or when all that waits is done. `act` gives false, and has done nothing, when it
     // can't be carried out yet.
-    void Do(const Act& act, Lasts lasts = Lasts::Session) {
+    void Do(const Act& act, Lasts lasts = Lasts::Binding) {
         if (!acts_.empty() || !act()) acts_.push_back({act, lasts});
     }
     bool Empty() const { return acts_.empty(); }
@@ -24,8 +26,9 @@ class PendingActs {
         acts_.pop_front();
         return true;
     }
-    void SessionLost() {
-        std::erase_if(acts_, [](const Waiting& each) { return each.lasts == Lasts::Session; });
+    // Bindings or mode have changed, or the session is lost: drops the acts that last as long.
+    void Drop(Lasts ended) {
+        std::erase_if(acts_, [ended](const Waiting& each) { return each.lasts <= ended; });
     }
 
   private:

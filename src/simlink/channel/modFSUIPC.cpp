@@ -176,19 +176,18 @@ bool modFSUIPC::ProcessForEvent(int32_t& result) {
 
 bool modFSUIPC::Exchange(int32_t& result, bool keepWrites) {
     allRead_ = false;
-    const bool taken = SendBatch(result);
-    const bool done = taken && UnpackReplies();
+    taken_ = false;
+    const bool done = SendBatch(result) && UnpackReplies();
     if (done) result = kFsuipcOk;
-    if (!taken && keepWrites) {
+    if (!taken_ && keepWrites) {
         KeepWrites();
     } else {
         EmptyBatch();
     }
-    if (taken) Taken.Raise();
+    if (taken_) Taken.Raise();
     return done;
 }
 
-// True when the simulator has taken the batch over.
 bool modFSUIPC::SendBatch(int32_t& result) {
     if (!view_ || next_ == 0) {
         result = view_ ? kFsuipcEmptyBatch : kFsuipcNotOpen;
@@ -198,11 +197,8 @@ bool modFSUIPC::SendBatch(int32_t& result) {
     uintptr_t reply = 0;
     answers_ = SendMessages(reply, result);
     if (!answers_) return false;
-    if (reply != 1) {
-        result = kFsuipcBadReply;
-        return false;
-    }
-    return true;
+    if (reply != 1) result = kFsuipcBadReply;
+    return reply == 1;
 }
 
 void modFSUIPC::EmptyBatch() {
@@ -240,7 +236,8 @@ bool modFSUIPC::SendMessages(uintptr_t& reply, int32_t& result) {
         clock_.Sleep(kRepeatPauseMs);
         answered = send();
     }
-    // A simulator that answers only now is too slow to fly with.
+    taken_ = answered && reply == 1;
+    // A simulator that answers only at the last repeat is too slow to fly with.
     if (repeats < kRepeats) return true;
     result = channel_.GetLastError() != 0 ? kFsuipcNoAnswerError : kFsuipcNoAnswer;
     return false;

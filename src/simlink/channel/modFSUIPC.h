@@ -61,8 +61,9 @@ class modFSUIPC {
     bool FSUIPC_Process(int32_t& result);
 
     // The same on behalf of an event, between two ticks, after which the session may well go on:
-    // writes that the simulator hasn't taken stay in the batch, for the next exchange. While it
-    // doesn't answer nothing is sent, so that the steps of an event don't each wait in vain.
+    // writes that the simulator hasn't taken, that is answered with success, stay in the batch for
+    // the next exchange. While it doesn't answer nothing is sent, so that the steps of an event
+    // don't each wait in vain.
     [[nodiscard]] bool ProcessForEvent(int32_t& result);
 
     // False when the last exchange ran out of time. The next one may take as long again, so what
@@ -110,4 +111,5 @@ class modFSUIPC {
     std::vector<Record> records_;
     bool answers_ = true;
     bool allRead_ = false;
+    bool taken_ = false;
 };

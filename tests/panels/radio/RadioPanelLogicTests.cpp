@@ -223,11 +223,16 @@ TEST_F(RadioPanelFlight, KnobsStartFromWhatATickHasRead) {
         MoveSelectorTo(ADF), TurnOuter(+1), At(Lower), MoveSelectorTo(ADF), TurnOuter(+1), Click();
         At(Upper);
     };
-    turnAll(), ExpectSent(kNothing);
-    turnAll(), ExpectSent(WroteWord(kNAV1Standby, 0x1035) + WroteWord(kXPDR, 0x0200) +
-                          WroteWord(kAltimeter, 0x3E84) + WroteADF1(0x347, 0x0));
+    turnAll();
+    EXPECT_EQ(told, kNothing) << "nothing is known before the first tick";
+    ExpectSent(WroteWord(kNAV1Standby, 0x1035) + WroteWord(kXPDR, 0x0200) +
+               WroteWord(kAltimeter, 0x3E84) + WroteADF1(0x347, 0x0));
     RadioLogic().SetupChanged();
-    turnAll(), ExpectSent(kNothing);
+    Simulator(kNAV1Standby, 0x1100), Simulator(kXPDR, 0x4200), Simulator(kAltimeter, 0x3F00);
+    turnAll();
+    EXPECT_EQ(told, kNothing) << "nor of a new mode";
+    ExpectSent(WroteWord(kNAV1Standby, 0x1105) + WroteWord(kXPDR, 0x3200) +
+               WroteWord(kAltimeter, 0x3F04) + WroteADF1(0x347, 0x0));
 }
 
 TEST_F(RadioPanelLogicTest, RecordsGoOutInsteadOfTheBuiltInBehaviour) {
