@@ -21,7 +21,7 @@ void Require(bool holds) {
 }
 
 ProfileStore Started(VirtualPlatform& machine) {
-    ProfileStore profiles(machine.ini, machine.files, "C:\\Orvo");
+    ProfileStore profiles(machine.ini, machine.files, machine.clock, "C:\\Orvo");
     profiles.LoadProfileList();
     profiles.LoadAircraftList();
     return profiles;
@@ -75,7 +75,7 @@ void CheckBindings(const std::string& section, const std::string& text,
                    void (*check)(const Holder& loaded, const Holder& again) = nullptr) {
     VirtualPlatform machine;
     machine.files.Put("C:\\Orvo\\Default.ini", section + text);
-    ProfileStore profiles(machine.ini, machine.files, "C:\\Orvo");
+    ProfileStore profiles(machine.ini, machine.files, machine.clock, "C:\\Orvo");
     Holder holder(profiles), again(profiles);
     holder.Index = again.Index = 1;
     holder.LoadSetup();

@@ -52,7 +52,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     VirtualPlatform machine;
     HeadlessUi ui;
     Form form(ui);
-    const cSetupHolder setup(machine.ini, machine.files, machine.registry, "C:\\Orvo");
+    const cSetupHolder setup(machine.ini, machine.files, machine.clock, machine.registry,
+                             "C:\\Orvo");
     const DeviceServices services = {machine.clock, machine.loop, machine.hid, machine.deckhub,
                                      setup};
     VirtualDevice* devices[] = {&machine.bus.Add(0x06A3, 0x0D06, "multi"),

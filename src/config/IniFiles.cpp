@@ -1,6 +1,7 @@
 #include "config/IniFiles.h"
 
 #include <algorithm>
+#include <map>
 
 #include "base/Number.h"
 #include "base/Text.h"
@@ -19,18 +20,17 @@ IniText TextOf(const std::string& bytes) {
                           : IniText(bytes);
 }
 
-bool HasKey(const IniEntries& entries, const std::string& key) {
-    return std::ranges::find(entries, key, &IniEntries::value_type::first) != entries.end();
-}
-
 // Only what differs is touched: a key with characters that 8-bit text hasn't can't be written
 // again.
 bool WriteDifferences(IniSection& keys, const IniEntries& before, const IniEntries& after) {
+    const std::map<std::string, std::string> old(before.begin(), before.end());
+    const std::map<std::string, std::string> now(after.begin(), after.end());
     for (const auto& [key, value] : before) {
-        if (!HasKey(after, key) && !keys.Delete(key)) return false;
+        if (!now.contains(key) && !keys.Delete(key)) return false;
     }
     return std::ranges::all_of(after, [&](const auto& entry) {
-        const bool there = std::ranges::find(before, entry) != before.end();
+        const auto found = old.find(entry.first);
+        const bool there = found != old.end() && found->second == entry.second;
         return there || keys.Set(entry.first, entry.second);
     });
 }

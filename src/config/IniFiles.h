@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <optional>
 #include <string>
@@ -8,6 +9,9 @@
 #include "base/IniText.h"
 #include "config/cInifile.h"
 #include "platform/FilePort.h"
+
+// How long a save that the user has asked for waits for a file that another program holds.
+inline constexpr uint32_t kSavePatienceMs = 200;
 
 // One section of a file that is being saved.
 class IniSection {

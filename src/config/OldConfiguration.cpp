@@ -35,15 +35,14 @@ std::string KeepUnderFreeName(FilePort& files, const std::string& folder, const 
     return {};
 }
 
-void Convert(FilePort& files, const std::string& folder) {
+// Where a file can't be renamed all stays as it is, and the next start asks again.
+bool Convert(FilePort& files, const std::string& folder) {
     const std::string old = folder + "\\Orvo.ini";
     const std::string profile = folder + "\\Default.ini";
-    if (!files.Exists(profile)) {
-        files.Rename(old, profile);
-        return;
-    }
+    if (!files.Exists(profile)) return files.Rename(old, profile);
     const std::string kept = KeepUnderFreeName(files, folder, profile);
-    if (!kept.empty() && !files.Rename(old, profile)) files.Rename(kept, profile);
+    if (kept.empty()) return false;
+    return files.Rename(old, profile) || !files.Rename(kept, profile);
 }
 
 }  // namespace
@@ -52,9 +51,10 @@ bool ConvertOldConfiguration(IniService& ini, FilePort& files, UiBackend& ui,
                              const std::string& programFolder, Patience& patience) {
     const IniFiles reader(ini, files);
     std::optional<IniText> text;
-    patience.Try([&] { return (text = reader.Read(programFolder + "\\Orvo.ini")).has_value(); });
-    if (!text || !IsOld(*text)) return true;
+    const bool read = patience.Try(
+        [&] { return (text = reader.Read(programFolder + "\\Orvo.ini")).has_value(); });
+    if (!read || !IsOld(*text)) return true;
     if (ui.MsgBox(kQuestion) == MsgBoxResult::Cancel) return false;
-    Convert(files, programFolder);
+    static_cast<void>(Convert(files, programFolder));
     return true;
 }

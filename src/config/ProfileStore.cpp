@@ -5,6 +5,7 @@
 
 #include "base/Text.h"
 #include "config/IniKey.h"
+#include "platform/Patience.h"
 
 namespace {
 
@@ -27,8 +28,10 @@ bool IsReserved(std::string_view name) {
 
 }  // namespace
 
-ProfileStore::ProfileStore(IniService& ini, FilePort& files, std::string programFolder)
+ProfileStore::ProfileStore(IniService& ini, FilePort& files, Clock& clock,
+                           std::string programFolder)
     : files_(ini, files),
+      clock_(clock),
       programFolder_(std::move(programFolder)),
       path_(programFolder_ + '\\' + kGlobalFile + ".ini") {}
 
@@ -75,7 +78,7 @@ bool ProfileStore::ReadAircraftList() {
 bool ProfileStore::ReadWhatIsMissing() {
     if (!profilesWhole_) profilesWhole_ = ReadProfileList();
     if (!aircraftsWhole_) aircraftsWhole_ = ReadAircraftList();
-    return profilesWhole_ && aircraftsWhole_;
+    return ListsAreRead();
 }
 
 bool ProfileStore::SaveProfileList() {
@@ -164,7 +167,9 @@ std::optional<IniEntries> ProfileStore::ReadProfile(const std::string& section) 
 bool ProfileStore::SaveProfile(const std::string& section,
                                const std::function<bool(IniSection&)>& write) {
     if (!ProfileNameValid(CurrentProfile) || IsReserved(CurrentProfile)) return false;
-    return files_.Save(ProfilePath(), section, write);
+    return Patience(clock_, kSavePatienceMs).Try([&] {
+        return files_.Save(ProfilePath(), section, write);
+    });
 }
 
 ProfileReading::ProfileReading(ProfileStore& profiles)

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "config/IniFiles.h"
+#include "platform/Clock.h"
 
 // The profiles, the aircraft that are bound to them, and the way to the profiles' files. Both lists
 // stand in Orvo.ini; each profile has a file of its own beside it, which comes into being with the
@@ -16,7 +17,7 @@
 // and ini keys do.
 class ProfileStore {
   public:
-    ProfileStore(IniService& ini, FilePort& files, std::string programFolder);
+    ProfileStore(IniService& ini, FilePort& files, Clock& clock, std::string programFolder);
 
     std::string CurrentProfile = kDefault;
 
@@ -27,7 +28,9 @@ class ProfileStore {
     void LoadAircraftList();
     // Another program may hold the file at that moment: reads what is missing of the lists, if
     // anything is. False while the file can't be read; the lists then aren't whole.
-    bool ReadWhatIsMissing();
+    [[nodiscard]] bool ReadWhatIsMissing();
+    // Whether both lists have been read.
+    bool ListsAreRead() const { return profilesWhole_ && aircraftsWhole_; }
     // The whole list or, when the file can't be written or hasn't been read, nothing; false then.
     [[nodiscard]] bool SaveProfileList();
     [[nodiscard]] bool SaveAircraftList();
@@ -59,7 +62,7 @@ class ProfileStore {
     bool ProfileReadable() const { return ProfileText().has_value(); }
     // Changes a section of the current profile's file. What `write` does through what it is given
     // arrives as a whole, or not at all when it gives false or the file can't be written; false
-    // then.
+    // then. Waits a moment for a file that is held.
     [[nodiscard]] bool SaveProfile(const std::string& section,
                                    const std::function<bool(IniSection&)>& write);
 
@@ -86,6 +89,7 @@ class ProfileStore {
     bool SaveList(const char* section, IniEntries entries, IniEntries& inFile);
 
     const IniFiles files_;
+    Clock& clock_;
     const std::string programFolder_;
     const std::string path_;
     std::vector<std::string> profileNames_{kDefault};

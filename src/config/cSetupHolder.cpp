@@ -6,6 +6,7 @@
 
 #include "base/Number.h"
 #include "config/cRegistry.h"
+#include "platform/Patience.h"
 
 namespace {
 
@@ -94,9 +95,10 @@ bool Write(const cSetupHolder& holder, const Field& field, IniSection& keys) {
 
 }  // namespace
 
-cSetupHolder::cSetupHolder(IniService& ini, FilePort& files, RegistryPort& registry,
+cSetupHolder::cSetupHolder(IniService& ini, FilePort& files, Clock& clock, RegistryPort& registry,
                            std::string programFolder)
     : files_(ini, files),
+      clock_(clock),
       registry_(registry),
       programFolder_(std::move(programFolder)),
       path_(programFolder_ + "\\Orvo.ini") {
@@ -141,7 +143,11 @@ bool cSetupHolder::ReadWhatIsMissing() {
     return true;
 }
 
-bool cSetupHolder::SaveSetup() {
+bool cSetupHolder::SaveSetup(uint32_t patienceMs) {
+    return Patience(clock_, patienceMs).Try([this] { return TrySave(); });
+}
+
+bool cSetupHolder::TrySave() {
     if (!ReadWhatIsMissing()) return false;
     SaveAutoStart();
     const bool saved = files_.Save(path_, kSection, [this](IniSection& keys) {

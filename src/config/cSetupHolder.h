@@ -5,13 +5,14 @@
 #include <vector>
 
 #include "config/IniFiles.h"
+#include "platform/Clock.h"
 #include "platform/RegistryPort.h"
 
 // The options that don't depend on a profile: section "GeneralSetup" of Orvo.ini in the program's
 // folder, and the entry that starts the program at logon.
 class cSetupHolder {
   public:
-    cSetupHolder(IniService& ini, FilePort& files, RegistryPort& registry,
+    cSetupHolder(IniService& ini, FilePort& files, Clock& clock, RegistryPort& registry,
                  std::string programFolder);
 
     bool AutoStart = false;
@@ -48,18 +49,21 @@ class cSetupHolder {
     // Whether a reading has succeeded yet.
     bool IsRead() const { return read_; }
 
-    // All keys or, when the file can't be read or written, none; false then. The logon entry
-    // follows AutoStart, but not before the options have been read.
-    [[nodiscard]] bool SaveSetup();
+    // All keys or, when the file can't be read or written, none; false then. Waits up to
+    // `patienceMs` milliseconds for a file that is held. The logon entry follows AutoStart, but not
+    // before the options have been read.
+    [[nodiscard]] bool SaveSetup(uint32_t patienceMs = kSavePatienceMs);
 
   private:
     using Values = std::vector<int32_t>;
 
     Values AllValues() const;
     void SetAll(const Values& values);
+    bool TrySave();
     void SaveAutoStart();
 
     const IniFiles files_;
+    Clock& clock_;
     RegistryPort& registry_;
     const std::string programFolder_;
     const std::string path_;

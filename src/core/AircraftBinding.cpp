@@ -53,14 +53,18 @@ bool AircraftBinding::ReadLists() {
 // A window that is open now may hold the bindings that it was filled from.
 bool AircraftBinding::Waits() const {
     if (binding_ || parts_.windows.ModalWindowOpen) return false;
-    return unsaved_ || parts_.profiles.ProfileMissed() ||
+    return unsaved_ || parts_.profiles.ProfileMissed() || !parts_.profiles.ListsAreRead() ||
            (unsettled_ && parts_.session.FSConnected);
 }
 
 void AircraftBinding::TryAgain() {
     if (!Waits()) return;
     binding_ = true;
-    if (unsettled_ && parts_.session.FSConnected) Settle();
+    if (unsettled_ && parts_.session.FSConnected) {
+        Settle();
+    } else if (!parts_.profiles.ListsAreRead() && ReadLists()) {
+        SelectCurrentProfile();
+    }
     if (parts_.profiles.ProfileMissed()) ApplyProfile();
     SaveLists();
     binding_ = false;

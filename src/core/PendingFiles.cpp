@@ -6,7 +6,7 @@
 namespace {
 
 constexpr uint32_t kAgainMs = 500;
-constexpr uint32_t kPatienceMs = 500;
+constexpr uint32_t kEndPatienceMs = 500;
 
 }  // namespace
 
@@ -26,12 +26,23 @@ void PendingFiles::Tick() {
     lastTry_ = now;
     if (optionsWait_ && setup_.ReadWhatIsMissing()) {
         optionsWait_ = false;
-        ApplyProcessSettings(process_, setup_);
+        ApplyLate();
     }
     binding_.TryAgain();
 }
 
+// The automatic choice of processors was made at the start, of all that there are.
+void PendingFiles::ApplyLate() {
+    SetProcessPriority(process_, 0, 0, static_cast<uint32_t>(setup_.OrvoPriority));
+    if (setup_.OrvoAffinity != kAutomaticAffinity) {
+        SetProcessAffinity(process_, setup_.OrvoAffinity);
+    }
+}
+
+// What the disk refuses to the last is lost; the files stay as they were.
 void PendingFiles::SaveAll() {
-    Patience patience(clock_, kPatienceMs);
-    patience.Try([this] { return binding_.SaveLists() && setup_.SaveSetup(); });
+    static_cast<void>(Patience(clock_, kEndPatienceMs).Try([this] {
+        return binding_.SaveLists();
+    }));
+    static_cast<void>(setup_.SaveSetup(kEndPatienceMs));
 }

@@ -15,10 +15,13 @@ class PendingFiles {
     // For every tick: costs nothing while nothing waits, and touches files twice a second at most.
     void Tick();
 
-    // Saves options and lists. Waits for a held file, half a second at most.
+    // Saves options and lists. Waits for a held file, about half a second for each of
+    // the two.
     void SaveAll();
 
   private:
+    void ApplyLate();
+
     Clock& clock_;
     ProcessPort& process_;
     cSetupHolder& setup_;

@@ -4,7 +4,6 @@ namespace {
 
 constexpr uint32_t kSetAndQuery = 0x600;
 constexpr uint32_t kQuery = 0x400;
-constexpr int32_t kAutomatic = -1;
 constexpr uint64_t kThirdToSixteenth = 65532;
 
 }  // namespace
@@ -27,7 +26,7 @@ uint32_t SetProcessPriority(ProcessPort& process, uint32_t processId, uintptr_t 
 }
 
 uint64_t ChooseAffinity(int32_t option, uint64_t processMask) {
-    if (option != kAutomatic) return static_cast<uint32_t>(option);
+    if (option != kAutomaticAffinity) return static_cast<uint32_t>(option);
     if (processMask >= 15) {
         const uint64_t chosen = processMask & kThirdToSixteenth;
         return chosen != 0 ? chosen : processMask;
@@ -38,7 +37,7 @@ uint64_t ChooseAffinity(int32_t option, uint64_t processMask) {
 
 void SetProcessAffinity(ProcessPort& process, int32_t option) {
     uint64_t mask = 0;
-    if (!process.GetProcessAffinityMask(mask) && option == kAutomatic) return;
+    if (!process.GetProcessAffinityMask(mask) && option == kAutomaticAffinity) return;
     process.SetProcessAffinityMask(ChooseAffinity(option, mask));
 }
 

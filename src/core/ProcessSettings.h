@@ -5,6 +5,8 @@
 #include "config/cSetupHolder.h"
 #include "platform/ProcessPort.h"
 
+inline constexpr int32_t kAutomaticAffinity = -1;
+
 // Sets the priority class of a process: of `processId`, or of the process of `window` when that is
 // 0, or of the current one when both are. Gives the class that the process has afterwards; 0 when
 // it can't be opened at all.

@@ -92,6 +92,7 @@ void frmMain::LoadForm() {
     Height = 4208;
     PlaceForm(*this, services_.generalSetup.MainFormLeft, services_.generalSetup.MainFormTop,
               services_.monitorRects, services_.platform.screen);
+    if (!services_.generalSetup.IsRead()) placedBlind_ = {Left, Top};
     Load();
 }
 
@@ -184,8 +185,11 @@ void frmMain::AskQuit() {
 }
 
 void frmMain::SavePosition() {
-    services_.generalSetup.MainFormTop = Top;
-    services_.generalSetup.MainFormLeft = Left;
+    // A place that nobody chose isn't saved over the one in a file that couldn't be read.
+    if (placedBlind_ != std::pair<int32_t, int32_t>(Left, Top)) {
+        services_.generalSetup.MainFormTop = Top;
+        services_.generalSetup.MainFormLeft = Left;
+    }
     Files.SaveAll();
 }
 

@@ -4,7 +4,9 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "config/ProfileStore.h"
@@ -99,6 +101,8 @@ class frmMain : public Form {
     const MainServices services_;
     ScopedConnection trayDblClick_;
     int32_t previousTab_ = 1;
+    // Left and top that the window got before the options could be read.
+    std::optional<std::pair<int32_t, int32_t>> placedBlind_;
     // Logics of a closed window: they may have been closed from within one of their own calls.
     std::vector<std::unique_ptr<cPanelLogic>> releasedLogics_;
 };

@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr uint32_t kPatienceMs = 500;
+constexpr uint32_t kStartPatienceMs = 500;
 
 const MsgBoxRequest kNoFolder = {
     "Orvo can't reach its own folder, whose name has letters that this system's programs can't "
@@ -19,14 +19,14 @@ const MsgBoxRequest kNoFolder = {
 }  // namespace
 
 modMain::modMain(const Platform& platform, UiBackend& ui)
-    : GeneralSetup(platform.ini, platform.files, platform.registry,
+    : GeneralSetup(platform.ini, platform.files, platform.clock, platform.registry,
                    platform.process.ProgramFolder()),
-      Profiles(platform.ini, platform.files, platform.process.ProgramFolder()),
+      Profiles(platform.ini, platform.files, platform.clock, platform.process.ProgramFolder()),
       Session(platform.ipc, platform.clock),
       Output(Session, platform.keyboard, platform.loop),
       platform_(platform),
       ui_(ui),
-      patience_(platform.clock, kPatienceMs) {}
+      patience_(platform.clock, kStartPatienceMs) {}
 
 bool modMain::Main() {
     monitorRects_ = platform_.screen.EnumDisplayMonitors();
@@ -69,7 +69,8 @@ bool modMain::AlreadyRunning() {
 
 void modMain::ReadOptions() {
     if (platform_.process.ProgramFolder().find('?') != std::string::npos) ui_.MsgBox(kNoFolder);
-    if (!patience_.Try([this] { return GeneralSetup.LoadSetup(); })) return;
+    // Those that can't be read yet have their defaults, and come later.
+    static_cast<void>(patience_.Try([this] { return GeneralSetup.LoadSetup(); }));
     ApplyProcessSettings(platform_.process, GeneralSetup);
 }
 
@@ -77,6 +78,6 @@ void modMain::ReadOptions() {
 void modMain::ReadProfiles() {
     Profiles.LoadProfileList();
     Profiles.LoadAircraftList();
-    patience_.Try([this] { return Profiles.ReadWhatIsMissing(); });
-    patience_.Try([this] { return Profiles.ProfileReadable(); });
+    static_cast<void>(patience_.Try(
+        [this] { return Profiles.ReadWhatIsMissing() && Profiles.ProfileReadable(); }));
 }

@@ -14,11 +14,11 @@ class FilePort {
     // it, as while another program holds it or writes to it.
     virtual std::optional<std::string> Read(const std::string& path) = 0;
     // Makes or overwrites the file. When it can't be written to its end it may be there in part.
-    virtual bool Write(const std::string& path, const std::string& content) = 0;
+    [[nodiscard]] virtual bool Write(const std::string& path, const std::string& content) = 0;
     // Puts `from` in the place of `to` in one step: whoever looks, at any moment and after any
     // crash, finds the old file or the new one.
-    virtual bool Replace(const std::string& from, const std::string& to) = 0;
+    [[nodiscard]] virtual bool Replace(const std::string& from, const std::string& to) = 0;
     // Only when there is no file `to` yet.
-    virtual bool Rename(const std::string& from, const std::string& to) = 0;
+    [[nodiscard]] virtual bool Rename(const std::string& from, const std::string& to) = 0;
     virtual bool Delete(const std::string& path) = 0;
 };

@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "config/cInifile.h"
+#include "config/ProfileStore.h"
 #include "config/cSetupHolder.h"
 #include "platform/virtual/VirtualPlatform.h"
 #include "simlink/devices/ButtonPress.h"
@@ -15,7 +16,7 @@ constexpr uint32_t kCurrentUser = 0x80000001;
 
 struct ConfigTest : testing::Test {
     VirtualPlatform machine;
-    cSetupHolder setup{machine.ini, machine.files, machine.registry, "C:\\Orvo"};
+    cSetupHolder setup{machine.ini, machine.files, machine.clock, machine.registry, "C:\\Orvo"};
 
     void Load(const std::string& content) {
         machine.files.Put(kPath, content);
@@ -209,6 +210,21 @@ TEST_F(ConfigTest, OptionsOfAHeldFileAreNeitherTakenForDefaultsNorLost) {
     machine.files.Hold(kPath);
     EXPECT_FALSE(setup.LoadSetup());
     EXPECT_TRUE(setup.AutoQuit) << "a cancelled change goes back to what was read before";
+}
+
+TEST_F(ConfigTest, SaveWaitsAMomentForAHeldFile) {
+    Load("[GeneralSetup]\r\nAutoQuit=1\r\n");
+    setup.MainFormTop = 300;
+    machine.files.Hold(kPath, 3);
+    EXPECT_TRUE(SavedHas("MainFormTop=300"));
+    ProfileStore profiles(machine.ini, machine.files, machine.clock, "C:\\Orvo");
+    machine.files.Put("C:\\Orvo\\Default.ini", "[Common]\r\nOther=1\r\n");
+    machine.files.Hold("C:\\Orvo\\Default.ini", 3);
+    EXPECT_TRUE(profiles.SaveProfile("Common", [](IniSection& keys) { return keys.Set("A", "1"); }));
+    machine.files.Hold(kPath);
+    const uint64_t before = machine.clock.Elapsed();
+    EXPECT_FALSE(setup.SaveSetup());
+    EXPECT_EQ(machine.clock.Elapsed() - before, kSavePatienceMs);
 }
 
 TEST_F(ConfigTest, WhateverHasTheNameOfTheCopyBlocksNoSave) {

@@ -16,7 +16,7 @@ struct ProfileStoreTest : testing::Test {
     // As a program that starts with what is there, or with `content`.
     ProfileStore Started(const std::string& content = "") {
         if (!content.empty()) machine.files.Put(kPath, content);
-        ProfileStore store(machine.ini, machine.files, "C:\\Orvo");
+        ProfileStore store(machine.ini, machine.files, machine.clock, "C:\\Orvo");
         store.LoadProfileList();
         store.LoadAircraftList();
         return store;

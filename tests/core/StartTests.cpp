@@ -181,7 +181,8 @@ TEST_F(StartTest, FilesThatAreHeldForAMomentAreWaitedFor) {
 }
 
 TEST_F(StartTest, OptionsThatAreHeldAtTheStartComeLater) {
-    const std::string options = "Splash=0\r\nAutoStart=1\r\nOrvoPriority=64\r\nOrvoAffinity=2\r\n";
+    const std::string options =
+        "Splash=0\r\nAutoStart=1\r\nMainFormLeft=450\r\nOrvoPriority=64\r\nOrvoAffinity=2\r\n";
     Plug(PanelKind::Multi);
     machine.registry.WriteValue(0x80000001, "Software\\Microsoft\\Windows\\CurrentVersion\\Run",
                                 "ORVO", 1, "C:\\Orvo\\Orvo.exe");
@@ -189,13 +190,25 @@ TEST_F(StartTest, OptionsThatAreHeldAtTheStartComeLater) {
     const uint64_t before = machine.clock.Elapsed();
     ASSERT_TRUE(Start(options));
     EXPECT_LE(machine.clock.Elapsed() - before, 500U + 1200U) << "half a second, and the splash";
-    EXPECT_EQ(machine.process.Affinity(), 0xFU);
+    EXPECT_EQ(machine.process.Affinity(), 12U) << "the automatic choice, until they are read";
     machine.loop.Advance(3000);
     machine.files.Hold("");
     machine.loop.Advance(1000);
     EXPECT_TRUE(program->GeneralSetup.AutoStart);
     EXPECT_EQ(machine.process.Priority(VirtualProcess::kProcessId), 64U);
     EXPECT_EQ(machine.process.Affinity(), 2U);
+    Window().Unload();
+    EXPECT_EQ(program->GeneralSetup.MainFormLeft, 450) << "nobody moved the window";
+}
+
+TEST_F(StartTest, ListsThatAreHeldAtTheStartAreThereBeforeAnAircraftIs) {
+    Plug(PanelKind::Multi);
+    machine.files.Hold("C:\\Orvo\\Orvo.ini");
+    ASSERT_TRUE(Start("Splash=0\r\n[Profiles]\r\nJet= \r\n"));
+    EXPECT_EQ(Window().cmbProfiles.ListCount(), 1);
+    machine.files.Hold("");
+    machine.loop.Advance(1000);
+    EXPECT_EQ(Window().cmbProfiles.ListCount(), 2);
 }
 
 // Held to the end, and let go while the program still waits.

@@ -21,7 +21,7 @@ struct KeyGroup {
 template <class Holder, const char* Section>
 struct BindingsTest : testing::Test {
     VirtualPlatform machine;
-    ProfileStore profiles{machine.ini, machine.files, "C:\\Orvo"};
+    ProfileStore profiles{machine.ini, machine.files, machine.clock, "C:\\Orvo"};
     const std::string head = '[' + std::string(Section) + "1]\r\n";
 
     Holder LoadedFrom(const std::string& keys, int16_t index = 1) {

@@ -21,7 +21,7 @@ struct DeviceTest : testing::Test {
     VirtualPlatform machine;
     HeadlessUi ui;
     Form form{ui};
-    cSetupHolder setup{machine.ini, machine.files, machine.registry, "C:\\Orvo"};
+    cSetupHolder setup{machine.ini, machine.files, machine.clock, machine.registry, "C:\\Orvo"};
     VirtualDevice& device = machine.bus.Add(
         kPanelVendorId, kPanelIdentities[static_cast<size_t>(kind)].productId, "panel");
     DeviceServices services{machine.clock, machine.loop, machine.hid, machine.deckhub, setup};

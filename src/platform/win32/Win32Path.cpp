@@ -20,8 +20,9 @@ std::wstring Ask(Call call) {
 std::string ToCodePage(const std::wstring& text) {
     const auto size = static_cast<int>(text.size());
     std::string out(text.size() * 4, '\0');
-    const int length = WideCharToMultiByte(CP_ACP, 0, text.data(), size, out.data(),
-                                           static_cast<int>(out.size()), nullptr, nullptr);
+    const int length =
+        WideCharToMultiByte(CP_ACP, WC_NO_BEST_FIT_CHARS, text.data(), size, out.data(),
+                            static_cast<int>(out.size()), nullptr, nullptr);
     out.resize(static_cast<size_t>(length));
     return out;
 }

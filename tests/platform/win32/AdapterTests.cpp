@@ -16,6 +16,7 @@
 #include "bench/driver/TypingField.h"
 #include "bench/driver/Until.h"
 #include "config/ProfileStore.h"
+#include "platform/win32/Win32Clock.h"
 #include "platform/win32/Win32Files.h"
 #include "platform/win32/Win32Handle.h"
 #include "platform/win32/Win32HidLibrary.h"
@@ -268,7 +269,8 @@ TEST_F(FilesTest, ListOf16BitTextIsReadAndAddedTo) {
     std::wstring text = L"\xFEFF[Aircrafts]\r\n";
     for (int i = 0; i < 1000; ++i) text += L"\u0391\u0392 " + std::to_wstring(i) + L"=Jet\r\n";
     Put({reinterpret_cast<const char*>(text.data()), text.size() * 2});
-    ProfileStore store(ini, files, name);
+    Win32Clock clock;
+    ProfileStore store(ini, files, clock, name);
     store.LoadAircraftList();
     EXPECT_EQ(store.ProfileOfAircraft("?? 999"), "Jet");
     store.AddAircraft("One more", "Default");
