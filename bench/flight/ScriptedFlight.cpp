@@ -22,8 +22,8 @@ const char kFlightTiles[] =
 namespace {
 
 constexpr char kDefaultKeys[] =
-    "[MultiPanel1]\r\nLongButtonActionHDG=VButton,64,3\r\n[RadioPanel1]\r\nADFMode="
-    "3\r\n"
+    "[MultiPanel1]\r\nLongButtonActionHDG=VButton,64,3\r\n[RadioPanel1]\r\n"
+    "ADFMode=3\r\n"
     "[SwitchPanel1]\r\nSwitchPITOTOff=VButton,64,5\r\n"
     "[SwitchPanel2]\r\nSwitchBATOff=None\r\nSwitchALTOff=None\r\n"
     "SwitchAVIONICSOff=None\r\nSwitchFUELPUMPOff=None\r\nSwitchDEICEOff=None\r\n"

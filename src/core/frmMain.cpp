@@ -8,7 +8,7 @@
 
 namespace {
 
-// Of the search for the simulator, and of polling it.
+// How often a simulator is looked for, and how often one that is there is asked.
 constexpr uint32_t kWaitingIntervalMs = 1000;
 constexpr uint32_t kConnectedIntervalMs = 10;
 

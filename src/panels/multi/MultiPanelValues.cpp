@@ -61,7 +61,7 @@ void MultiPanelValues::Show(int32_t position, bool secondCourse, std::string& up
     }
 }
 
-// Speed, or altitude and vertical speed.
+// Shows the speed alone, or the altitude with the vertical speed under it.
 void MultiPanelValues::ShowStandard(bool speed, std::string& upper, std::string& lower) const {
     if (speed) {
         SetNumber(upper, RoundHalfEven(speedValue_), 1);

@@ -16,14 +16,15 @@ class RadioTransponder {
         : session_(session), output_(output), offsets_(offsets) {}
 
     void SetInHg(bool inHg) { altimeterInHg_ = inHg; }
-    // A tick has read both.
+    // For a tick that has read the altimeter and the code.
     void Read();
-    // The code has a point behind the digit that the knob changes.
+    // The altimeter on the left; the code on the right, with a point behind the digit that the knob
+    // changes.
     void Show(std::string& active, std::string& standby) const;
 
     void NextDigit() { digit_ = static_cast<uint8_t>(digit_ % 4 + 1); }
     void ToggleUnit();
-    // Turn what a tick has to have read before.
+    // One step. A tick has to have read the value before.
     void TurnDigit(bool up);
     void TurnAltimeter(bool up);
 

@@ -38,7 +38,7 @@ class BindingTable {
     // Only 1 is written; any other byte is taken as it is.
     void AddFlag(std::string key, uint8_t& flag);
 
-    // Of the records only FSEvent.
+    // Of an action only FSEvent is set; the other fields keep what they have.
     void SetDefaults() const;
 
     // Takes over what a section says. Key names count with their case; unknown ones are passed

@@ -14,7 +14,7 @@ class cActionsHolder {
 
     int16_t Index = 0;  // number of the panel, from 1; names the section
 
-    // Of action records only FSEvent.
+    // Of an action only FSEvent is set; the other fields keep what they have.
     void LoadDefaults() { SetDefaults(); }
     // Defaults, then what the section of the current profile says; what makes no sense there is
     // passed over. While the file can't be read all stays as it is, also when that is another

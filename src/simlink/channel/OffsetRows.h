@@ -35,7 +35,7 @@ class OffsetRows {
             if (row.mode == kAllModes || row.mode == mode) Register(row);
         }
     }
-    // The same of a single row, besides those that are read already.
+    // Has a single row read as well, beside those that are read already.
     void Register(size_t row) { Register(rows_[row]); }
 
     // By the row's name, whichever of the name's rows is registered.

@@ -6,7 +6,7 @@
 
 enum class GearLeg : uint8_t { Up, Moving, Down };
 
-// Of the lever and of a leg, where 0 is up.
+// The position of a lever, or of a leg, that is down; 0 is up.
 inline constexpr int32_t kGearDownPosition = 16383;
 
 // A leg by its position: up, down and locked, anything else on the way.

@@ -67,7 +67,7 @@ class cPanelDevice : public Picture {
 
     // A report has come, at this clock: notes and shows what it has brought, and tells it.
     virtual void HandleReport(const Change& /*change*/, uint32_t /*clock*/) {}
-    // The same of the positions that the device gives now.
+    // Does so with the positions that the device gives when it is asked.
     virtual void ReadPositions() {}
     // Raises an event of the panel as soon as those before it are done. A listener may let messages
     // run: what reports bring among them waits, so that all is told in the order in which it
