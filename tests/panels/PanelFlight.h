@@ -2,7 +2,6 @@
 
 #include <cstring>
 #include <gtest/gtest.h>
-#include <source_location>
 #include <string>
 #include <type_traits>
 #include <utility>
@@ -70,17 +69,14 @@ struct PanelFlight : testing::Test, VirtualCockpit {
     // The rows of the panel.
     virtual std::string Shown() { return VirtualCockpit::Shown(); }
 
-    using Where = std::source_location;
     // This has gone out by the next tick, no more and no less.
-    void ExpectSent(const std::string& sent, Where where = Where::current()) {
-        const testing::ScopedTrace line(where.file_name(), static_cast<int>(where.line()), "");
-        EXPECT_EQ(Sent(), sent);
+    void ExpectSent(const std::string& sent, const char* why = "", Where where = Where::current()) {
+        ExpectAt(where, Sent(), sent, why);
     }
     // And the rows show this then.
     void Expect(const std::string& sent, const std::string& shown, Where where = Where::current()) {
-        const testing::ScopedTrace line(where.file_name(), static_cast<int>(where.line()), "");
-        EXPECT_EQ(Sent(), sent);
-        EXPECT_EQ(Shown(), shown);
+        ExpectAt(where, Sent(), sent);
+        ExpectAt(where, Shown(), shown);
     }
     void ExpectShown(const std::string& shown, Where where = Where::current()) {
         Expect(kNothing, shown, where);

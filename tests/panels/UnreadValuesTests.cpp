@@ -51,8 +51,7 @@ TEST_F(UnreadValuesTest, ActsThatWaitKeepTheirOrderAndEndWithTheSession) {
     Tick(), Tick(), Tick();
     ExpectSent(WroteWord(kTrim, 32) + WroteWord(kTrim, -64) + WroteDword(0x07C8, 1));
     failures[0]();
-    TurnTrim(+1);
-    Reconnect(), ExpectSent(kNothing);
+    TurnTrim(+1), Reconnect(), ExpectSent(kNothing);
 }
 
 TEST_F(UnreadValuesTest, KnobsStartFromTheFirstTickOfSessionBindingAndMode) {
@@ -94,19 +93,16 @@ TEST_F(UnreadValuesTest, SwitchesThatNeedAValueAskForItBeforeTheFirstTick) {
     SwitchLogic().SPActions->SingleFuelPump = true;
     Simulator<uint8_t>(kPumps, 0x0C);
     LoseSimulator();
-    Link();
-    Throw(SwitchNumber::kFuelPump), ExpectSent(WroteByte(kPumps, 0x0D));
+    Link(), Throw(SwitchNumber::kFuelPump), ExpectSent(WroteByte(kPumps, 0x0D));
     Fly("ngx");
     Simulator<uint8_t>(kAddOnThrottle, 1);
     Window().cmbProfiles.SetListIndex(0);
-    SetAutoThrottle(true);
-    EXPECT_EQ(Sent(), kNothing) << "the add-on's switch stands there already";
+    SetAutoThrottle(true), ExpectSent(kNothing, "the add-on's switch stands there already");
     SetAutoThrottle(false), ExpectSent(SentControl(70012, kLeftClick));
     Fly("maddog");
     Simulator<int32_t>(kAutopilot, 1);
     Window().cmbProfiles.SetListIndex(0);
-    Click(Button::AP);
-    EXPECT_EQ(Sent(), kNothing) << "nobody knows whether it is on";
+    Click(Button::AP), ExpectSent(kNothing, "nobody knows whether it is on");
 }
 
 TEST_F(UnreadValuesTest, FirstReportWithEverythingOnArrivesWholeAfterAReadInVain) {

@@ -39,7 +39,7 @@ struct MultiPanelDeviceTest : DeviceTest<ctlMultiPanel, PanelKind::Multi> {
         device.SendReport({0x77, 0, 0, 0});  // the first byte says nothing
         device.SendReport({0, 0x08, 0});     // too short
         machine.loop.RunPending();
-        EXPECT_EQ(Heard(), Selector(Position::kNone, Position::kNone) + Armed(false));
+        ExpectHeard(Selector(Position::kNone, Position::kNone) + Armed(false));
     }
     void Pulse(int32_t bit, int times = 1) {
         for (int i = 0; i < times; ++i) Send(bit, kAtRest);
@@ -48,18 +48,14 @@ struct MultiPanelDeviceTest : DeviceTest<ctlMultiPanel, PanelKind::Multi> {
 };
 
 TEST_F(MultiPanelDeviceTest, TwoPulsesMakeAStep) {
-    Pulse(kKnobRight);
-    EXPECT_EQ(Heard(), kNothing);
-    WaitMs(5000), Pulse(kKnobRight);
-    EXPECT_EQ(Heard(), KnobRight(1)) << "after any pause";
+    Pulse(kKnobRight), ExpectHeard(kNothing);
+    WaitMs(5000), Pulse(kKnobRight), ExpectHeard(KnobRight(1), "after any pause");
     WaitMs(300), Pulse(kKnobLeft), WaitMs(300), Pulse(kKnobRight);
-    EXPECT_EQ(Heard(), kNothing) << "each direction has its own pair";
-    WaitMs(300), Pulse(kKnobLeft);
-    EXPECT_EQ(Heard(), KnobLeft(1));
+    ExpectHeard(kNothing, "each direction has its own pair");
+    WaitMs(300), Pulse(kKnobLeft), ExpectHeard(KnobLeft(1));
     WaitMs(1000), Send(kTrimUp), WaitMs(249), Send(kAtRest, kTrimUp), WaitMs(250), Send(kAtRest);
-    EXPECT_EQ(Heard(), kNothing) << "released too late";
-    Pulse(kTrimUp);
-    EXPECT_EQ(Heard(), TrimUp(1));
+    ExpectHeard(kNothing, "released too late");
+    Pulse(kTrimUp), ExpectHeard(TrimUp(1));
 }
 
 TEST_F(MultiPanelDeviceTest, SpeedFollowsThePulsesOfAPeriod) {
@@ -94,39 +90,36 @@ TEST_F(MultiPanelDeviceTest, AccelerationSetsThePeriod) {
     Pulse(kKnobRight, 20);
     Heard();
     WaitMs(199), Pulse(kKnobRight, 2), WaitMs(1), Pulse(kKnobRight, 2);
-    EXPECT_EQ(Heard(), KnobRight(1) + KnobRight(20));
+    ExpectHeard(KnobRight(1) + KnobRight(20));
     WaitMs(1000), Pulse(kTrimUp, 20), WaitMs(1000);
     Heard();
-    Pulse(kTrimUp, 2);
-    EXPECT_EQ(Heard(), TrimUp(1)) << "no sampling";
+    Pulse(kTrimUp, 2), ExpectHeard(TrimUp(1), "no sampling");
 }
 
 TEST_F(MultiPanelDeviceTest, ClicksAndLongClicksAtTheThreshold) {
     setup.ClickThreshold = 500;
     Send(Button::kHDG);
     EXPECT_EQ(ButtonColor(1), kRed);
-    WaitMs(499), Send(kAtRest), WaitMs(1000);
-    EXPECT_EQ(Heard(), Click(Button::kHDG));
+    WaitMs(499), Send(kAtRest), WaitMs(1000), ExpectHeard(Click(Button::kHDG));
     EXPECT_EQ(ButtonColor(1), kWhite);
     Send(Button::kREV), WaitMs(2000), Send(kAtRest), WaitMs(1000);
-    EXPECT_EQ(Heard(), LongClick(Button::kREV));
+    ExpectHeard(LongClick(Button::kREV));
     setup.ClickThreshold = 100;
     Send(Button::kHDG), WaitMs(150);
-    EXPECT_EQ(Heard(), LongClick(Button::kHDG)) << "the option counts at once";
+    ExpectHeard(LongClick(Button::kHDG), "the option counts at once");
 }
 
 TEST_F(MultiPanelDeviceTest, LeversAndSelector) {
     Send(kFlapsUp | kArm | Position::kHDG);
-    EXPECT_EQ(Heard(), Selector(Position::kHDG, Position::kNone) + FlapsUp() + Armed(true));
+    ExpectHeard(Selector(Position::kHDG, Position::kNone) + FlapsUp() + Armed(true));
     EXPECT_EQ(panel->OnScreen.shpFlapsLever.Top, 780);
     EXPECT_EQ(panel->OnScreen.shpATLever.Left, 8580);
     EXPECT_EQ(panel->OnScreen.labUpperMode.Caption.Get(), "HDG");
     Send(kFlapsDown | Position::kALT);
-    EXPECT_EQ(Heard(), Selector(Position::kALT, Position::kHDG) + FlapsDown() + Armed(false));
+    ExpectHeard(Selector(Position::kALT, Position::kHDG) + FlapsDown() + Armed(false));
     EXPECT_EQ(panel->OnScreen.shpFlapsLever.Top, 1140);
     EXPECT_EQ(panel->OnScreen.labLowerMode.Caption.Get(), " VS");
-    Send(kAtRest);
-    EXPECT_EQ(Heard(), Selector(Position::kNone, Position::kALT));
+    Send(kAtRest), ExpectHeard(Selector(Position::kNone, Position::kALT));
     EXPECT_EQ(panel->OnScreen.shpFlapsLever.Top, 960);
     EXPECT_EQ(panel->OnScreen.labLowerMode.Caption.Get(), " VS") << "no position keeps the labels";
 }
@@ -196,20 +189,17 @@ TEST_F(MultiPanelDeviceTest, HeldButtonStaysRedUntilItsRelease) {
 
 TEST_F(MultiPanelDeviceTest, PositionsAreReadFromTheDevice) {
     device.positions = {0, 0x10, 0, 0};
-    panel->GetPositions();
-    EXPECT_EQ(Heard(), Selector(Position::kCRS, Position::kNone));
+    panel->GetPositions(), ExpectHeard(Selector(Position::kCRS, Position::kNone));
     machine.hid.Refuse(HidCall::GetFeature, 1);
     panel->GetPositions();
-    EXPECT_EQ(Heard(), Selector(Position::kNone, Position::kNone)) << "nothing read is no position";
-    Send(kAtRest);
-    EXPECT_EQ(Heard(), kNothing) << "the last report is still what reports are compared with";
+    ExpectHeard(Selector(Position::kNone, Position::kNone), "nothing read is no position");
+    Send(kAtRest), ExpectHeard(kNothing, "the last report is still what reports are compared with");
 }
 
 TEST_F(MultiPanelDeviceTest, SplashLetsReportsIn) {
     device.featureReports.clear();
     machine.loop.After(150, [this] { device.SendReport({0, 0x08, 0, 0}); });
-    panel->Splash();
-    EXPECT_EQ(Heard(), Selector(Position::kHDG, Position::kNone));
+    panel->Splash(), ExpectHeard(Selector(Position::kHDG, Position::kNone));
     ASSERT_GE(device.featureReports.size(), 12U);
     const Report second = {
         0x00,                          // report id
@@ -229,8 +219,7 @@ TEST_F(MultiPanelDeviceTest, EndTurnsOffStopsAndCloses) {
     EXPECT_EQ(machine.deckhub.ReadingCount(), 0);
     EXPECT_EQ(machine.hid.OpenCount(), 0U);
     EXPECT_EQ(machine.loop.TimerCount(), 0U);
-    EXPECT_EQ(Heard(), Selector(Position::kHDG, Position::kNone))
-        << "what had come in was still taken";
+    ExpectHeard(Selector(Position::kHDG, Position::kNone), "what had come in was still taken");
 }
 
 // As when the simulator answers late: reports wait, and all come at once.
@@ -262,9 +251,9 @@ TEST_F(MultiPanelDeviceTest, RestOfAReportComesBeforeTheNextOne) {
         WaitMs(3000);
     });
     Send(Position::kHDG | Button::kAP | kArm);
-    EXPECT_EQ(Heard(), Selector(Position::kHDG, Position::kNone) + Armed(true) +
-                           Selector(Position::kCRS, Position::kHDG) + Click(Button::kAP) +
-                           Armed(false) + Selector(Position::kIAS, Position::kCRS));
+    ExpectHeard(Selector(Position::kHDG, Position::kNone) + Armed(true) +
+                Selector(Position::kCRS, Position::kHDG) + Click(Button::kAP) + Armed(false) +
+                Selector(Position::kIAS, Position::kCRS));
 }
 
 }  // namespace

@@ -123,11 +123,9 @@ TEST_F(MultiPanelLogicTest, TrimFlapsAndAutoThrottle) {
     EXPECT_EQ(sim.Get<int16_t>(kTrim), 32) << "at once";
     TurnTrim(-20), TurnTrim(+3);
     ExpectSent(WroteWord(kTrim, 32) + WroteWord(kTrim, -608) + WroteWord(kTrim, -512));
-    Simulator<int16_t>(kTrim, 16380);
-    TurnTrim(+1), ExpectSent(WroteWord(kTrim, 16383));
+    Simulator<int16_t>(kTrim, 16380), TurnTrim(+1), ExpectSent(WroteWord(kTrim, 16383));
     Logic().MPActions->ReverseTrim = 1;
-    Simulator<int16_t>(kTrim, -16380);
-    TurnTrim(+20), ExpectSent(WroteWord(kTrim, -16383));
+    Simulator<int16_t>(kTrim, -16380), TurnTrim(+20), ExpectSent(WroteWord(kTrim, -16383));
     Simulator<int16_t>(0x3BFA, 6000);  // from one notch to the next
     FlapsDown(), FlapsDown(), FlapsDown();
     ExpectSent(WroteWord(kFlaps, 6000) + WroteWord(kFlaps, 12000) + WroteWord(kFlaps, 16383));
@@ -180,7 +178,7 @@ TEST_F(MultiPanelFlight, VirtualButtonsArePressedAndReleasedOrHeldByTheirPlace) 
     Fly("", "SelectorActionHDG=VKey,64,1,0\r\nSelectorActionCRS=VButton,64,2\r\n");
     Simulator<uint32_t>(0x3340, 1);
     MoveSelectorTo(HDG), MoveSelectorTo(CRS);
-    EXPECT_EQ(Sent(), Pressed(2) + Typed(16)) << "SHIFT; a key is no button to release";
+    ExpectSent(Pressed(2) + Typed(16), "SHIFT; a key is no button to release");
 }
 
 // Twenty pulses in 200 ms are fast only to a sampler whose period is long enough to see them all.

@@ -41,7 +41,7 @@ TEST_F(MultiPanelSpecialModeTest, NGXKnobsTurnByTheWheel) {
                  {VS, 70033, kWheelDown, kWheelUp},  // reversed
                  {IAS, 70016, kWheelUp, kWheelDown},
                  {HDG, 70022, kWheelUp, kWheelDown}};
-    EXPECT_EQ((TurnKnob(+1), Sent()), kNothing) << "no position";
+    TurnKnob(+1), ExpectSent(kNothing, "no position");
     for (const auto& knob : knobs) {
         MoveSelectorTo(knob.position), TurnKnob(+20), TurnKnob(-1);
         ExpectSent(SentControl(knob.control, knob.up) + SentControl(knob.control, knob.down));
@@ -56,7 +56,7 @@ TEST_F(MultiPanelSpecialModeTest, NGXButtonsAndLeversGoOutAsControls) {
     Click(Button::AP), LongClick(Button::AP), Click(Button::IAS);
     ExpectSent(SentControl(70034, kLeftClick) + SentControl(70035, kLeftClick) +
                SentControl(70019, kLeftClick));
-    EXPECT_EQ((Click(Button::REV), Sent()), Pressed(1) + Released(1)) << "a record comes first";
+    Click(Button::REV), ExpectSent(Pressed(1) + Released(1), "a record comes first");
     const uint64_t before = machine.clock.Elapsed();
     const std::string trimUp = SentControl(65615, 0), trimDown = SentControl(65607, 0);
     const std::string flapsUp = SentControl(65759, 0), flapsDown = SentControl(65758, 0);
@@ -98,17 +98,16 @@ TEST_F(MultiPanelSpecialModeTest, MaddogButtons) {
         Click(Button::REV), ExpectSent(SentControl(69740, mode) + SentControl(69671, 1));
     }
     LongClick(Button::REV), Click(Button::IAS);
-    EXPECT_EQ(Sent(), SentControl(69655, 1) + SentControl(69745, 1)) << "Mach";
+    ExpectSent(SentControl(69655, 1) + SentControl(69745, 1), "Mach");
     Simulator<int32_t>(0x07BC, 1);
     Tick();
     Click(Button::AP, Button::AP);
-    EXPECT_EQ(Sent(), SentControl(69666, 0) + SentControl(69666, 1))
-        << "from what the simulator says";
+    ExpectSent(SentControl(69666, 0) + SentControl(69666, 1), "from what the simulator says");
     SetAutoThrottle(true), SetAutoThrottle(false);
     ExpectSent(SentControl(69665, 1) + SentControl(69665, 0));
     TurnTrim(+1), TurnTrim(-1), FlapsDown();
-    EXPECT_EQ(Sent(), Pressed(1) + Released(1) + WroteWord(kTrim, -32) + WroteWord(kFlaps, 0))
-        << "as standard";
+    ExpectSent(Pressed(1) + Released(1) + WroteWord(kTrim, -32) + WroteWord(kFlaps, 0),
+               "as standard");
 }
 
 TEST_F(MultiPanelSpecialModeTest, MaddogKnobChangesAndSendsThePanelsOwnValues) {

@@ -32,8 +32,7 @@ std::string WroteADF2(int main, int extension) {
 TEST_F(RadioPanelLogicTest, ChannelsOfBothRows) {
     for (const Row each : {Upper, Lower}) {
         At(each);
-        Fly();
-        MoveSelectorTo(COM1), Click(), Expect(WroteByte(kSwap, 8), "118.02|118.07");
+        Fly(), MoveSelectorTo(COM1), Click(), Expect(WroteByte(kSwap, 8), "118.02|118.07");
         Release(), LongClick(), Expect(WroteByte(kSwap, 8), "118.02|118.07");
         MoveSelectorTo(COM2), Click(), Release(), LongClick(), Release();
         Expect(WroteByte(kSwap, 4) + WroteByte(kSwap, 4), "136.97|121.50");
@@ -267,21 +266,21 @@ TEST_F(RadioPanelLogicTest, BoundVirtualButtonIsDownAsLongAsThePanelsOwn) {
                Released(2));
     Release(), nextTick(), LongClick(), Release(), nextTick(), LongClick(), nextTick(), Click();
     nextTick();
-    EXPECT_EQ(Sent(), tick + Pressed(2) + Released(2) + tick + Pressed(2) + tick + Released(2) +
-                          Pressed(1) + tick)
-        << "each comes up";
+    ExpectSent(tick + Pressed(2) + Released(2) + tick + Pressed(2) + tick + Released(2) +
+                   Pressed(1) + tick,
+               "each comes up");
     At(Lower), MoveSelectorTo(DME), Click(), nextTick(), At(Upper), Release(), Click(), nextTick();
     At(Lower), Release(), nextTick(), At(Upper), Release();
     ExpectSent(Pressed(3) + tick + Released(1) + Pressed(1) + tick + Released(3) + tick +
                Released(1));
     MoveSelectorTo(COM1), LongClick(), Sent();
-    EXPECT_EQ((Reconnect(), Sent()), Released(2)) << "in the next session";
+    Reconnect(), ExpectSent(Released(2), "in the next session");
     RadioLogic().ButtonClick(0x2000);  // not one of the panel's
     MoveSelectorTo(COM1), Click(), MoveSelectorTo(DME), Release(), Click(), LongClick(), Release();
-    EXPECT_EQ(Sent(), Pressed(1) + Released(1) + Pressed(3) + Released(3) + Typed(65))
-        << "the selector has moved";
+    ExpectSent(Pressed(1) + Released(1) + Pressed(3) + Released(3) + Typed(65),
+               "the selector has moved");
     Click(), Fly("ADFMode=0"), Release(), nextTick(), MoveSelectorTo(COM1), Click(), Release();
-    EXPECT_EQ(Sent(), Released(3) + tick + WroteByte(kSwap, 8)) << "the bindings are new";
+    ExpectSent(Released(3) + tick + WroteByte(kSwap, 8), "the bindings are new");
 }
 
 TEST_F(RadioPanelLogicTest, SelectorHoldsItsVirtualButtonForAWhileAndGoesOnMeanwhile) {
@@ -290,14 +289,14 @@ TEST_F(RadioPanelLogicTest, SelectorHoldsItsVirtualButtonForAWhileAndGoesOnMeanw
     MoveSelectorTo(ADF), MoveSelectorTo(DME), MoveSelectorTo(ADF);
     Expect(Pressed(2), "05.6|0345.3");
     machine.loop.Advance(200);
-    EXPECT_EQ(Sent(), Released(2) + Pressed(1) + Released(1) + Pressed(2) + Released(2))
-        << "one after the other";
+    ExpectSent(Released(2) + Pressed(1) + Released(1) + Pressed(2) + Released(2),
+               "one after the other");
     MoveSelectorTo(DME), MoveSelectorTo(ADF), MoveSelectorTo(DME), ExpectSent(Pressed(1));
     LoseSimulator();
     machine.loop.Advance(100);
     Connect();
     machine.loop.Advance(200);
-    EXPECT_EQ(Sent(), Released(1)) << "those that waited are not for the next session";
+    ExpectSent(Released(1), "those that waited are not for the next session");
 }
 
 // Twenty pulses in 200 ms are fast only to a sampler whose period is long enough to see them all.

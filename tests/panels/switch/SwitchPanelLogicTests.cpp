@@ -84,7 +84,7 @@ TEST_F(SwitchPanelLogicTest, FirstReportBringsTheSimulatorIntoLine) {
                WroteDword(kGearHandle, 0));
     for (const int none : {0, 1, 5, 20, 21}) Throw(none, On);
     Throw(19, Off), MoveSelectorTo(0);
-    EXPECT_EQ(Sent(), kNothing) << "none of these is a switch, or a position";
+    ExpectSent(kNothing, "none of these is a switch, or a position");
 }
 
 TEST_F(SwitchPanelLogicTest, OptionsHoldTheirSwitchesToTheSelectedEngine) {
@@ -127,12 +127,10 @@ TEST_F(SwitchPanelLogicTest, LightSwitchesChangeTheWordAsItIsJustThen) {
     Simulator(kLights, 0x3A);
     Throw(kNav, Off), Throw(kLanding, Off);
     Simulator(kLights, 0xFFFF);
-    Throw(kStrobe, Off);
-    EXPECT_EQ(Sent(), WroteLights({0xFFEF})) << "the others are as they should be";
+    Throw(kStrobe, Off), ExpectSent(WroteLights({0xFFEF}), "the others are as they should be");
     machine.ipc.AnswerWith(0, 1);
     Simulator(kLights, 0);
-    Throw(kPanel, On);
-    EXPECT_EQ(Sent(), kNothing) << "nothing is known of the other lights";
+    Throw(kPanel, On), ExpectSent(kNothing, "nothing is known of the other lights");
     machine.ipc.TimeOut(100);
     const uint64_t before = machine.clock.Elapsed();
     for (int32_t number = kPanel; number <= kLanding; ++number) Throw(number, On);
@@ -172,8 +170,7 @@ TEST_F(SwitchPanelLogicTest, AddOnsLightsAreClickedFromWhereTheyStand) {
                 EXPECT_EQ(Sent(), sent + Waited(1010)) << test.number << " from " << at;
             }
     machine.ipc.AnswerWith(0, 1);
-    Throw(kBeacon, On);
-    EXPECT_EQ(Sent(), kNothing) << "the position isn't known";
+    Throw(kBeacon, On), ExpectSent(kNothing, "the position isn't known");
 }
 
 TEST_F(SwitchPanelLogicTest, SecondClickComesASecondLaterAndAllElseGoesOnMeanwhile) {
@@ -183,7 +180,7 @@ TEST_F(SwitchPanelLogicTest, SecondClickComesASecondLaterAndAllElseGoesOnMeanwhi
     const std::string gearDown = SentControl(70087, kLeftClick);
     const std::string gearUp = SentControl(70087, kRightClick);
     Throw(kNav, On), Throw(kTaxi, On);
-    EXPECT_EQ(Sent(), Typed(9)) << "the lights' own actions count, not the lever's";
+    ExpectSent(Typed(9), "the lights' own actions count, not the lever's");
     Throw(kPanel, On), WaitMs(500);
     LeverDown(), Throw(kBat, On), WaitMs(490);
     WaitMs(20), WaitMs(480), WaitMs(20);
@@ -229,8 +226,8 @@ TEST_F(SwitchPanelLogicTest, VirtualButtonsOfSwitchesAreDownForAWhile) {
     MoveSelectorTo(kSelectorR), ExpectSent(Pressed(2));
     machine.clock.Sleep(85);
     WaitMs(1), WaitMs(45), WaitMs(20);
-    EXPECT_EQ(Sent(), Released(2) + Pressed(3) + Waited(1) + Waited(45) + Released(3) + Waited(20))
-        << "after a stutter the next one has its time";
+    ExpectSent(Released(2) + Pressed(3) + Waited(1) + Waited(45) + Released(3) + Waited(20),
+               "after a stutter the next one has its time");
 }
 
 TEST_F(SwitchPanelLogicTest, VirtualButtonOfTheLeverIsDownAsLongAsItStands) {
@@ -240,21 +237,19 @@ TEST_F(SwitchPanelLogicTest, VirtualButtonOfTheLeverIsDownAsLongAsItStands) {
                Waited(500) + Pressed(1) + Released(2) + Waited(500));
     Fly("SwitchGEARDOWNOn=VButton,64,3\nSwitchGEARUPOn=VButton,64,4");
     LeverUp();
-    EXPECT_EQ(Sent(), Pressed(4) + ButtonsWrittenAsTheyWere() + Released(1))
-        << "that of the profile before comes up as well";
+    ExpectSent(Pressed(4) + ButtonsWrittenAsTheyWere() + Released(1),
+               "that of the profile before comes up as well");
     Fly("SwitchGEARDOWNOn=VButton,64,5\nSwitchGEARUPOn=VKey,65,1,97");
     LeverUp(), LeverDown();
-    EXPECT_EQ(Sent(), Released(4) + Pressed(5) + Typed(16)) << "a key lets the button go";
+    ExpectSent(Released(4) + Pressed(5) + Typed(16), "a key lets the button go");
     Fly("SwitchGEARDOWNOn=VKey,65,0,98");
     Fly("SwitchGEARDOWNOn=VButton,64,5");
-    LeverDown();
-    EXPECT_EQ(Sent(), ButtonsWrittenAsTheyWere()) << "it is down, and stays so";
+    LeverDown(), ExpectSent(ButtonsWrittenAsTheyWere(), "it is down, and stays so");
 }
 
 TEST_F(SwitchPanelLogicTest, GearLightsShowARetractableGear) {
     constexpr int down = 16383;
-    Gear(down, down, down), WaitMs(10);
-    EXPECT_EQ(Sent(), Waited(10)) << "it is fixed";
+    Gear(down, down, down), WaitMs(10), ExpectSent(Waited(10), "it is fixed");
     Simulator(kRetractable, 0x0100), SetTitle("Baron"), WaitMs(20), WaitMs(20);
     ExpectSent(Lights(0x07) + Waited(20) + Waited(20));
     const struct {
@@ -272,7 +267,7 @@ TEST_F(SwitchPanelLogicTest, GearLightsShowARetractableGear) {
         EXPECT_EQ(Sent(), lights + Waited(10)) << nose;
     }
     Simulator(kBatteryMaster, 0), WaitMs(10), Simulator(kLeftGear, 0), WaitMs(10);
-    EXPECT_EQ(Sent(), Lights(0) + Waited(10) + Waited(10)) << "dark without power";
+    ExpectSent(Lights(0) + Waited(10) + Waited(10), "dark without power");
     Simulator(kBatteryMaster, 0x0100), Simulator(kNoseGear, down), WaitMs(10);
     ExpectSent(Lights(0x21) + Waited(10));
     Reconnect(), WaitMs(20);
@@ -282,8 +277,7 @@ TEST_F(SwitchPanelLogicTest, GearLightsShowARetractableGear) {
     Simulator(kRetractable, 0), SetTitle("Glider"), WaitMs(20);
     Simulator(0x3308, 7), Reconnect(), WaitMs(20);  // FS2004
     ExpectSent(Waited(10) + Lights(0) + Waited(20) + Lights(0) + Waited(20));
-    Fly("RetractableGear=1");
-    EXPECT_EQ(Sent(), Lights(0x23)) << "the option counts on FS2004 only";
+    Fly("RetractableGear=1"), ExpectSent(Lights(0x23), "the option counts on FS2004 only");
     Fly("RetractableGear=0"), WaitMs(10);
     Simulator(kRetractable, 1), SetTitle("Baron"), WaitMs(20);
     ExpectSent(Lights(0) + Waited(10) + Lights(0x23) + Waited(20));
