@@ -154,7 +154,9 @@ TEST_F(SessionTest, ServersThatMisbehaveEndTheSessionAndNothingElse) {
     machine.ipc.AfterServing([](std::span<uint8_t> block) { block[0] = 9; });
     Tick();
     EXPECT_FALSE(program->Session.FSConnected) << "garbage";
+    machine.ipc.ForgetSentMessages();
     machine.loop.Advance(5000);
+    EXPECT_EQ(machine.ipc.SentMessages().size(), 5U) << "tried once a second";
     EXPECT_EQ(Texts(), kDisconnected);
     machine.ipc.AfterServing({});
     machine.loop.Advance(2000);
