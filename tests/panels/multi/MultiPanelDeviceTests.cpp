@@ -72,9 +72,7 @@ TEST_F(MultiPanelDeviceTest, SpeedFollowsThePulsesOfAPeriod) {
     };
     for (const auto& test : cases) {
         SCOPED_TRACE(test.pulses);
-        WaitMs(1000), Pulse(test.bit, test.pulses), WaitMs(200);
-        Heard();
-        Pulse(test.bit, 2);
+        WaitMs(1000), Pulse(test.bit, test.pulses), WaitMs(200), Heard(), Pulse(test.bit, 2);
         EXPECT_TRUE(Heard().starts_with(test.step(test.speed)));
         WaitMs(200), Pulse(test.bit, 2);
         EXPECT_TRUE(Heard().starts_with(test.step(test.speed))) << "a few pulses keep the speed";
@@ -86,13 +84,10 @@ TEST_F(MultiPanelDeviceTest, SpeedFollowsThePulsesOfAPeriod) {
 
 TEST_F(MultiPanelDeviceTest, AccelerationSetsThePeriod) {
     panel->RotAcceleration(50);  // 200 ms
-    panel->TrimAcceleration(0);
-    Pulse(kKnobRight, 20);
-    Heard();
+    panel->TrimAcceleration(0), Pulse(kKnobRight, 20), Heard();
     WaitMs(199), Pulse(kKnobRight, 2), WaitMs(1), Pulse(kKnobRight, 2);
     ExpectHeard(KnobRight(1) + KnobRight(20));
-    WaitMs(1000), Pulse(kTrimUp, 20), WaitMs(1000);
-    Heard();
+    WaitMs(1000), Pulse(kTrimUp, 20), WaitMs(1000), Heard();
     Pulse(kTrimUp, 2), ExpectHeard(TrimUp(1), "no sampling");
 }
 
@@ -155,8 +150,7 @@ TEST_F(MultiPanelDeviceTest, TextsAreEncodedRightAligned) {
 TEST_F(MultiPanelDeviceTest, OnlyChangesAreSentUnlessForcedOrDark) {
     device.featureReports.clear();
     panel->WriteDisplay("350", "-700", uint8_t{0x81});
-    panel->WriteDisplay("350", "-700", uint8_t{0x81});
-    panel->WriteDisplay();
+    panel->WriteDisplay("350", "-700", uint8_t{0x81}), panel->WriteDisplay();
     const Report shown = {
         0x00,                 // report id
         0x0A, 0x0A, 3, 5, 0,  // blank, blank, 350
@@ -165,9 +159,7 @@ TEST_F(MultiPanelDeviceTest, OnlyChangesAreSentUnlessForcedOrDark) {
         0x00,
     };
     EXPECT_EQ(device.featureReports, Reports{shown});
-    panel->WriteDisplay({}, {}, {}, true);
-    panel->TurnOffDisplay();
-    panel->TurnOffDisplay();
+    panel->WriteDisplay({}, {}, {}, true), panel->TurnOffDisplay(), panel->TurnOffDisplay();
     Report dark(shown.size(), 0x0F);                      // no segment
     for (const size_t at : {0, 11, 12}) dark[at] = 0x00;  // and no light
     EXPECT_EQ(device.featureReports, (Reports{shown, shown, dark, dark}));
@@ -177,8 +169,7 @@ TEST_F(MultiPanelDeviceTest, OnlyChangesAreSentUnlessForcedOrDark) {
 }
 
 TEST_F(MultiPanelDeviceTest, HeldButtonStaysRedUntilItsRelease) {
-    Send(Button::kAP);
-    panel->WriteDisplay({}, {}, uint8_t{0x03});
+    Send(Button::kAP), panel->WriteDisplay({}, {}, uint8_t{0x03});
     EXPECT_EQ(ButtonColor(0), kRed);
     EXPECT_EQ(ButtonColor(1), kYellow);
     Send(kAtRest);

@@ -67,8 +67,7 @@ TEST_F(MultiPanelSpecialModeTest, NGXButtonsAndLeversGoOutAsControls) {
     Logic().MPActions->ReverseFlaps = 2;
     TurnTrim(+1), FlapsDown(), ExpectSent(trimDown + flapsUp);
     for (const uint8_t addOn : {uint8_t{0}, uint8_t{1}, uint8_t{2}}) {
-        Simulator<uint8_t>(0x6535, addOn);
-        Tick();
+        Simulator<uint8_t>(0x6535, addOn), Tick();
         SetAutoThrottle(false), ExpectSent(addOn == 1 ? SentControl(70012, kLeftClick) : kNothing);
         SetAutoThrottle(true), ExpectSent(addOn == 0 ? SentControl(70012, kLeftClick) : kNothing);
     }
@@ -99,9 +98,7 @@ TEST_F(MultiPanelSpecialModeTest, MaddogButtons) {
     }
     LongClick(Button::REV), Click(Button::IAS);
     ExpectSent(SentControl(69655, 1) + SentControl(69745, 1), "Mach");
-    Simulator<int32_t>(0x07BC, 1);
-    Tick();
-    Click(Button::AP, Button::AP);
+    Simulator<int32_t>(0x07BC, 1), Tick(), Click(Button::AP, Button::AP);
     ExpectSent(SentControl(69666, 0) + SentControl(69666, 1), "from what the simulator says");
     SetAutoThrottle(true), SetAutoThrottle(false);
     ExpectSent(SentControl(69665, 1) + SentControl(69665, 0));

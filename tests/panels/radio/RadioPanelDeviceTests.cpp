@@ -176,8 +176,7 @@ TEST_F(RadioPanelDeviceTest, SpeedsFollowThePulsesOfEachSide) {
         {{0xFF, 0xFF, 0x3F, 0x0F, 0x01, 0x00}, "1/1", 20, 1},
     };
     for (const auto& test : cases) {
-        WaitMs(2400), SendAtOnce(test.states), WaitMs(650);
-        Heard();
+        WaitMs(2400), SendAtOnce(test.states), WaitMs(650), Heard();
         EXPECT_EQ(ShownSpeeds(), test.shown);
         WaitMs(150), Turn(kOuter1Right, 2), WaitMs(250), Turn(kOuter2Right, 2);
         EXPECT_EQ(Heard(), Right(Outer1, test.upper) + Right(Outer2, test.lower)) << test.shown;
@@ -209,9 +208,7 @@ TEST_F(RadioPanelDeviceTest, ClicksAndLongClicksAtTheThreshold) {
 // As when the simulator answers late: what counts is when a report came, not when it is taken.
 TEST_F(RadioPanelDeviceTest, ABusyMomentLosesNoPulseAndMakesNoClickALongOne) {
     const auto releaseWhileBusy = [this] {
-        machine.clock.Sleep(50);
-        Post(kAtRest);
-        machine.clock.Sleep(600);
+        machine.clock.Sleep(50), Post(kAtRest), machine.clock.Sleep(600);
     };
     Turn(kInner1Right), Send(kInner1Right), WaitMs(100);
     Heard();
@@ -221,8 +218,7 @@ TEST_F(RadioPanelDeviceTest, ABusyMomentLosesNoPulseAndMakesNoClickALongOne) {
     releaseWhileBusy();
     WaitMs(2000), Send(kButton1), WaitMs(610);
     ExpectHeard(Click(kButton1) + Up(kButton1) + Down(kButton1) + LongClick(kButton1));
-    Send(kAtRest, kButton2);
-    Heard();
+    Send(kAtRest, kButton2), Heard();
     for (int time = 0; time < 5; ++time, machine.loop.RunPending()) machine.clock.Sleep(150);
     ExpectHeard(LongClick(kButton2), "also where the loop is always late");
 }
@@ -243,9 +239,7 @@ TEST_F(RadioPanelDeviceTest, ReportsThatComeWithinAnEventAreTakenOnce) {
     SendAtOnce({pressed, rest, pressed}), WaitMs(2000);
     ExpectHeard(Down(kButton1) + Click(kButton1) + Up(kButton1) + Down(kButton1) +
                 LongClick(kButton1));
-    Post(kCOM2Of1 | kButton1 | kCOM2Of2);
-    panel->GetPositions();
-    machine.loop.RunPending();
+    Post(kCOM2Of1 | kButton1 | kCOM2Of2), panel->GetPositions(), machine.loop.RunPending();
     ExpectHeard(Selector(1, 0, 0) + Selector(2, 0, 0) + Up(kButton1) + Up(kButton2) +
                 Selector(1, kCOM2Of1, kNAV1Of1));
 }

@@ -97,8 +97,7 @@ TEST_F(RadioPanelLogicTest, TuningKeepsToTheChannelsOfTheBand) {
                                                                 {kNAV1Standby, Upper, NAV1, nav},
                                                                 {kNAV2Standby, Lower, NAV2, nav}};
     for (const auto& [offset, theRow, position, band] : radios) {
-        Simulator(offset, band.start);
-        At(theRow), MoveSelectorTo(position), Sent();
+        Simulator(offset, band.start), At(theRow), MoveSelectorTo(position), Sent();
         std::string sent;
         for (size_t i = 0; i < 4; ++i) {
             const int steps = std::array{1, 5, 10, 20}[i];
@@ -108,8 +107,7 @@ TEST_F(RadioPanelLogicTest, TuningKeepsToTheChannelsOfTheBand) {
         }
         ExpectSent(sent);
     }
-    At(Lower), MoveSelectorTo(None);
-    At(Upper), MoveSelectorTo(COM1), TurnInner(+1), Sent();
+    At(Lower), MoveSelectorTo(None), At(Upper), MoveSelectorTo(COM1), TurnInner(+1), Sent();
     for (int turn = 1; turn <= 2000; ++turn) {
         const int channel = (turn <= 1000 ? 1 + turn : 2001 - turn) % 760;
         std::string digits = std::to_string((118000 + channel * 25) / 10);
@@ -214,8 +212,7 @@ TEST_F(RadioPanelLogicTest, TransponderAndAltimeter) {
 TEST_F(RadioPanelFlight, KnobsStartFromWhatATickHasRead) {
     ASSERT_TRUE(Start());
     Simulator(kNAV1Standby, 0x1030), Simulator(kXPDR, 0x1200);
-    Simulator(kADF1, 0x0345), Simulator(kAltimeter, 0x3E80), Sent();
-    Connect();
+    Simulator(kADF1, 0x0345), Simulator(kAltimeter, 0x3E80), Sent(), Connect();
     RadioLogic().RPActions->ADFMode = 3;
     const auto turnAll = [this] {
         MoveSelectorTo(NAV1), TurnInner(+1), MoveSelectorTo(XPDR), TurnInner(-1), TurnOuter(+1);
@@ -243,11 +240,9 @@ TEST_F(RadioPanelLogicTest, RecordsGoOutInsteadOfTheBuiltInBehaviour) {
             for (const std::string control : {"SelectorAction", "ButtonAction", "LongButtonAction",
                                               "InnRotUp", "InnRotDown", "OutRotUp", "OutRotDown"})
                 keys += control + name + kind + std::to_string(++number) + ",0,0\n";
-            Fly(keys);
-            At(theRow), MoveSelectorTo(position);
+            Fly(keys), At(theRow), MoveSelectorTo(position);
             std::string seen = Sent();
-            machine.loop.Advance(50);
-            Click(), Release(), LongClick(), Release();
+            machine.loop.Advance(50), Click(), Release(), LongClick(), Release();
             TurnInner(+2), TurnInner(-1), TurnOuter(+1), TurnOuter(-1);
             EXPECT_EQ(seen + Sent(), action(1) + action(2) + action(3) + action(4) + action(4) +
                                          action(5) + action(6) + action(7))
@@ -292,10 +287,7 @@ TEST_F(RadioPanelLogicTest, SelectorHoldsItsVirtualButtonForAWhileAndGoesOnMeanw
     ExpectSent(Released(2) + Pressed(1) + Released(1) + Pressed(2) + Released(2),
                "one after the other");
     MoveSelectorTo(DME), MoveSelectorTo(ADF), MoveSelectorTo(DME), ExpectSent(Pressed(1));
-    LoseSimulator();
-    machine.loop.Advance(100);
-    Connect();
-    machine.loop.Advance(200);
+    LoseSimulator(), machine.loop.Advance(100), Connect(), machine.loop.Advance(200);
     ExpectSent(Released(1), "those that waited are not for the next session");
 }
 

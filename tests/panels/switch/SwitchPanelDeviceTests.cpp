@@ -96,8 +96,7 @@ TEST_F(SwitchPanelDeviceTest, LightsAreSentOnEachCallAndShownInThePicture) {
 }
 
 TEST_F(SwitchPanelDeviceTest, SplashWaitsBehindEachStepAndTheEndIsDark) {
-    Send(0);
-    Heard(), Written();
+    Send(0), Heard(), Written();
     for (uint32_t end = 99; end < 1000; end += 100)
         machine.loop.After(end, [&] { told += Lights(device.featureReports.size()); });
     machine.loop.After(450, [this] { Post(kLeverUp); });
