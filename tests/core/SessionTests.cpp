@@ -59,19 +59,15 @@ TEST_F(SessionTest, AircraftIsBoundWhenItsTitleChanges) {
         [&](uint32_t offset, uint32_t) { bindings += offset == 0x060C ? 1 : 0; });
     machine.server.Set<int16_t>(0x060C, 1);
     ASSERT_TRUE(Start());
-    Connect();
-    Tick();
+    Connect(), Tick();
     EXPECT_EQ(bindings, 1);
     EXPECT_TRUE(program->Session.GearIsRetractable);
-    SetTitle("");
-    Tick();
+    SetTitle(""), Tick();
     EXPECT_EQ(bindings, 1);
     EXPECT_EQ(Window().Aircraft.Text.Get(), "Aircraft in use: ");
-    SetTitle("Baron 58");
-    Tick();
+    SetTitle("Baron 58"), Tick();
     EXPECT_EQ(bindings, 1) << "an empty title in between changes nothing";
-    SetTitle(std::string(100, 'T'));
-    Tick();
+    SetTitle(std::string(100, 'T')), Tick();
     EXPECT_EQ(Window().Aircraft.Text.Get(), "Aircraft in use: " + std::string(60, 'T'));
 }
 
@@ -139,8 +135,7 @@ TEST_F(SessionTest, LostSessionDarkensThePanelAndIsFoundAgain) {
     EXPECT_EQ(machine.ipc.OpenViews() + machine.ipc.OpenAtoms() + machine.ipc.OpenMappings(), 0U);
     machine.loop.Advance(3000);
     EXPECT_EQ(panel.featureReports.back(), kDark);
-    Connect();
-    Tick();
+    Connect(), Tick();
     EXPECT_EQ(Window().Status.Text.Get(), "FSUIPC Status: Connected");
     EXPECT_EQ(Window().Aircraft.Text.Get(), "Aircraft in use: Baron 58");
     EXPECT_NE(panel.featureReports.back(), kDark);
@@ -168,8 +163,7 @@ TEST_F(SessionTest, ServersThatMisbehaveEndTheSessionAndNothingElse) {
 
 TEST_F(SessionTest, AutoQuitLeavesWithTheSimulator) {
     ASSERT_TRUE(Start("Splash=0\r\nAutoQuit=1\r\n"));
-    Connect();
-    LoseSimulator();
+    Connect(), LoseSimulator();
     EXPECT_TRUE(Window().IsUnloaded());
     EXPECT_TRUE(machine.loop.QuitWasCalled());
     EXPECT_NE(machine.files.Look("C:\\Orvo\\Orvo.ini")->find("OrvoPriority=32"), std::string::npos);

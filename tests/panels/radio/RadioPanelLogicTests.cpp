@@ -229,24 +229,18 @@ TEST_F(RadioPanelFlight, KnobsStartFromWhatATickHasRead) {
 TEST_F(RadioPanelLogicTest, RecordsGoOutInsteadOfTheBuiltInBehaviour) {
     const std::tuple<Row, Position, std::string> places[] = {
         {Upper, COM1, "COM1"}, {Lower, ADF, "ADF"}, {Upper, XPDR, "XPDR"}};
-    for (const std::string kind : {"=VButton,64,", "=VKey,", "=None,"})
+    for (const std::string kind : {"=VKey,", "=None,"})
         for (const auto& [theRow, position, name] : places) {
-            const auto action = [&](int n) -> std::string {
-                if (kind == "=VKey,") return Typed(n);
-                return kind == "=None," ? kNothing : Pressed(n) + Released(n);
-            };
-            std::string keys;
+            std::string keys, typed;
             int number = 0;
             for (const std::string control : {"SelectorAction", "ButtonAction", "LongButtonAction",
                                               "InnRotUp", "InnRotDown", "OutRotUp", "OutRotDown"})
                 keys += control + name + kind + std::to_string(++number) + ",0,0\n";
             Fly(keys), At(theRow), MoveSelectorTo(position);
-            std::string seen = Sent();
-            machine.loop.Advance(50), Click(), Release(), LongClick(), Release();
+            Click(), Release(), LongClick(), Release();
             TurnInner(+2), TurnInner(-1), TurnOuter(+1), TurnOuter(-1);
-            EXPECT_EQ(seen + Sent(), action(1) + action(2) + action(3) + action(4) + action(4) +
-                                         action(5) + action(6) + action(7))
-                << keys;
+            for (const int key : {1, 2, 3, 4, 4, 5, 6, 7}) typed += Typed(key);
+            ExpectSent(kind == "=VKey," ? typed : kNothing, keys.c_str());
         }
 }
 
