@@ -163,18 +163,14 @@ TEST_F(EndToEnd, OldFileBecomesTheDefaultProfile) {
     ExpectQuits();
 }
 
-TEST_F(EndToEnd, WithoutPanelsSaysSoAndEnds) {
+TEST_F(EndToEnd, WithoutPanelsRunsOnlyIfToldToAndNotTwice) {
     cockpit_->StartOrvo();
     EXPECT_EQ(AnswerBox(*cockpit_, "  Orvo"), "No Panel found, check your connections !");
     EXPECT_EQ(cockpit_->Orvo().WaitForEnd(kSoonMs), 0u);
-}
-
-TEST_F(EndToEnd, WithoutPanelsRunsIfToldToButNotTwice) {
     cockpit_->WriteIni("[GeneralSetup]\r\nLoadWithoutPanels=1\r\n");
     cockpit_->StartSimulator();
     cockpit_->StartOrvo();
     ASSERT_TRUE(cockpit_->StatusBecomes(0, kConnected, kSoonMs));
-
     const auto second = MakeCockpit("SecondInstance");
     second->StartOrvo();
     EXPECT_EQ(AnswerBox(*second, "Orvo"), "Orvo is already running...");

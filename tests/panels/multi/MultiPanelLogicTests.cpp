@@ -107,7 +107,7 @@ TEST_F(MultiPanelLogicTest, ButtonsToggleTheirHold) {
     LongClick(Button::HDG);
     ExpectSent(WroteDword(0x0800, 0) + WroteDword(0x07FC, 0) + WroteDword(0x0800, 1) +
                WroteDword(0x07FC, 1) + WroteDword(0x07C8, 1));
-    Click(Button{0}, Button{0x010000});  // none of the panel's
+    Click(Button{0}, Button{9});  // none of the panel's
     Click(Button::AP, Button::NAV, Button::IAS, Button::ALT, Button::VS, Button::REV);
     ExpectSent(WroteDword(0x07BC, 1) + WroteDword(0x07C4, 1) + WroteDword(0x07DC, 1) +
                WroteDword(0x07D0, 1) + WroteDword(0x07EC, 1) + WroteDword(0x0804, 1));

@@ -87,7 +87,7 @@ TEST_F(MultiPanelSpecialModeTest, MaddogButtons) {
         {Button::ALT, SentControl(69663, 0) + SentControl(69664, 1), SentControl(69679, 1)},
         {Button::VS, SentControl(69676, 1), SentControl(69678, 1)},
         {Button::APR, SentControl(69674, 1), SentControl(69675, 1)},
-        {Button{0x010000}, kNothing, kNothing},
+        {Button{9}, kNothing, kNothing},
     };
     for (const auto& [button, click, longClick] : cases) {
         EXPECT_EQ((Click(button), Sent()), click) << static_cast<int>(button);

@@ -192,6 +192,7 @@ TEST_F(RadioPanelLogicTest, TransponderAndAltimeter) {
     Expect(code(0x1370) + code(0x1300), "29.92|130.0");
     Click(), TurnInner(-1), Expect(code(0x1307), "29.92|1307.");
     Click(), TurnInner(-1), Click(), Expect(code(0x0307), "29.92|03.07");
+    At(Lower), MoveSelectorTo(XPDR), ExpectShown("29.92|03.07"), At(Upper);
     TurnOuter(+20), Expect(altimeter(0x3F58), "29.93|03.07");
     LongClick(), ExpectShown("1014|03.07");
     TurnOuter(+1), Expect(altimeter(0x3F60), "1014|03.07");

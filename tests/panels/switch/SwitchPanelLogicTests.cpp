@@ -82,6 +82,12 @@ TEST_F(SwitchPanelLogicTest, FirstReportBringsTheSimulatorIntoLine) {
     device.SendReport({0x00, 0x00, 0x00, 0x06});  // START, lever up
     ExpectSent(all(4, Off) + WroteLights({0x1F, 0x1D, 0x1C, 0x0C, 0x04, 0x00}) +
                WroteDword(kGearHandle, 0));
+    const std::pair<std::array<uint8_t, 2>, int> positions[] = {
+        {{0x20, 0x04}, 0}, {{0x80, 0x04}, 2}, {{0x00, 0x05}, 3}};  // OFF, L, BOTH
+    for (const auto& [bits, magneto] : positions) {
+        device.SendReport({0x00, 0x00, bits[0], bits[1]});
+        ExpectSent(Each(kMagnetos, WroteWord, magneto));
+    }
     for (const int none : {0, 1, 5, 20, 21}) Throw(none, On);
     Throw(19, Off), MoveSelectorTo(0);
     ExpectSent(kNothing, "none of these is a switch, or a position");
