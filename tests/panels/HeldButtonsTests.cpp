@@ -74,7 +74,7 @@ TEST_F(HeldButtonsTest, ComeUpWhenTheProgramEnds) {
     SwitchLogic().SPActions->SetSwitchActions(6, 1, {ActionKind::VButton, 64, 5, 0});
     SwitchLogic().SwitchChange(6, true);  // pressed for a while
     Window().btnQuit.Press();
-    ExpectSent(Pressed(5) + Released(5) + AllReleased());
+    ExpectSent(Clicked(5) + AllReleased());
     EXPECT_EQ(machine.ipc.OpenViews(), 0U);
 }
 

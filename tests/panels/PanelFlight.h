@@ -13,6 +13,7 @@
 // What goes out of a panel's logic. Virtual buttons are those of the first joystick.
 inline constexpr Happening SentControl{"SentControl"};  // number and parameter
 inline constexpr Happening Pressed{"Pressed"}, Released{"Released"};
+inline std::string Clicked(int number) { return Pressed(number) + Released(number); }
 inline constexpr Happening ButtonsWrittenAsTheyWere{"ButtonsWrittenAsTheyWere"};
 inline constexpr Happening Typed{"Typed"};  // virtual key code
 

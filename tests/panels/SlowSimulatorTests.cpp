@@ -59,7 +59,7 @@ TEST_F(SlowSimulatorTest, FastStepOfAVirtualButtonLetsMessagesRun) {
     EXPECT_LE(mostExchanges, 3U);
     EXPECT_EQ(last, 38U);
     std::string sent;
-    for (int time = 0; time < 20; ++time) sent += Pressed(1) + Released(1);
+    for (int time = 0; time < 20; ++time) sent += Clicked(1);
     watch = [] {};
     ExpectSent(sent);
 }

@@ -121,7 +121,7 @@ TEST_F(UnreadValuesTest, OthersVirtualButtonsStayDown) {
     for (const auto& fail : failures) {
         Simulator<uint32_t>(0x3340, 0xF0), fail(), MoveSelectorTo(HDG), Click(Button::AP);
         for (int tick = 0; tick < 4; ++tick) Tick();
-        ExpectSent(Pressed(2) + Pressed(1) + Released(1));
+        ExpectSent(Pressed(2) + Clicked(1));
         fail(), MoveSelectorTo(None);
         EXPECT_EQ(Sent() + Sent(), Released(2));
         EXPECT_EQ(sim.Get<uint32_t>(0x3340), 0xF0U);

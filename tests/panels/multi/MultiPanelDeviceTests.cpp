@@ -84,7 +84,8 @@ TEST_F(MultiPanelDeviceTest, SpeedFollowsThePulsesOfAPeriod) {
 
 TEST_F(MultiPanelDeviceTest, AccelerationSetsThePeriod) {
     panel->RotAcceleration(50);  // 200 ms
-    panel->TrimAcceleration(0), Pulse(kKnobRight, 20), Heard();
+    panel->TrimAcceleration(0);
+    Pulse(kKnobRight, 20), Heard();
     WaitMs(199), Pulse(kKnobRight, 2), WaitMs(1), Pulse(kKnobRight, 2);
     ExpectHeard(KnobRight(1) + KnobRight(20));
     WaitMs(1000), Pulse(kTrimUp, 20), WaitMs(1000), Heard();

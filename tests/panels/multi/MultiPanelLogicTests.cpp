@@ -158,14 +158,14 @@ TEST_F(MultiPanelFlight, RecordsGoOutInsteadOfTheBuiltInBehaviour) {
 }
 
 TEST_F(MultiPanelFlight, VirtualButtonsArePressedAndReleasedOrHeldByTheirPlace) {
-    const auto click = [](int n) { return Pressed(n) + Released(n); };
     Fly("", Bound("VButton,64,")), Simulator<uint32_t>(0x3340, 1U << 11);
     MoveSelectorTo(HDG), TurnKnob(+3), TurnKnob(-1);
-    ExpectSent(Pressed(1) + click(3) + click(3) + click(3) + click(4));
+    ExpectSent(Pressed(1) + Clicked(3) + Clicked(3) + Clicked(3) + Clicked(4));
     MoveSelectorTo(CRS), ExpectSent(Pressed(2) + Released(1));
     MoveSelectorTo(IAS), ExpectSent(Released(2));
     Click(Button::NAV), LongClick(Button::NAV), TurnTrim(+2), TurnTrim(-1), FlapsUp(), FlapsDown();
-    ExpectSent(click(5) + click(6) + click(7) + click(7) + click(8) + click(9) + click(10));
+    ExpectSent(Clicked(5) + Clicked(6) + Clicked(7) + Clicked(7) + Clicked(8) + Clicked(9) +
+               Clicked(10));
     SetAutoThrottle(true), ExpectSent(Pressed(11));
     SetAutoThrottle(false), ExpectSent(Released(12) + Released(11));
     Fly("", "SelectorActionHDG=VKey,64,1,0\r\nSelectorActionCRS=VButton,64,2\r\n");

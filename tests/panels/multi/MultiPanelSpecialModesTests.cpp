@@ -56,7 +56,7 @@ TEST_F(MultiPanelSpecialModeTest, NGXButtonsAndLeversGoOutAsControls) {
     Click(Button::AP), LongClick(Button::AP), Click(Button::IAS);
     ExpectSent(SentControl(70034, kLeftClick) + SentControl(70035, kLeftClick) +
                SentControl(70019, kLeftClick));
-    Click(Button::REV), ExpectSent(Pressed(1) + Released(1), "a record comes first");
+    Click(Button::REV), ExpectSent(Clicked(1), "a record comes first");
     const uint64_t before = machine.clock.Elapsed();
     const std::string trimUp = SentControl(65615, 0), trimDown = SentControl(65607, 0);
     const std::string flapsUp = SentControl(65759, 0), flapsDown = SentControl(65758, 0);
@@ -103,8 +103,7 @@ TEST_F(MultiPanelSpecialModeTest, MaddogButtons) {
     SetAutoThrottle(true), SetAutoThrottle(false);
     ExpectSent(SentControl(69665, 1) + SentControl(69665, 0));
     TurnTrim(+1), TurnTrim(-1), FlapsDown();
-    ExpectSent(Pressed(1) + Released(1) + WroteWord(kTrim, -32) + WroteWord(kFlaps, 0),
-               "as standard");
+    ExpectSent(Clicked(1) + WroteWord(kTrim, -32) + WroteWord(kFlaps, 0), "as standard");
 }
 
 TEST_F(MultiPanelSpecialModeTest, MaddogKnobChangesAndSendsThePanelsOwnValues) {

@@ -256,8 +256,7 @@ TEST_F(RadioPanelLogicTest, BoundVirtualButtonIsDownAsLongAsThePanelsOwn) {
                Released(2));
     Release(), nextTick(), LongClick(), Release(), nextTick(), LongClick(), nextTick(), Click();
     nextTick();
-    ExpectSent(tick + Pressed(2) + Released(2) + tick + Pressed(2) + tick + Released(2) +
-                   Pressed(1) + tick,
+    ExpectSent(tick + Clicked(2) + tick + Pressed(2) + tick + Released(2) + Pressed(1) + tick,
                "each comes up");
     At(Lower), MoveSelectorTo(DME), Click(), nextTick(), At(Upper), Release(), Click(), nextTick();
     At(Lower), Release(), nextTick(), At(Upper), Release();
@@ -267,8 +266,7 @@ TEST_F(RadioPanelLogicTest, BoundVirtualButtonIsDownAsLongAsThePanelsOwn) {
     Reconnect(), ExpectSent(Released(2), "in the next session");
     RadioLogic().ButtonClick(0x2000);  // not one of the panel's
     MoveSelectorTo(COM1), Click(), MoveSelectorTo(DME), Release(), Click(), LongClick(), Release();
-    ExpectSent(Pressed(1) + Released(1) + Pressed(3) + Released(3) + Typed(65),
-               "the selector has moved");
+    ExpectSent(Clicked(1) + Clicked(3) + Typed(65), "the selector has moved");
     Click(), Fly("ADFMode=0"), Release(), nextTick(), MoveSelectorTo(COM1), Click(), Release();
     ExpectSent(Released(3) + tick + WroteByte(kSwap, 8), "the bindings are new");
 }
@@ -279,8 +277,7 @@ TEST_F(RadioPanelLogicTest, SelectorHoldsItsVirtualButtonForAWhileAndGoesOnMeanw
     MoveSelectorTo(ADF), MoveSelectorTo(DME), MoveSelectorTo(ADF);
     Expect(Pressed(2), "05.6|0345.3");
     machine.loop.Advance(200);
-    ExpectSent(Released(2) + Pressed(1) + Released(1) + Pressed(2) + Released(2),
-               "one after the other");
+    ExpectSent(Released(2) + Clicked(1) + Clicked(2), "one after the other");
     MoveSelectorTo(DME), MoveSelectorTo(ADF), MoveSelectorTo(DME), ExpectSent(Pressed(1));
     LoseSimulator(), machine.loop.Advance(100), Connect(), machine.loop.Advance(200);
     ExpectSent(Released(1), "those that waited are not for the next session");
