@@ -29,7 +29,7 @@ inline constexpr Happening Waited{"Waited"};  // milliseconds
 inline constexpr uint32_t kBatteryMaster = 0x281C, kAvionicsMaster = 0x2E80;
 inline constexpr int32_t kLeftClick = 0x20000000;  // parameter of an add-on's control
 
-// A session in which a panel's logic is driven directly, and what goes out of it.
+// A session with panels that a test moves, and what goes out of their logics.
 struct PanelFlight : testing::Test, VirtualCockpit {
     OffsetServer& sim = machine.server;
     std::string told;

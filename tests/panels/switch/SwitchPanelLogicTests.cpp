@@ -31,7 +31,7 @@ std::string Each(const PerEngine& offsets, auto wrote, auto value) {
     return text;
 }
 
-// A session with one Switch Panel, whose logic is driven directly.
+// A session with one Switch Panel, whose switches are thrown by their numbers.
 struct SwitchPanelLogicTest : PanelFlight {
     VirtualDevice& device = Plug(PanelKind::Switch);
     int32_t position = kSelectorOff;
