@@ -6,31 +6,25 @@
 namespace {
 
 TEST(ProcessSettingsTest, AffinityLeavesTheFirstProcessorsToTheSimulator) {
-    const struct {
-        int32_t option;
-        uint64_t processMask;
-        uint64_t chosen;
-    } cases[] = {
-        {-1, 0, 1},
-        {-1, 1, 1},
-        {-1, 2, 1},
-        {-1, 3, 2},
-        {-1, 6, 2},
-        {-1, 7, 4},
-        {-1, 14, 4},
-        {-1, 15, 12},
-        {-1, 255, 252},
-        {-1, 0xFFFFF, 65532},
-        {-1, 0xFFFFFFFF, 65532},
-        {-1, ~uint64_t{0}, 65532},
-        {-1, 0x80000000F0, 0xF0},
-        {-1, 0xF00000000, 0xF00000000},  // none of the third to sixteenth
-        {5, 1, 5},
-        {0, 15, 0},
-    };
-    for (const auto& test : cases) {
-        EXPECT_EQ(ChooseAffinity(test.option, test.processMask), test.chosen) << test.processMask;
-    }
+    const std::pair<uint64_t, uint64_t> chosen[] = {
+        {0, 1},
+        {1, 1},
+        {2, 1},
+        {3, 2},
+        {6, 2},
+        {7, 4},
+        {14, 4},
+        {15, 12},
+        {255, 252},
+        {0xFFFFF, 65532},
+        {0xFFFFFFFF, 65532},
+        {~uint64_t{0}, 65532},
+        {0x80000000F0, 0xF0},
+        {0xF00000000, 0xF00000000}};  // none of the third to sixteenth
+    for (const auto& [ofProcess, mask] : chosen)
+        EXPECT_EQ(ChooseAffinity(-1, ofProcess), mask) << ofProcess;
+    EXPECT_EQ(ChooseAffinity(5, 1), 5U);
+    EXPECT_EQ(ChooseAffinity(0, 15), 0U);
 }
 
 TEST(ProcessSettingsTest, PriorityGoesToTheProcessMeant) {

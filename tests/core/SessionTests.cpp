@@ -14,6 +14,15 @@ struct SessionTest : testing::Test, VirtualCockpit {
         return Window().Status.Text.Get() + "|" + Window().FSUIPCver.Text.Get() + "|" +
                Window().FSver.Text.Get() + "|" + Window().Aircraft.Text.Get();
     }
+    void Begin(const std::string& options = "Splash=0\r\n") {
+        ASSERT_TRUE(Start(options));
+        Connect();
+    }
+    size_t MessagesWithin(uint32_t milliseconds) {
+        machine.ipc.ForgetSentMessages();
+        machine.loop.Advance(milliseconds);
+        return machine.ipc.SentMessages().size();
+    }
     const TrayRecord& Icon() { return machine.tray.records.back().second; }
 
     static constexpr const char* kDisconnected =
@@ -35,9 +44,7 @@ TEST_F(SessionTest, LooksForTheSimulatorOnceASecondUntilItComesUp) {
     EXPECT_EQ(program->Session.FSVersion, 8);
     Tick();
     EXPECT_EQ(Window().Aircraft.Text.Get(), "Aircraft in use: Baron 58");
-    machine.ipc.ForgetSentMessages();
-    machine.loop.Advance(1000);
-    EXPECT_EQ(machine.ipc.SentMessages().size(), 100U) << "one exchange in 10 ms";
+    EXPECT_EQ(MessagesWithin(1000), 100U) << "one exchange in 10 ms";
 }
 
 TEST_F(SessionTest, SimulatorNumbersBeyondTheListShowAsNumbers) {
@@ -58,20 +65,15 @@ TEST_F(SessionTest, AircraftIsBoundWhenItsTitleChanges) {
     const ScopedConnection reads = machine.server.Reading.Connect(
         [&](uint32_t offset, uint32_t) { bindings += offset == 0x060C ? 1 : 0; });
     machine.server.Set<int16_t>(0x060C, 1);
-    ASSERT_TRUE(Start());
-    Connect();
-    Tick();
+    Begin(), Tick();
     EXPECT_EQ(bindings, 1);
     EXPECT_TRUE(program->Session.GearIsRetractable);
-    SetTitle("");
-    Tick();
+    SetTitle(""), Tick();
     EXPECT_EQ(bindings, 1);
     EXPECT_EQ(Window().Aircraft.Text.Get(), "Aircraft in use: ");
-    SetTitle("Baron 58");
-    Tick();
+    SetTitle("Baron 58"), Tick();
     EXPECT_EQ(bindings, 1) << "an empty title in between changes nothing";
-    SetTitle(std::string(100, 'T'));
-    Tick();
+    SetTitle(std::string(100, 'T')), Tick();
     EXPECT_EQ(Window().Aircraft.Text.Get(), "Aircraft in use: " + std::string(60, 'T'));
 }
 
@@ -105,9 +107,7 @@ TEST_F(SessionTest, WhatTheSimulatorDoesNotGiveAtOnceIsAskedForAgain) {
     EXPECT_EQ(Texts(),
               "FSUIPC Status: Connected|FSUIPC Version: 3.9990|Flight Simulator Version: FS2004|"
               "Aircraft in use: Baron 58");
-    machine.ipc.ForgetSentMessages();
-    machine.loop.Advance(100);
-    EXPECT_EQ(machine.ipc.SentMessages().size(), 10U) << "and not once it is known";
+    EXPECT_EQ(MessagesWithin(100), 10U) << "and not once it is known";
 }
 
 TEST_F(SessionTest, InputWithoutASessionIsDropped) {
@@ -128,8 +128,7 @@ TEST_F(SessionTest, InputWithoutASessionIsDropped) {
 
 TEST_F(SessionTest, LostSessionDarkensThePanelAndIsFoundAgain) {
     panel.positions = {0, 0x08, 0, 0};
-    ASSERT_TRUE(Start());
-    Connect();
+    Begin();
     const uint32_t shape = program->Session.OffsetTable.Shape();
     LoseSimulator();
     EXPECT_FALSE(program->Session.FSConnected);
@@ -139,8 +138,7 @@ TEST_F(SessionTest, LostSessionDarkensThePanelAndIsFoundAgain) {
     EXPECT_EQ(machine.ipc.OpenViews() + machine.ipc.OpenAtoms() + machine.ipc.OpenMappings(), 0U);
     machine.loop.Advance(3000);
     EXPECT_EQ(panel.featureReports.back(), kDark);
-    Connect();
-    Tick();
+    Connect(), Tick();
     EXPECT_EQ(Window().Status.Text.Get(), "FSUIPC Status: Connected");
     EXPECT_EQ(Window().Aircraft.Text.Get(), "Aircraft in use: Baron 58");
     EXPECT_NE(panel.featureReports.back(), kDark);
@@ -154,7 +152,7 @@ TEST_F(SessionTest, ServersThatMisbehaveEndTheSessionAndNothingElse) {
     machine.ipc.AfterServing([](std::span<uint8_t> block) { block[0] = 9; });
     Tick();
     EXPECT_FALSE(program->Session.FSConnected) << "garbage";
-    machine.loop.Advance(5000);
+    EXPECT_EQ(MessagesWithin(5000), 5U) << "tried once a second";
     EXPECT_EQ(Texts(), kDisconnected);
     machine.ipc.AfterServing({});
     machine.loop.Advance(2000);
@@ -165,9 +163,7 @@ TEST_F(SessionTest, ServersThatMisbehaveEndTheSessionAndNothingElse) {
 }
 
 TEST_F(SessionTest, AutoQuitLeavesWithTheSimulator) {
-    ASSERT_TRUE(Start("Splash=0\r\nAutoQuit=1\r\n"));
-    Connect();
-    LoseSimulator();
+    Begin("Splash=0\r\nAutoQuit=1\r\n"), LoseSimulator();
     EXPECT_TRUE(Window().IsUnloaded());
     EXPECT_TRUE(machine.loop.QuitWasCalled());
     EXPECT_NE(machine.files.Look("C:\\Orvo\\Orvo.ini")->find("OrvoPriority=32"), std::string::npos);
@@ -177,17 +173,14 @@ TEST_F(SessionTest, AutoQuitLeavesWithTheSimulator) {
 }
 
 TEST_F(SessionTest, QuittingIsAskedForAndEndsInOrder) {
-    ASSERT_TRUE(Start());
-    Connect();
+    Begin();
     ui.Answer = [](const MsgBoxRequest&) { return MsgBoxResult::Cancel; };
     Window().btnQuit.Press();
     EXPECT_FALSE(Window().IsUnloaded());
     ui.Answer = [&](const MsgBoxRequest& box) {
         EXPECT_EQ(box.text, "           Are you sure ?\nQuitting will stop the panels.");
         EXPECT_EQ(box.title, " ORVO - Quit request");
-        const size_t sent = machine.ipc.SentMessages().size();
-        machine.loop.Advance(100);
-        EXPECT_EQ(machine.ipc.SentMessages().size(), sent + 10) << "the tick goes on under the box";
+        EXPECT_EQ(MessagesWithin(100), 10U) << "the tick goes on under the box";
         return MsgBoxResult::Ok;
     };
     Window().Left = 3000;
@@ -210,8 +203,7 @@ TEST_F(SessionTest, QuittingIsAskedForAndEndsInOrder) {
 
 // A press that waited while the simulator hung: its box opens in the middle of the lost session.
 TEST_F(SessionTest, SimulatorThatComesBackUnderABoxOfTheLostSessionIsKept) {
-    ASSERT_TRUE(Start());
-    Connect();
+    Begin();
     ui.Answer = [&](const MsgBoxRequest&) {
         machine.ipc.AnswerWith(0, 0);
         Connect();
@@ -229,8 +221,7 @@ TEST_F(SessionTest, SimulatorThatComesBackUnderABoxOfTheLostSessionIsKept) {
 }
 
 TEST_F(SessionTest, AutoQuitUnderTheQuitBoxEndsOnce) {
-    ASSERT_TRUE(Start("Splash=0\r\nAutoQuit=1\r\n"));
-    Connect();
+    Begin("Splash=0\r\nAutoQuit=1\r\n");
     ui.Answer = [&](const MsgBoxRequest&) {
         LoseSimulator();
         EXPECT_TRUE(Window().IsUnloaded());
@@ -247,8 +238,7 @@ TEST_F(SessionTest, AutoQuitUnderTheQuitBoxEndsOnce) {
 }
 
 TEST_F(SessionTest, EndOfTheUsersSessionLeavesNoPanelLit) {
-    ASSERT_TRUE(Start());
-    Connect();
+    Begin();
     ASSERT_NE(panel.featureReports.back(), kDark);
     Window().Unload();
     for (int i = 0; i < 2; ++i) Window().SessionEnding.Raise();

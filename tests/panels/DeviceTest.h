@@ -51,5 +51,8 @@ struct DeviceTest : testing::Test {
     void WaitMs(uint32_t milliseconds) { machine.loop.Advance(milliseconds); }
     // What was told, and what was written to the panel, since the last time.
     std::string Heard() { return std::exchange(told, {}); }
+    void ExpectHeard(const std::string& all, const char* why = "", Where where = Where::current()) {
+        ExpectAt(where, Heard(), all, why);
+    }
     Reports Written() { return std::exchange(device.featureReports, {}); }
 };

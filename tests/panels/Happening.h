@@ -2,6 +2,8 @@
 
 #include <concepts>
 #include <cstdint>
+#include <gtest/gtest.h>
+#include <source_location>
 #include <sstream>
 #include <string>
 #include <utility>
@@ -34,3 +36,12 @@ struct Happening {
 };
 
 inline constexpr const char* kNothing = "";
+
+using Where = std::source_location;
+
+// For a fixture's own expectations: fails at the line of the test that has them.
+inline void ExpectAt(const Where& where, const std::string& actual, const std::string& expected,
+                     const char* why = "") {
+    const testing::ScopedTrace line(where.file_name(), static_cast<int>(where.line()), why);
+    EXPECT_EQ(actual, expected);
+}

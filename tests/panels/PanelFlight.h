@@ -2,7 +2,6 @@
 
 #include <cstring>
 #include <gtest/gtest.h>
-#include <source_location>
 #include <string>
 #include <type_traits>
 #include <utility>
@@ -14,6 +13,7 @@
 // What goes out of a panel's logic. Virtual buttons are those of the first joystick.
 inline constexpr Happening SentControl{"SentControl"};  // number and parameter
 inline constexpr Happening Pressed{"Pressed"}, Released{"Released"};
+inline std::string Clicked(int number) { return Pressed(number) + Released(number); }
 inline constexpr Happening ButtonsWrittenAsTheyWere{"ButtonsWrittenAsTheyWere"};
 inline constexpr Happening Typed{"Typed"};  // virtual key code
 
@@ -29,7 +29,7 @@ inline constexpr Happening Waited{"Waited"};  // milliseconds
 inline constexpr uint32_t kBatteryMaster = 0x281C, kAvionicsMaster = 0x2E80;
 inline constexpr int32_t kLeftClick = 0x20000000;  // parameter of an add-on's control
 
-// A session in which a panel's logic is driven directly, and what goes out of it.
+// A session with panels that a test moves, and what goes out of their logics.
 struct PanelFlight : testing::Test, VirtualCockpit {
     OffsetServer& sim = machine.server;
     std::string told;
@@ -70,17 +70,14 @@ struct PanelFlight : testing::Test, VirtualCockpit {
     // The rows of the panel.
     virtual std::string Shown() { return VirtualCockpit::Shown(); }
 
-    using Where = std::source_location;
     // This has gone out by the next tick, no more and no less.
-    void ExpectSent(const std::string& sent, Where where = Where::current()) {
-        const testing::ScopedTrace line(where.file_name(), static_cast<int>(where.line()), "");
-        EXPECT_EQ(Sent(), sent);
+    void ExpectSent(const std::string& sent, const char* why = "", Where where = Where::current()) {
+        ExpectAt(where, Sent(), sent, why);
     }
     // And the rows show this then.
     void Expect(const std::string& sent, const std::string& shown, Where where = Where::current()) {
-        const testing::ScopedTrace line(where.file_name(), static_cast<int>(where.line()), "");
-        EXPECT_EQ(Sent(), sent);
-        EXPECT_EQ(Shown(), shown);
+        ExpectAt(where, Sent(), sent);
+        ExpectAt(where, Shown(), shown);
     }
     void ExpectShown(const std::string& shown, Where where = Where::current()) {
         Expect(kNothing, shown, where);

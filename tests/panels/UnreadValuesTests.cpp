@@ -38,8 +38,7 @@ TEST_F(UnreadValuesTest, StepsAndTogglesAreDoneOnceTheirValueIsRead) {
             {[&] { Click(Button::AP); }, WroteDword(kAutopilot, 0)},
         };
         for (const auto& [act, sent] : acts) {
-            fail();
-            act();
+            fail(), act();
             EXPECT_EQ(Sent() + Sent(), sent);
         }
     }
@@ -47,12 +46,10 @@ TEST_F(UnreadValuesTest, StepsAndTogglesAreDoneOnceTheirValueIsRead) {
 
 TEST_F(UnreadValuesTest, ActsThatWaitKeepTheirOrderAndEndWithTheSession) {
     failures[0]();
-    TurnTrim(+1), TurnTrim(-3), Click(Button::HDG);
-    Tick(), Tick(), Tick();
+    TurnTrim(+1), TurnTrim(-3), Click(Button::HDG), Tick(), Tick(), Tick();
     ExpectSent(WroteWord(kTrim, 32) + WroteWord(kTrim, -64) + WroteDword(0x07C8, 1));
     failures[0]();
-    TurnTrim(+1);
-    Reconnect(), ExpectSent(kNothing);
+    TurnTrim(+1), Reconnect(), ExpectSent(kNothing);
 }
 
 TEST_F(UnreadValuesTest, KnobsStartFromTheFirstTickOfSessionBindingAndMode) {
@@ -69,10 +66,8 @@ TEST_F(UnreadValuesTest, KnobsStartFromTheFirstTickOfSessionBindingAndMode) {
          }},
     };
     for (const auto& [what, begin] : beginnings) {
-        Simulator(kHeading, 32768), Simulator(kStandby1, 0x2200);
-        begin();
-        Simulator(kHeading, 16384), Simulator(kStandby1, 0x2300);
-        turnBoth();
+        Simulator(kHeading, 32768), Simulator(kStandby1, 0x2200), begin();
+        Simulator(kHeading, 16384), Simulator(kStandby1, 0x2300), turnBoth();
         EXPECT_EQ(told, kNothing) << what;
         Simulator(kHeading, 0), Simulator(kStandby1, 0x2600);
         EXPECT_EQ(Sent() + Sent(), WroteWord(kHeading, 182) + WroteWord(kStandby1, 0x2700)) << what;
@@ -80,9 +75,7 @@ TEST_F(UnreadValuesTest, KnobsStartFromTheFirstTickOfSessionBindingAndMode) {
 }
 
 TEST_F(UnreadValuesTest, TickWhoseReplyEndsEarlyHasReadNothing) {
-    LoseSimulator();
-    Link();
-    Simulator(kHeading, 16384);
+    LoseSimulator(), Link(), Simulator(kHeading, 16384);
     machine.ipc.AfterServing([](std::span<uint8_t> block) { std::ranges::fill(block, 0); });
     Tick();
     machine.ipc.AfterServing({});
@@ -92,18 +85,13 @@ TEST_F(UnreadValuesTest, TickWhoseReplyEndsEarlyHasReadNothing) {
 
 TEST_F(UnreadValuesTest, SwitchesThatNeedAValueAskForItBeforeTheFirstTick) {
     SwitchLogic().SPActions->SingleFuelPump = true;
-    Simulator<uint8_t>(kPumps, 0x0C);
-    LoseSimulator();
-    Link();
-    Throw(SwitchNumber::kFuelPump), ExpectSent(WroteByte(kPumps, 0x0D));
-    Fly("ngx");
-    Simulator<uint8_t>(kAddOnThrottle, 1);
+    Simulator<uint8_t>(kPumps, 0x0C), LoseSimulator();
+    Link(), Throw(SwitchNumber::kFuelPump), ExpectSent(WroteByte(kPumps, 0x0D));
+    Fly("ngx"), Simulator<uint8_t>(kAddOnThrottle, 1);
     Window().cmbProfiles.SetListIndex(0);
-    SetAutoThrottle(true);
-    EXPECT_EQ(Sent(), kNothing) << "the add-on's switch stands there already";
+    SetAutoThrottle(true), ExpectSent(kNothing, "the add-on's switch stands there already");
     SetAutoThrottle(false), ExpectSent(SentControl(70012, kLeftClick));
-    Fly("maddog");
-    Simulator<int32_t>(kAutopilot, 1);
+    Fly("maddog"), Simulator<int32_t>(kAutopilot, 1);
     Window().cmbProfiles.SetListIndex(0);
     Click(Button::AP), ExpectSent(SentControl(69666, 0));
 }
@@ -144,8 +132,7 @@ TEST_F(UnreadValuesTest, FirstReportWithEverythingOnArrivesWholeAfterAReadInVain
     EXPECT_EQ(word, 0x3F);
     for (const auto& fail : failures) {
         machine.bus.Find("SwitchPanel1")->SendReport({0x00, 0x00, 0x20, 0x04});
-        Sent();
-        fail();
+        Sent(), fail();
         EXPECT_EQ(everything().size(), writes.size());
         EXPECT_EQ(sim.Get<uint16_t>(kLightsWord), word);
     }
@@ -154,14 +141,10 @@ TEST_F(UnreadValuesTest, FirstReportWithEverythingOnArrivesWholeAfterAReadInVain
 TEST_F(UnreadValuesTest, OthersVirtualButtonsStayDown) {
     Fly("", "ButtonActionAP=VButton,64,1\r\nSelectorActionHDG=VButton,64,2\r\n");
     for (const auto& fail : failures) {
-        Simulator<uint32_t>(0x3340, 0xF0);
-        fail();
-        MoveSelectorTo(HDG);
-        Click(Button::AP);
+        Simulator<uint32_t>(0x3340, 0xF0), fail(), MoveSelectorTo(HDG), Click(Button::AP);
         for (int tick = 0; tick < 4; ++tick) Tick();
-        ExpectSent(Pressed(2) + Pressed(1) + Released(1));
-        fail();
-        MoveSelectorTo(None);
+        ExpectSent(Pressed(2) + Clicked(1));
+        fail(), MoveSelectorTo(None);
         EXPECT_EQ(Sent() + Sent(), Released(2));
         EXPECT_EQ(sim.Get<uint32_t>(0x3340), 0xF0U);
     }

@@ -17,7 +17,9 @@ TEST_F(ActionTest, WholeTextsAreTakenAndOthersLeaveTheRecord) {
     const std::pair<const char*, const char*> whole[] = {{"none", "None"},
                                                          {"OFFSET", "Offset"},
                                                          {"vbutton,0,255", "VButton,0,255"},
-                                                         {"VKEY,65,3,-65", "VKey,65,3,-65"}};
+                                                         {"VKEY,65,3,-65", "VKey,65,3,-65"},
+                                                         {" VButton , 64,\t3", "VButton,64,3"},
+                                                         {"VKey, 65, 1 , 97", "VKey,65,1,97"}};
     ActionRecord record{VKey, 7, 8, 9};
     for (const char* text :
          {"", ",", "Macro,1", "Nonesuch", "VButton", "VButton,64", "VButton,64,", "VButton,256,1",

@@ -10,12 +10,21 @@
 namespace {
 
 struct FsuipcTest : testing::Test, SimulatorLink {
+    static constexpr int32_t kDone = -1;
     std::array<uint8_t, 40000> data{};
+
+    // What comes of an exchange, or of asking for one: the code of the failure, or kDone.
+    int32_t Process() { return fsuipc.FSUIPC_Process(result) ? kDone : result; }
+    int32_t Read(int32_t count) {
+        return fsuipc.FSUIPC_Read(0, count, data.data(), result) ? kDone : result;
+    }
+    int32_t Reopen(int32_t version = 0) {
+        return fsuipc.FSUIPC_Open(version, result) ? kDone : result;
+    }
 
     void ExpectClosed() {
         EXPECT_FALSE(fsuipc.IsOpen());
-        EXPECT_EQ(machine.ipc.OpenAtoms(), 0U);
-        EXPECT_EQ(machine.ipc.OpenMappings(), 0U);
+        EXPECT_EQ(machine.ipc.OpenAtoms() + machine.ipc.OpenMappings(), 0U);
         EXPECT_EQ(machine.ipc.OpenViews(), 0U);
     }
 };
@@ -63,8 +72,7 @@ TEST_F(FsuipcTest, OpenFailuresGiveTheirCodeAndLeaveTheChannelClosed) {
         machine.ipc.AddWindow("UIPCMAIN");
         machine.server.SetVersion(0x39990005, 8);
         test.prepare();
-        EXPECT_FALSE(fsuipc.FSUIPC_Open(0, result));
-        EXPECT_EQ(result, test.code);
+        EXPECT_EQ(Reopen(), test.code);
         machine.ipc.CloseHandle(std::exchange(other, 0));
         ExpectClosed();
     }
@@ -74,20 +82,17 @@ TEST_F(FsuipcTest, SecondWindowClassIsTheSecondChoice) {
     ASSERT_TRUE(Open("FS98MAIN"));
     fsuipc.FSUIPC_Close();
     machine.server.SetVersion(0x19980004, 8);
-    EXPECT_FALSE(fsuipc.FSUIPC_Open(0, result));
-    EXPECT_EQ(result, 14);
+    EXPECT_EQ(Reopen(), 14);
 }
 
 TEST_F(FsuipcTest, AskingForAnotherSimulatorClosesAndOpeningTwiceChangesNothing) {
     machine.ipc.AddWindow("UIPCMAIN");
-    EXPECT_FALSE(fsuipc.FSUIPC_Open(7, result));
-    EXPECT_EQ(result, 8);
+    EXPECT_EQ(Reopen(7), 8);
     ExpectClosed();
-    EXPECT_TRUE(fsuipc.FSUIPC_Open(8, result));
-    ASSERT_TRUE(fsuipc.FSUIPC_Read(0x100, 4, data.data(), result));
-    EXPECT_FALSE(fsuipc.FSUIPC_Open(0, result));
-    EXPECT_EQ(result, 1);
-    EXPECT_TRUE(fsuipc.FSUIPC_Process(result));
+    EXPECT_EQ(Reopen(8), kDone);
+    EXPECT_EQ(Read(4), kDone);
+    EXPECT_EQ(Reopen(), 1);
+    EXPECT_EQ(Process(), kDone);
 }
 
 TEST_F(FsuipcTest, ZerosAreAskedForFiveTimes) {
@@ -126,14 +131,11 @@ TEST_F(FsuipcTest, BatchLimitsToTheByte) {
 }
 
 TEST_F(FsuipcTest, ClosedAndEmptyChannelsSendNothing) {
-    EXPECT_FALSE(fsuipc.FSUIPC_Read(0, 4, data.data(), result));
-    EXPECT_EQ(result, 9);
-    EXPECT_FALSE(fsuipc.FSUIPC_Process(result));
-    EXPECT_EQ(result, 9);
+    EXPECT_EQ(Read(4), 9);
+    EXPECT_EQ(Process(), 9);
     ASSERT_TRUE(Open());
     machine.ipc.ForgetSentMessages();
-    EXPECT_FALSE(fsuipc.FSUIPC_Process(result));
-    EXPECT_EQ(result, 10);
+    EXPECT_EQ(Process(), 10);
     EXPECT_TRUE(machine.ipc.SentMessages().empty());
 }
 
@@ -144,7 +146,7 @@ TEST_F(FsuipcTest, OneBatchCarriesWritesBeforeReads) {
     fsuipc.FSUIPC_Write(0x200, 4, value, result);
     fsuipc.FSUIPC_Read(0x200, 4, data.data(), result);
     fsuipc.FSUIPC_Read(0x200, 2, nullptr, result);
-    ASSERT_TRUE(fsuipc.FSUIPC_Process(result));
+    EXPECT_EQ(Process(), kDone);
     EXPECT_EQ(LoadLE32(data.data()), 0x04030201U);
     EXPECT_EQ(machine.server.Get<int32_t>(0x3110), 65615);
     EXPECT_EQ(machine.server.Get<int32_t>(0x3114), -2);
@@ -155,25 +157,22 @@ TEST_F(FsuipcTest, UnansweredMessagesAreRepeated) {
     const struct {
         int timeouts;
         uint32_t error;
-        bool done;
         size_t messages;
         int32_t code;
     } cases[] = {
-        {9, 1460, true, 10, 0},
-        {10, 1460, false, 11, 11},  // the tenth repeat went through, and counts for nothing
-        {11, 1460, false, 11, 12},
-        {11, 0, false, 11, 11},
+        {9, 1460, 10, kDone},
+        {10, 1460, 11, 11},  // the tenth repeat went through, and counts for nothing
+        {11, 1460, 11, 12},
+        {11, 0, 11, 11},
     };
     for (const auto& test : cases) {
         SCOPED_TRACE(test.timeouts);
         machine.ipc.ForgetSentMessages();
-        fsuipc.FSUIPC_Read(0, 4, data.data(), result);
+        Read(4);
         machine.ipc.TimeOut(test.timeouts, test.error);
-        EXPECT_EQ(fsuipc.FSUIPC_Process(result), test.done);
-        EXPECT_EQ(result, test.code);
+        EXPECT_EQ(Process(), test.code);
         EXPECT_EQ(machine.ipc.SentMessages().size(), test.messages);
-        EXPECT_FALSE(fsuipc.FSUIPC_Process(result)) << "the batch is consumed all the same";
-        EXPECT_EQ(result, 10);
+        EXPECT_EQ(Process(), 10) << "the batch is consumed all the same";
     }
 }
 
@@ -208,7 +207,7 @@ TEST_F(FsuipcTest, HostileRepliesFail) {
         for (const size_t outside : {7U, 12U, 15U, 20U}) EXPECT_EQ(data[outside], 0xAA);
         machine.ipc.AfterServing({});
         fsuipc.FSUIPC_Read(0x10, 4, &data[8], result);
-        EXPECT_TRUE(fsuipc.FSUIPC_Process(result)) << "the next batch is a clean one";
+        EXPECT_EQ(Process(), kDone) << "the next batch is a clean one";
     }
 }
 
@@ -225,38 +224,32 @@ TEST_F(FsuipcTest, ReplyOfZerosEndsTheWalk) {
 // Between two ticks the session may go on, so what was to be written is still to be.
 TEST_F(FsuipcTest, EventsExchangeInVainKeepsItsWritesAndNoRead) {
     ASSERT_TRUE(Open());
-    for (const bool refused : {true, false}) {
-        machine.server.Set<uint32_t>(0x200, 0);
-        machine.server.Set<uint16_t>(0x300, 0);
-        const uint8_t value[] = {1, 2, 3, 4};
+    const uint8_t value[] = {1, 2, 3, 4};
+    const auto exchangeInVain = [&] {
         data.fill(0xAA);
         fsuipc.FSUIPC_Read(0x100, 4, data.data(), result);
         fsuipc.FSUIPC_Write(0x200, 4, value, result);
         fsuipc.FSUIPC_Read(0x200, 4, &data[8], result);
         fsuipc.FSUIPC_Write(0x300, 2, value, result);
         machine.ipc.ForgetSentMessages();
-        if (refused) {
-            machine.ipc.RemoveWindows();
-        } else {
-            machine.ipc.TimeOut(11);
-        }
         EXPECT_FALSE(fsuipc.ProcessForEvent(result));
         const uint64_t before = machine.clock.Elapsed();
         EXPECT_FALSE(fsuipc.ProcessForEvent(result)) << "it isn't asked a second time";
         EXPECT_EQ(machine.clock.Elapsed(), before);
         EXPECT_EQ(machine.ipc.SentMessages().size(), 11U);
-        if (!refused) break;
-        fsuipc.FSUIPC_Close();
-        machine.ipc.AddWindow("UIPCMAIN");
-        ASSERT_TRUE(fsuipc.FSUIPC_Open(0, result));
-        EXPECT_EQ(machine.server.Get<uint16_t>(0x300), 0) << "not in another session";
-    }
-    ASSERT_TRUE(fsuipc.FSUIPC_Process(result));
+    };
+    machine.ipc.RemoveWindows();
+    exchangeInVain();
+    fsuipc.FSUIPC_Close();
+    ASSERT_TRUE(Open());
+    EXPECT_EQ(machine.server.Get<uint16_t>(0x300), 0) << "not in another session";
+    machine.ipc.TimeOut(11);
+    exchangeInVain();
+    EXPECT_EQ(Process(), kDone);
     EXPECT_EQ(machine.server.Get<uint32_t>(0x200), 0x04030201U);
     EXPECT_EQ(machine.server.Get<uint16_t>(0x300), 0x0201);
     EXPECT_EQ(data[0] & data[8], 0xAA);
-    EXPECT_FALSE(fsuipc.FSUIPC_Process(result));
-    EXPECT_EQ(result, 10) << "once";
+    EXPECT_EQ(Process(), 10) << "once";
 }
 
 // It has done what it was asked for, only too late.

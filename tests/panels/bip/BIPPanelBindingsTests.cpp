@@ -50,12 +50,4 @@ TEST_F(BIPPanelBindingsTest, WhatAHandWroteWrongCostsOnlyItsOwnTile) {
     EXPECT_EQ(Alone(holder), head + "T3=VAC_LOW,5\r\n") << "a colour without a word";
 }
 
-TEST_F(BIPPanelBindingsTest, TilesOfAHeldFileStay) {
-    auto holder = LoadedFrom("T3=VAC_LOW,Red,5\r\n");
-    machine.files.Hold("C:\\Orvo\\Default.ini");
-    holder.LoadSetup();
-    EXPECT_EQ(holder.GetThreshold(3), 5);
-    EXPECT_FALSE(holder.SaveSetup());
-}
-
 }  // namespace

@@ -78,11 +78,4 @@ TEST_F(MultiPanelBindingsTest, HolderOfAHeldFileKeepsWhatItHadAndSavesNothing) {
     EXPECT_EQ(machine.files.Look(jet), text);
 }
 
-TEST_F(MultiPanelBindingsTest, BlanksAroundThePiecesOfAnActionDontCount) {
-    Holder holder =
-        LoadedFrom("ButtonActionAP= VButton , 64,\t3\r\nFlapsActionUP=VKey, 65, 1 , 97\r\n");
-    EXPECT_EQ(Saved(holder),
-              head + "ButtonActionAP=VButton,64,3\r\nFlapsActionUP=VKey,65,1,97\r\n");
-}
-
 }  // namespace

@@ -39,7 +39,7 @@ struct MultiPanelDeviceTest : DeviceTest<ctlMultiPanel, PanelKind::Multi> {
         device.SendReport({0x77, 0, 0, 0});  // the first byte says nothing
         device.SendReport({0, 0x08, 0});     // too short
         machine.loop.RunPending();
-        EXPECT_EQ(Heard(), Selector(Position::kNone, Position::kNone) + Armed(false));
+        ExpectHeard(Selector(Position::kNone, Position::kNone) + Armed(false));
     }
     void Pulse(int32_t bit, int times = 1) {
         for (int i = 0; i < times; ++i) Send(bit, kAtRest);
@@ -48,18 +48,14 @@ struct MultiPanelDeviceTest : DeviceTest<ctlMultiPanel, PanelKind::Multi> {
 };
 
 TEST_F(MultiPanelDeviceTest, TwoPulsesMakeAStep) {
-    Pulse(kKnobRight);
-    EXPECT_EQ(Heard(), kNothing);
-    WaitMs(5000), Pulse(kKnobRight);
-    EXPECT_EQ(Heard(), KnobRight(1)) << "after any pause";
+    Pulse(kKnobRight), ExpectHeard(kNothing);
+    WaitMs(5000), Pulse(kKnobRight), ExpectHeard(KnobRight(1), "after any pause");
     WaitMs(300), Pulse(kKnobLeft), WaitMs(300), Pulse(kKnobRight);
-    EXPECT_EQ(Heard(), kNothing) << "each direction has its own pair";
-    WaitMs(300), Pulse(kKnobLeft);
-    EXPECT_EQ(Heard(), KnobLeft(1));
+    ExpectHeard(kNothing, "each direction has its own pair");
+    WaitMs(300), Pulse(kKnobLeft), ExpectHeard(KnobLeft(1));
     WaitMs(1000), Send(kTrimUp), WaitMs(249), Send(kAtRest, kTrimUp), WaitMs(250), Send(kAtRest);
-    EXPECT_EQ(Heard(), kNothing) << "released too late";
-    Pulse(kTrimUp);
-    EXPECT_EQ(Heard(), TrimUp(1));
+    ExpectHeard(kNothing, "released too late");
+    Pulse(kTrimUp), ExpectHeard(TrimUp(1));
 }
 
 TEST_F(MultiPanelDeviceTest, SpeedFollowsThePulsesOfAPeriod) {
@@ -76,9 +72,7 @@ TEST_F(MultiPanelDeviceTest, SpeedFollowsThePulsesOfAPeriod) {
     };
     for (const auto& test : cases) {
         SCOPED_TRACE(test.pulses);
-        WaitMs(1000), Pulse(test.bit, test.pulses), WaitMs(200);
-        Heard();
-        Pulse(test.bit, 2);
+        WaitMs(1000), Pulse(test.bit, test.pulses), WaitMs(200), Heard(), Pulse(test.bit, 2);
         EXPECT_TRUE(Heard().starts_with(test.step(test.speed)));
         WaitMs(200), Pulse(test.bit, 2);
         EXPECT_TRUE(Heard().starts_with(test.step(test.speed))) << "a few pulses keep the speed";
@@ -91,42 +85,37 @@ TEST_F(MultiPanelDeviceTest, SpeedFollowsThePulsesOfAPeriod) {
 TEST_F(MultiPanelDeviceTest, AccelerationSetsThePeriod) {
     panel->RotAcceleration(50);  // 200 ms
     panel->TrimAcceleration(0);
-    Pulse(kKnobRight, 20);
-    Heard();
+    Pulse(kKnobRight, 20), Heard();
     WaitMs(199), Pulse(kKnobRight, 2), WaitMs(1), Pulse(kKnobRight, 2);
-    EXPECT_EQ(Heard(), KnobRight(1) + KnobRight(20));
-    WaitMs(1000), Pulse(kTrimUp, 20), WaitMs(1000);
-    Heard();
-    Pulse(kTrimUp, 2);
-    EXPECT_EQ(Heard(), TrimUp(1)) << "no sampling";
+    ExpectHeard(KnobRight(1) + KnobRight(20));
+    WaitMs(1000), Pulse(kTrimUp, 20), WaitMs(1000), Heard();
+    Pulse(kTrimUp, 2), ExpectHeard(TrimUp(1), "no sampling");
 }
 
 TEST_F(MultiPanelDeviceTest, ClicksAndLongClicksAtTheThreshold) {
     setup.ClickThreshold = 500;
     Send(Button::kHDG);
     EXPECT_EQ(ButtonColor(1), kRed);
-    WaitMs(499), Send(kAtRest), WaitMs(1000);
-    EXPECT_EQ(Heard(), Click(Button::kHDG));
+    WaitMs(499), Send(kAtRest), WaitMs(1000), ExpectHeard(Click(Button::kHDG));
     EXPECT_EQ(ButtonColor(1), kWhite);
     Send(Button::kREV), WaitMs(2000), Send(kAtRest), WaitMs(1000);
-    EXPECT_EQ(Heard(), LongClick(Button::kREV));
+    ExpectHeard(LongClick(Button::kREV));
     setup.ClickThreshold = 100;
     Send(Button::kHDG), WaitMs(150);
-    EXPECT_EQ(Heard(), LongClick(Button::kHDG)) << "the option counts at once";
+    ExpectHeard(LongClick(Button::kHDG), "the option counts at once");
 }
 
 TEST_F(MultiPanelDeviceTest, LeversAndSelector) {
     Send(kFlapsUp | kArm | Position::kHDG);
-    EXPECT_EQ(Heard(), Selector(Position::kHDG, Position::kNone) + FlapsUp() + Armed(true));
+    ExpectHeard(Selector(Position::kHDG, Position::kNone) + FlapsUp() + Armed(true));
     EXPECT_EQ(panel->OnScreen.shpFlapsLever.Top, 780);
     EXPECT_EQ(panel->OnScreen.shpATLever.Left, 8580);
     EXPECT_EQ(panel->OnScreen.labUpperMode.Caption.Get(), "HDG");
     Send(kFlapsDown | Position::kALT);
-    EXPECT_EQ(Heard(), Selector(Position::kALT, Position::kHDG) + FlapsDown() + Armed(false));
+    ExpectHeard(Selector(Position::kALT, Position::kHDG) + FlapsDown() + Armed(false));
     EXPECT_EQ(panel->OnScreen.shpFlapsLever.Top, 1140);
     EXPECT_EQ(panel->OnScreen.labLowerMode.Caption.Get(), " VS");
-    Send(kAtRest);
-    EXPECT_EQ(Heard(), Selector(Position::kNone, Position::kALT));
+    Send(kAtRest), ExpectHeard(Selector(Position::kNone, Position::kALT));
     EXPECT_EQ(panel->OnScreen.shpFlapsLever.Top, 960);
     EXPECT_EQ(panel->OnScreen.labLowerMode.Caption.Get(), " VS") << "no position keeps the labels";
 }
@@ -162,8 +151,7 @@ TEST_F(MultiPanelDeviceTest, TextsAreEncodedRightAligned) {
 TEST_F(MultiPanelDeviceTest, OnlyChangesAreSentUnlessForcedOrDark) {
     device.featureReports.clear();
     panel->WriteDisplay("350", "-700", uint8_t{0x81});
-    panel->WriteDisplay("350", "-700", uint8_t{0x81});
-    panel->WriteDisplay();
+    panel->WriteDisplay("350", "-700", uint8_t{0x81}), panel->WriteDisplay();
     const Report shown = {
         0x00,                 // report id
         0x0A, 0x0A, 3, 5, 0,  // blank, blank, 350
@@ -172,9 +160,7 @@ TEST_F(MultiPanelDeviceTest, OnlyChangesAreSentUnlessForcedOrDark) {
         0x00,
     };
     EXPECT_EQ(device.featureReports, Reports{shown});
-    panel->WriteDisplay({}, {}, {}, true);
-    panel->TurnOffDisplay();
-    panel->TurnOffDisplay();
+    panel->WriteDisplay({}, {}, {}, true), panel->TurnOffDisplay(), panel->TurnOffDisplay();
     Report dark(shown.size(), 0x0F);                      // no segment
     for (const size_t at : {0, 11, 12}) dark[at] = 0x00;  // and no light
     EXPECT_EQ(device.featureReports, (Reports{shown, shown, dark, dark}));
@@ -184,8 +170,7 @@ TEST_F(MultiPanelDeviceTest, OnlyChangesAreSentUnlessForcedOrDark) {
 }
 
 TEST_F(MultiPanelDeviceTest, HeldButtonStaysRedUntilItsRelease) {
-    Send(Button::kAP);
-    panel->WriteDisplay({}, {}, uint8_t{0x03});
+    Send(Button::kAP), panel->WriteDisplay({}, {}, uint8_t{0x03});
     EXPECT_EQ(ButtonColor(0), kRed);
     EXPECT_EQ(ButtonColor(1), kYellow);
     Send(kAtRest);
@@ -196,20 +181,17 @@ TEST_F(MultiPanelDeviceTest, HeldButtonStaysRedUntilItsRelease) {
 
 TEST_F(MultiPanelDeviceTest, PositionsAreReadFromTheDevice) {
     device.positions = {0, 0x10, 0, 0};
-    panel->GetPositions();
-    EXPECT_EQ(Heard(), Selector(Position::kCRS, Position::kNone));
+    panel->GetPositions(), ExpectHeard(Selector(Position::kCRS, Position::kNone));
     machine.hid.Refuse(HidCall::GetFeature, 1);
     panel->GetPositions();
-    EXPECT_EQ(Heard(), Selector(Position::kNone, Position::kNone)) << "nothing read is no position";
-    Send(kAtRest);
-    EXPECT_EQ(Heard(), kNothing) << "the last report is still what reports are compared with";
+    ExpectHeard(Selector(Position::kNone, Position::kNone), "nothing read is no position");
+    Send(kAtRest), ExpectHeard(kNothing, "the last report is still what reports are compared with");
 }
 
 TEST_F(MultiPanelDeviceTest, SplashLetsReportsIn) {
     device.featureReports.clear();
     machine.loop.After(150, [this] { device.SendReport({0, 0x08, 0, 0}); });
-    panel->Splash();
-    EXPECT_EQ(Heard(), Selector(Position::kHDG, Position::kNone));
+    panel->Splash(), ExpectHeard(Selector(Position::kHDG, Position::kNone));
     ASSERT_GE(device.featureReports.size(), 12U);
     const Report second = {
         0x00,                          // report id
@@ -229,8 +211,7 @@ TEST_F(MultiPanelDeviceTest, EndTurnsOffStopsAndCloses) {
     EXPECT_EQ(machine.deckhub.ReadingCount(), 0);
     EXPECT_EQ(machine.hid.OpenCount(), 0U);
     EXPECT_EQ(machine.loop.TimerCount(), 0U);
-    EXPECT_EQ(Heard(), Selector(Position::kHDG, Position::kNone))
-        << "what had come in was still taken";
+    ExpectHeard(Selector(Position::kHDG, Position::kNone), "what had come in was still taken");
 }
 
 // As when the simulator answers late: reports wait, and all come at once.
@@ -262,9 +243,9 @@ TEST_F(MultiPanelDeviceTest, RestOfAReportComesBeforeTheNextOne) {
         WaitMs(3000);
     });
     Send(Position::kHDG | Button::kAP | kArm);
-    EXPECT_EQ(Heard(), Selector(Position::kHDG, Position::kNone) + Armed(true) +
-                           Selector(Position::kCRS, Position::kHDG) + Click(Button::kAP) +
-                           Armed(false) + Selector(Position::kIAS, Position::kCRS));
+    ExpectHeard(Selector(Position::kHDG, Position::kNone) + Armed(true) +
+                Selector(Position::kCRS, Position::kHDG) + Click(Button::kAP) + Armed(false) +
+                Selector(Position::kIAS, Position::kCRS));
 }
 
 }  // namespace

@@ -13,25 +13,8 @@ inline constexpr uint32_t kTrim = 0x0BC0, kFlaps = 0x0BDC, kAutoThrottle = 0x081
 
 // A session with one Multi Panel. Its control's events come to its logic as in the program.
 struct MultiPanelFlight : PanelFlight {
-    // As the panel sends them.
-    enum Position : int32_t {
-        None,
-        ALT = 0x010000,
-        VS = 0x020000,
-        IAS = 0x040000,
-        HDG = 0x080000,
-        CRS = 0x100000
-    };
-    enum class Button : int32_t {
-        AP = 0x800000,
-        HDG = 0x000100,
-        NAV = 0x000200,
-        IAS = 0x000400,
-        ALT = 0x000800,
-        VS = 0x001000,
-        APR = 0x002000,
-        REV = 0x004000
-    };
+    enum Position : int32_t { None, ALT, VS, IAS, HDG, CRS };
+    enum class Button : int32_t { AP = 1, HDG, NAV, IAS, ALT, VS, APR, REV };
 
     VirtualDevice& device = Plug(PanelKind::Multi);
     Position position = None;
@@ -42,7 +25,7 @@ struct MultiPanelFlight : PanelFlight {
     // What the pilot does. Steps are clockwise or up, with a minus the other way, and so many
     // within one event.
     void MoveSelectorTo(Position to) {
-        Multi().SelectorChange.Raise(to, std::exchange(position, to));
+        Multi().SelectorChange.Raise(Bit(to), Bit(std::exchange(position, to)));
     }
     void TurnKnob(int steps) { Turn(steps, Multi().RotaryUp, Multi().RotaryDown); }
     void TurnTrim(int steps) { Turn(steps, Multi().TrimUp, Multi().TrimDown); }
@@ -51,11 +34,11 @@ struct MultiPanelFlight : PanelFlight {
     void SetAutoThrottle(bool arm) { Multi().AutoThrottleChange.Raise(arm); }
     template <class... Buttons>
     void Click(Buttons... buttons) {
-        (Multi().ButtonClick.Raise(static_cast<int32_t>(buttons)), ...);
+        (Multi().ButtonClick.Raise(Bit(buttons)), ...);
     }
     template <class... Buttons>
     void LongClick(Buttons... buttons) {
-        (Multi().ButtonLongClick.Raise(static_cast<int32_t>(buttons)), ...);
+        (Multi().ButtonLongClick.Raise(Bit(buttons)), ...);
     }
 
     // The rows with the selector there.
@@ -67,6 +50,11 @@ struct MultiPanelFlight : PanelFlight {
     int Lights() { return device.featureReports.back()[11]; }
 
   private:
+    // As the panel sends them.
+    static int32_t Bit(Position at) { return at == None ? 0 : 0x008000 << at; }
+    static int32_t Bit(Button button) {
+        return button == Button::AP ? 0x800000 : 0x000040 << static_cast<int32_t>(button);
+    }
     static void Turn(int steps, Event<int16_t>& up, Event<int16_t>& down) {
         (steps > 0 ? up : down).Raise(static_cast<int16_t>(std::abs(steps)));
     }

@@ -33,8 +33,7 @@ struct RadioPanelDeviceTest : DeviceTest<ctlRadioPanel, PanelKind::Radio> {
         Listen(panel->SelectorChange, Selector);
         setup.ClickThreshold = 510;
         PlugIn();
-        Send(kAtRest);
-        EXPECT_EQ(Heard(), Selector(1, 0, 0) + Selector(2, 0, 0));
+        Send(kAtRest), ExpectHeard(Selector(1, 0, 0) + Selector(2, 0, 0));
     }
     // Pulses of these rings come and go, all before the first is handled.
     void Turn(int32_t bits, int pulses = 1) {
@@ -53,8 +52,7 @@ TEST_F(RadioPanelDeviceTest, SelectorsAreToldAndShownAndReadFromTheDevice) {
         const Line &line1 = upper.lineSelector, &line2 = lower.lineSelector;
         if (row == 2) told += Needles(line1.X2 - 1080, line2.Y2 - line2.Y1);
     });
-    Send(kCOM1Of1);
-    EXPECT_EQ(Heard(), Selector(1, kCOM1Of1, 0));
+    Send(kCOM1Of1), ExpectHeard(Selector(1, kCOM1Of1, 0));
     const struct {
         int32_t upper, lower;
         int right, down;
@@ -64,18 +62,16 @@ TEST_F(RadioPanelDeviceTest, SelectorsAreToldAndShownAndReadFromTheDevice) {
     int32_t before1 = kCOM1Of1, before2 = 0;
     for (const auto& to : moves) {
         Send(to.upper | to.lower);
-        EXPECT_EQ(Heard(), Selector(1, to.upper, std::exchange(before1, to.upper)) +
-                               Selector(2, to.lower, std::exchange(before2, to.lower)) +
-                               Needles(to.right, to.down));
+        ExpectHeard(Selector(1, to.upper, std::exchange(before1, to.upper)) +
+                    Selector(2, to.lower, std::exchange(before2, to.lower)) +
+                    Needles(to.right, to.down));
     }
     device.positions = {0x01, 0x81, 0xC0, 0xFF};
     machine.hid.Refuse(HidCall::GetFeature, 1);
+    panel->GetPositions(), ExpectHeard(Selector(1, 0, 0) + Selector(2, 0, 0) + Needles(0, -400));
     panel->GetPositions();
-    EXPECT_EQ(Heard(), Selector(1, 0, 0) + Selector(2, 0, 0) + Needles(0, -400));
-    panel->GetPositions();
-    EXPECT_EQ(Heard(), Selector(1, kCOM1Of1, 0) + Selector(2, kCOM1Of2, 0) + Needles(0, -400));
-    Send(0x002000);
-    EXPECT_EQ(Heard(), Selector(1, 0, 0x400000)) << "compared with the report before";
+    ExpectHeard(Selector(1, kCOM1Of1, 0) + Selector(2, kCOM1Of2, 0) + Needles(0, -400));
+    Send(0x002000), ExpectHeard(Selector(1, 0, 0x400000), "compared with the report before");
 }
 
 TEST_F(RadioPanelDeviceTest, DisplaysShowTheEndsOfTextsAndOnlyChangesAreSent) {
@@ -146,21 +142,19 @@ TEST_F(RadioPanelDeviceTest, TwoPulsesMakeAStepAndTurnTheRing) {
             WaitMs(200), Turn(rings);
     };
     all();
-    WaitMs(5000);
-    EXPECT_EQ(Heard(), kNothing);
+    WaitMs(5000), ExpectHeard(kNothing);
     all();
-    EXPECT_EQ(Heard(), Right(Inner1, 1) + Right(Outer1, 1) + Left(Inner1, 1) + Left(Outer1, 1) +
-                           Right(Inner2, 1) + Right(Outer2, 1) + Left(Inner2, 1) + Left(Outer2, 1));
+    ExpectHeard(Right(Inner1, 1) + Right(Outer1, 1) + Left(Inner1, 1) + Left(Outer1, 1) +
+                Right(Inner2, 1) + Right(Outer2, 1) + Left(Inner2, 1) + Left(Outer2, 1));
     WaitMs(200), Turn(0xFF, 2);
-    EXPECT_EQ(Heard(), Right(Inner1, 1) + Left(Inner1, 1) + Right(Outer1, 1) + Left(Outer1, 1) +
-                           Right(Inner2, 1) + Left(Inner2, 1) + Right(Outer2, 1) + Left(Outer2, 1));
+    ExpectHeard(Right(Inner1, 1) + Left(Inner1, 1) + Right(Outer1, 1) + Left(Outer1, 1) +
+                Right(Inner2, 1) + Left(Inner2, 1) + Right(Outer2, 1) + Left(Outer2, 1));
     WaitMs(200), Send(kInner1Right), WaitMs(199), Send(kAtRest, kInner1Right);
-    WaitMs(200), Send(kAtRest);
-    EXPECT_EQ(Heard(), kNothing) << "the second comes off too late";
+    WaitMs(200), Send(kAtRest), ExpectHeard(kNothing, "the second comes off too late");
     Turn(kInner1Right), WaitMs(200);
     Send(kOuter1Right, kOuter1Left, kButton1), WaitMs(200), Send(kAtRest);
-    EXPECT_EQ(Heard(), Right(Inner1, 1) + Right(Outer1, 1) + Down(kButton1) + Click(kButton1) +
-                           Up(kButton1));
+    ExpectHeard(Right(Inner1, 1) + Right(Outer1, 1) + Down(kButton1) + Click(kButton1) +
+                Up(kButton1));
     for (int step = 0; step < 5; ++step) Turn(kInner1Right | kOuter2Left, 2);
     EXPECT_EQ(upper.lineInnRot.X2, 8430);
     EXPECT_EQ(lower.lineOutRot.X1, 7958);
@@ -182,14 +176,12 @@ TEST_F(RadioPanelDeviceTest, SpeedsFollowThePulsesOfEachSide) {
         {{0xFF, 0xFF, 0x3F, 0x0F, 0x01, 0x00}, "1/1", 20, 1},
     };
     for (const auto& test : cases) {
-        WaitMs(2400), SendAtOnce(test.states), WaitMs(650);
-        Heard();
+        WaitMs(2400), SendAtOnce(test.states), WaitMs(650), Heard();
         EXPECT_EQ(ShownSpeeds(), test.shown);
         WaitMs(150), Turn(kOuter1Right, 2), WaitMs(250), Turn(kOuter2Right, 2);
         EXPECT_EQ(Heard(), Right(Outer1, test.upper) + Right(Outer2, test.lower)) << test.shown;
     }
-    WaitMs(550), Turn(kOuter1Right, 2);
-    EXPECT_EQ(Heard(), Right(Outer1, 20)) << "a few pulses keep it";
+    WaitMs(550), Turn(kOuter1Right, 2), ExpectHeard(Right(Outer1, 20), "a few pulses keep it");
     WaitMs(1599);
     EXPECT_EQ(ShownSpeeds(), "20/1");
     WaitMs(1);
@@ -198,20 +190,17 @@ TEST_F(RadioPanelDeviceTest, SpeedsFollowThePulsesOfEachSide) {
 
 TEST_F(RadioPanelDeviceTest, ClicksAndLongClicksAtTheThreshold) {
     Send(kButton1), WaitMs(509), Send(kAtRest), WaitMs(600);
-    EXPECT_EQ(Heard(), Down(kButton1) + Click(kButton1) + Up(kButton1));
-    Send(kButton2), WaitMs(510), Send(kAtRest);
-    EXPECT_EQ(Heard(), Down(kButton2) + Up(kButton2));
-    WaitMs(15);
-    EXPECT_EQ(Heard(), LongClick(kButton2) + Up(kButton2));
+    ExpectHeard(Down(kButton1) + Click(kButton1) + Up(kButton1));
+    Send(kButton2), WaitMs(510), Send(kAtRest), ExpectHeard(Down(kButton2) + Up(kButton2));
+    WaitMs(15), ExpectHeard(LongClick(kButton2) + Up(kButton2));
     Send(kButton1), WaitMs(515), Send(kAtRest), WaitMs(10);
-    EXPECT_EQ(Heard(), Down(kButton1) + Up(kButton1) + LongClick(kButton1) + Up(kButton1));
+    ExpectHeard(Down(kButton1) + Up(kButton1) + LongClick(kButton1) + Up(kButton1));
     const int32_t both = kButton1 | kButton2;
     Send(kButton1), WaitMs(400), Send(both), WaitMs(400), Send(kButton2), WaitMs(1000);
     Send(kAtRest);
-    EXPECT_EQ(Heard(),
-              Down(kButton1) + Down(kButton2) + Click(kButton1) + Up(kButton1) + Up(kButton2));
+    ExpectHeard(Down(kButton1) + Down(kButton2) + Click(kButton1) + Up(kButton1) + Up(kButton2));
     Send(kButton1), WaitMs(400), Send(both), WaitMs(525), Send(kButton2);
-    EXPECT_EQ(Heard(), Down(kButton1) + Down(kButton2) + LongClick(kButton2) + Up(kButton1));
+    ExpectHeard(Down(kButton1) + Down(kButton2) + LongClick(kButton2) + Up(kButton1));
     EXPECT_EQ(upper.shpSwitch.FillColor, 0xFFFFFFU);
     EXPECT_EQ(lower.shpSwitch.FillColor, 0x0000FFU);
 }
@@ -219,24 +208,19 @@ TEST_F(RadioPanelDeviceTest, ClicksAndLongClicksAtTheThreshold) {
 // As when the simulator answers late: what counts is when a report came, not when it is taken.
 TEST_F(RadioPanelDeviceTest, ABusyMomentLosesNoPulseAndMakesNoClickALongOne) {
     const auto releaseWhileBusy = [this] {
-        machine.clock.Sleep(50);
-        Post(kAtRest);
-        machine.clock.Sleep(600);
+        machine.clock.Sleep(50), Post(kAtRest), machine.clock.Sleep(600);
     };
     Turn(kInner1Right), Send(kInner1Right), WaitMs(100);
     Heard();
     releaseWhileBusy();
-    WaitMs(1);
-    EXPECT_EQ(Heard(), Right(Inner1, 1));
-    WaitMs(2000), Send(kButton1), WaitMs(100);
-    EXPECT_EQ(Heard(), Down(kButton1));
+    WaitMs(1), ExpectHeard(Right(Inner1, 1));
+    WaitMs(2000), Send(kButton1), WaitMs(100), ExpectHeard(Down(kButton1));
     releaseWhileBusy();
     WaitMs(2000), Send(kButton1), WaitMs(610);
-    EXPECT_EQ(Heard(), Click(kButton1) + Up(kButton1) + Down(kButton1) + LongClick(kButton1));
-    Send(kAtRest, kButton2);
-    Heard();
+    ExpectHeard(Click(kButton1) + Up(kButton1) + Down(kButton1) + LongClick(kButton1));
+    Send(kAtRest, kButton2), Heard();
     for (int time = 0; time < 5; ++time, machine.loop.RunPending()) machine.clock.Sleep(150);
-    EXPECT_EQ(Heard(), LongClick(kButton2)) << "also where the loop is always late";
+    ExpectHeard(LongClick(kButton2), "also where the loop is always late");
 }
 
 // As an action that sends a keystroke lets in what waits.
@@ -247,19 +231,17 @@ TEST_F(RadioPanelDeviceTest, ReportsThatComeWithinAnEventAreTakenOnce) {
     panel->ButtonClick.Connect(letRun);
     const int32_t rest = kNAV1Of1 | kCOM2Of2;
     SendAtOnce({kCOM1Of1 | kCOM2Of2, kCOM2Of1 | kCOM2Of2, rest});
-    EXPECT_EQ(Heard(), Selector(1, kCOM1Of1, 0) + Selector(2, kCOM2Of2, 0) +
-                           Selector(1, kCOM2Of1, kCOM1Of1) + Selector(1, kNAV1Of1, kCOM2Of1));
+    ExpectHeard(Selector(1, kCOM1Of1, 0) + Selector(2, kCOM2Of2, 0) +
+                Selector(1, kCOM2Of1, kCOM1Of1) + Selector(1, kNAV1Of1, kCOM2Of1));
     const int32_t pulse = rest | kInner1Right, pressed = rest | kButton1;
     SendAtOnce({pulse, rest, pulse, rest, pulse, rest, pulse, rest});
-    EXPECT_EQ(Heard(), Right(Inner1, 1) + Right(Inner1, 1));
+    ExpectHeard(Right(Inner1, 1) + Right(Inner1, 1));
     SendAtOnce({pressed, rest, pressed}), WaitMs(2000);
-    EXPECT_EQ(Heard(), Down(kButton1) + Click(kButton1) + Up(kButton1) + Down(kButton1) +
-                           LongClick(kButton1));
-    Post(kCOM2Of1 | kButton1 | kCOM2Of2);
-    panel->GetPositions();
-    machine.loop.RunPending();
-    EXPECT_EQ(Heard(), Selector(1, 0, 0) + Selector(2, 0, 0) + Up(kButton1) + Up(kButton2) +
-                           Selector(1, kCOM2Of1, kNAV1Of1));
+    ExpectHeard(Down(kButton1) + Click(kButton1) + Up(kButton1) + Down(kButton1) +
+                LongClick(kButton1));
+    Post(kCOM2Of1 | kButton1 | kCOM2Of2), panel->GetPositions(), machine.loop.RunPending();
+    ExpectHeard(Selector(1, 0, 0) + Selector(2, 0, 0) + Up(kButton1) + Up(kButton2) +
+                Selector(1, kCOM2Of1, kNAV1Of1));
 }
 
 TEST_F(RadioPanelDeviceTest, ABoxThatStandsWithinAnEventDoesNotHoldThePanelUp) {
@@ -273,9 +255,9 @@ TEST_F(RadioPanelDeviceTest, ABoxThatStandsWithinAnEventDoesNotHoldThePanelUp) {
         told += BoxCloses();
     });
     Send(kButton1);
-    EXPECT_EQ(Heard(), Down(kButton1) + LongClick(kButton1) + At(1000) + Selector(1, kCOM2Of1, 0) +
-                           Selector(1, kCOM1Of1, kCOM2Of1) + BoxCloses())
-        << "what waits is told when its second is up";
+    ExpectHeard(Down(kButton1) + LongClick(kButton1) + At(1000) + Selector(1, kCOM2Of1, 0) +
+                    Selector(1, kCOM1Of1, kCOM2Of1) + BoxCloses(),
+                "what waits is told when its second is up");
     EXPECT_EQ(machine.loop.TimerCount(), 0U);
 }
 

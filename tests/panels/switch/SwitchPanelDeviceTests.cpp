@@ -51,36 +51,32 @@ struct SwitchPanelDeviceTest : DeviceTest<ctlSwitchPanel, PanelKind::Switch> {
 
 TEST_F(SwitchPanelDeviceTest, FirstReportTellsEverythingAsIfItHadJustChanged) {
     Send(0x55555C, 0x55555C);  // R, every other switch, and the lever in both positions
-    EXPECT_EQ(Heard(), Reported() + Selector(kR, 0) + AllSwitches("1010101010101") + GearDown() +
-                           GearUp() + Reported());
+    ExpectHeard(Reported() + Selector(kR, 0) + AllSwitches("1010101010101") + GearDown() +
+                GearUp() + Reported());
     EXPECT_EQ(Drawn(), Picture("1010101010101", -509, -509, kTopOfLeverUp));
     Send(0xAA8AA0);  // L, the other switches
-    EXPECT_EQ(Heard(), Reported() + Selector(kL, kR) + AllSwitches("0101010101010"));
+    ExpectHeard(Reported() + Selector(kL, kR) + AllSwitches("0101010101010"));
     EXPECT_EQ(Drawn(), Picture("0101010101010", 0, -720, kTopOfLeverUp));
     EXPECT_EQ(DrawnLights(), (Colors{kWhite, kWhite, kWhite}));
 }
 
 TEST_F(SwitchPanelDeviceTest, LaterReportsTellWhatChangesInTheOrderOfThePanel) {
-    Send(kOff);
-    EXPECT_EQ(Heard(), Reported() + Selector(kOff, 0) + AllSwitches("0000000000000"));
+    Send(kOff), ExpectHeard(Reported() + Selector(kOff, 0) + AllSwitches("0000000000000"));
     EXPECT_EQ(Drawn(), Picture("0000000000000", -695, -186, kTopOfLeverUp));
-    Send(kOff | 0x0000F0);
-    EXPECT_EQ(Heard(), Reported()) << "bits without a meaning";
+    Send(kOff | 0x0000F0), ExpectHeard(Reported(), "bits without a meaning");
     Send(kOff | kLeverUp | kLeverDown, kOff);
-    EXPECT_EQ(Heard(), Reported() + GearDown() + GearUp() + Reported());
+    ExpectHeard(Reported() + GearDown() + GearUp() + Reported());
     Send(kOff | kLeverUp, kOff | kLeverUp | kLeverDown, kOff | kLeverDown);
-    EXPECT_EQ(Heard(), Reported() + GearUp() + Reported() + GearDown() + Reported());
+    ExpectHeard(Reported() + GearUp() + Reported() + GearDown() + Reported());
     const int32_t switches = kPitot | kStrobe;
     Send(kBoth | kBat | switches | kLeverDown, kBoth | kBat | switches | kLeverDown);
-    EXPECT_EQ(Heard(), Reported() + Selector(kBoth, kOff) + Switch(kBat, true) +
-                           Switch(kPitot, true) + Switch(kStrobe, true) + Reported());
+    ExpectHeard(Reported() + Selector(kBoth, kOff) + Switch(kBat, true) + Switch(kPitot, true) +
+                Switch(kStrobe, true) + Reported());
     EXPECT_EQ(Drawn(), Picture("1000010000100", 413, -590, kTopOfLeverDown));
     Send(switches | kLeverDown);
-    EXPECT_EQ(Heard(), Reported() + Selector(0, kBoth) + Switch(kBat, false))
-        << "between two positions";
+    ExpectHeard(Reported() + Selector(0, kBoth) + Switch(kBat, false), "between two positions");
     EXPECT_EQ(Drawn(), Picture("0000010000100", 0, -720, kTopOfLeverDown));
-    Send(kStart | switches | kLeverDown);
-    EXPECT_EQ(Heard(), Reported() + Selector(kStart, 0));
+    Send(kStart | switches | kLeverDown), ExpectHeard(Reported() + Selector(kStart, 0));
     EXPECT_EQ(Drawn(), Picture("0000010000100", 677, -246, kTopOfLeverDown));
     EXPECT_EQ(DrawnLights(), (Colors{kWhite, kWhite, kWhite}));
 }
@@ -100,14 +96,13 @@ TEST_F(SwitchPanelDeviceTest, LightsAreSentOnEachCallAndShownInThePicture) {
 }
 
 TEST_F(SwitchPanelDeviceTest, SplashWaitsBehindEachStepAndTheEndIsDark) {
-    Send(0);
-    Heard(), Written();
+    Send(0), Heard(), Written();
     for (uint32_t end = 99; end < 1000; end += 100)
         machine.loop.After(end, [&] { told += Lights(device.featureReports.size()); });
     machine.loop.After(450, [this] { Post(kLeverUp); });
     panel->Splash();
-    EXPECT_EQ(Heard(), Lights(1) + Lights(2) + Lights(3) + Lights(4) + Reported() + GearUp() +
-                           Lights(5) + Lights(6) + Lights(7) + Lights(8) + Lights(9));
+    ExpectHeard(Lights(1) + Lights(2) + Lights(3) + Lights(4) + Reported() + GearUp() + Lights(5) +
+                Lights(6) + Lights(7) + Lights(8) + Lights(9));
     const Reports steps = {
         {0x00, 0x01}, {0x00, 0x02}, {0x00, 0x04},  // green: nose, left, right
         {0x00, 0x09}, {0x00, 0x12}, {0x00, 0x24},  // yellow, which is both
@@ -115,8 +110,7 @@ TEST_F(SwitchPanelDeviceTest, SplashWaitsBehindEachStepAndTheEndIsDark) {
         {0x00, 0x00},                              // dark
     };
     EXPECT_EQ(Written(), steps);
-    WaitMs(100);
-    EXPECT_EQ(Heard(), Lights(0)) << "and no longer";
+    WaitMs(100), ExpectHeard(Lights(0), "and no longer");
     panel.reset();
     EXPECT_EQ(Written(), (Reports{{0x00, 0x00}}));
 }

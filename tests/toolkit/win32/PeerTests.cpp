@@ -37,10 +37,18 @@ void Pump() {
     }
 }
 
+void Focus(const Control& control) { SetFocus(WindowOf(control)); }
+
 // `flags` as those of WM_KEYDOWN.
 void Press(WPARAM key, LPARAM flags = 0) {
     PostMessageW(GetFocus(), WM_KEYDOWN, key, flags);
     Pump();
+}
+
+RECT ClientOf(const Control& control) {
+    RECT client;
+    GetClientRect(WindowOf(control), &client);
+    return client;
 }
 
 RECT PlaceOf(const Control& control) {
@@ -106,8 +114,7 @@ struct ListPeerTest : PeerTest {
         for (int i = 0; i < 40; ++i) box.AddItem("Caf\xE9 " + FormatInteger(i));
         box.Click.Connect([this] { seen.push_back(box.ListIndex()); });
         box.Move(0, 0, 3000, 330);
-        Show();
-        SetFocus(WindowOf(box));
+        Show(), Focus(box);
     }
     HWND List() {
         COMBOBOXINFO parts{};
@@ -223,8 +230,7 @@ TEST_F(PeerTest, FrameIsANativeGroupThatHandsOnWhatItsControlsTell) {
     EXPECT_EQ(GetWindowLongW(WindowOf(frame), GWL_STYLE) & BS_TYPEMASK, BS_GROUPBOX);
     EXPECT_EQ(TextOf(frame), "Profiles");
     EXPECT_EQ(PixelOf(frame, 250, 150), GetSysColor(COLOR_BTNFACE));
-    SetFocus(WindowOf(before));
-    Press(VK_TAB), Press(VK_RETURN);
+    Focus(before), Press(VK_TAB), Press(VK_RETURN);
     EXPECT_EQ(clicks, 1);
     COLORREF text = 0;
     AskColors(WM_CTLCOLORSTATIC, frame, label, text);
@@ -243,10 +249,8 @@ TEST_F(PeerTest, StatusBarSharesTheWidthAndShowsItsTexts) {
     form.Width = 9000;
     int ends[2];
     ASSERT_EQ(Tell(bar, SB_GETPARTS, 2, reinterpret_cast<LPARAM>(ends)), 2);
-    RECT client;
-    GetClientRect(WindowOf(form), &client);
-    EXPECT_EQ(ends[1], client.right);
-    EXPECT_NEAR(ends[0], client.right * 3 / 4, 1);
+    EXPECT_EQ(ends[1], ClientOf(form).right);
+    EXPECT_NEAR(ends[0], ends[1] * 3 / 4, 1);
 }
 
 TEST_F(PeerTest, UsersMoveReachesTheFormAndHiddenWindowsFollowIt) {
@@ -277,9 +281,7 @@ TEST_F(PeerTest, ContentsNeverCoverTheStatusBar) {
     RECT place = PlaceOf(bar);
     MapWindowPoints(nullptr, WindowOf(form), reinterpret_cast<POINT*>(&place), 2);
     EXPECT_EQ(place.top, 300);
-    RECT client;
-    GetClientRect(WindowOf(form), &client);
-    EXPECT_EQ(place.bottom, client.bottom);
+    EXPECT_EQ(place.bottom, ClientOf(form).bottom);
     SetWindowPos(WindowOf(form), nullptr, 33, 44, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
     EXPECT_EQ(form.Left, 33 * 15);
     EXPECT_EQ(form.Height, 4208) << "what the program has set";
@@ -322,11 +324,9 @@ TEST_F(PeerTest, EnterPressesTheFocusedButtonOnce) {
     button.Move(0, 600, 900, 330);
     Show();
     Count(button);
-    SetFocus(WindowOf(button));
-    Press(VK_RETURN), Press(VK_RETURN, LPARAM{KF_REPEAT} << 16);
+    Focus(button), Press(VK_RETURN), Press(VK_RETURN, LPARAM{KF_REPEAT} << 16);
     EXPECT_EQ(clicks, 1);
-    SetFocus(WindowOf(tabs));
-    Press(VK_RETURN);
+    Focus(tabs), Press(VK_RETURN);
     EXPECT_EQ(clicks, 1);
 }
 
@@ -335,14 +335,13 @@ TEST_F(PeerTest, HiddenPageGivesTheKeyboardAway) {
     Container page(&form);
     CommandButton first(&page);
     CommandButton second(&page);
-    Show();
-    SetFocus(WindowOf(first));
+    Show(), Focus(first);
     page.Visible = false;
     EXPECT_EQ(GetFocus(), WindowOf(tabs));
     EXPECT_EQ(TextOf(tabs), "Pages");
     page.Visible = true;
     tabs.Visible = false;
-    SetFocus(WindowOf(second));
+    Focus(second);
     page.Visible = false;
     EXPECT_EQ(GetFocus(), WindowOf(form)) << "no stop is left";
 }
@@ -396,7 +395,7 @@ TEST_F(PeerTest, KeyboardAndStackGoByTheOrderOfChildren) {
     form.Load();
     EXPECT_EQ(GetWindow(WindowOf(form), GW_CHILD), WindowOf(last));
     form.Show();
-    SetFocus(WindowOf(first));
+    Focus(first);
     for (const Control* next : {&inner, &last, &first, &inner}) {
         Press(VK_TAB);
         EXPECT_EQ(GetFocus(), WindowOf(*next));
@@ -404,8 +403,7 @@ TEST_F(PeerTest, KeyboardAndStackGoByTheOrderOfChildren) {
 
     form.BringToFront(first);
     EXPECT_EQ(GetWindow(WindowOf(form), GW_CHILD), WindowOf(first));
-    SetFocus(WindowOf(last));
-    Press(VK_TAB);
+    Focus(last), Press(VK_TAB);
     EXPECT_EQ(GetFocus(), WindowOf(first));
 }
 
