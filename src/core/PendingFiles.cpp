@@ -41,8 +41,7 @@ void PendingFiles::ApplyLate() {
 
 // What the disk refuses to the last is lost; the files stay as they were.
 void PendingFiles::SaveAll() {
-    static_cast<void>(Patience(clock_, kEndPatienceMs).Try([this] {
-        return binding_.SaveLists();
-    }));
+    static_cast<void>(
+        Patience(clock_, kEndPatienceMs).Try([this] { return binding_.SaveLists(); }));
     static_cast<void>(setup_.SaveSetup(kEndPatienceMs));
 }

@@ -2,8 +2,8 @@
 #include <string>
 #include <vector>
 
-#include "config/cInifile.h"
 #include "config/ProfileStore.h"
+#include "config/cInifile.h"
 #include "config/cSetupHolder.h"
 #include "platform/virtual/VirtualPlatform.h"
 #include "simlink/devices/ButtonPress.h"
@@ -220,7 +220,8 @@ TEST_F(ConfigTest, SaveWaitsAMomentForAHeldFile) {
     ProfileStore profiles(machine.ini, machine.files, machine.clock, "C:\\Orvo");
     machine.files.Put("C:\\Orvo\\Default.ini", "[Common]\r\nOther=1\r\n");
     machine.files.Hold("C:\\Orvo\\Default.ini", 3);
-    EXPECT_TRUE(profiles.SaveProfile("Common", [](IniSection& keys) { return keys.Set("A", "1"); }));
+    EXPECT_TRUE(
+        profiles.SaveProfile("Common", [](IniSection& keys) { return keys.Set("A", "1"); }));
     machine.files.Hold(kPath);
     const uint64_t before = machine.clock.Elapsed();
     EXPECT_FALSE(setup.SaveSetup());
