@@ -8,7 +8,7 @@
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     VirtualPlatform machine;
-    cSession session(machine.ipc, machine.clock, machine.keyboard, machine.loop);
+    cSession session(machine.ipc, machine.clock);
     machine.ipc.AddWindow("UIPCMAIN");
     int32_t result = 0;
     if (!session.Fsuipc.FSUIPC_Open(0, result)) std::abort();

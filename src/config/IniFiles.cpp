@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <map>
+#include <set>
 
 #include "base/Number.h"
 #include "base/Text.h"
@@ -21,17 +22,21 @@ IniText TextOf(const std::string& bytes) {
 }
 
 // Only what differs is touched: a key with characters that 8-bit text hasn't can't be written
-// again.
+// again. A deleted key takes its other spellings along.
 bool WriteDifferences(IniSection& keys, const IniEntries& before, const IniEntries& after) {
     const std::map<std::string, std::string> old(before.begin(), before.end());
     const std::map<std::string, std::string> now(after.begin(), after.end());
+    std::set<std::string> deleted;
     for (const auto& [key, value] : before) {
-        if (!now.contains(key) && !keys.Delete(key)) return false;
+        if (now.contains(key)) continue;
+        if (!keys.Delete(key)) return false;
+        deleted.insert(ToLower(key));
     }
     return std::ranges::all_of(after, [&](const auto& entry) {
         const auto found = old.find(entry.first);
         const bool there = found != old.end() && found->second == entry.second;
-        return there || keys.Set(entry.first, entry.second);
+        return (there && !deleted.contains(ToLower(entry.first))) ||
+               keys.Set(entry.first, entry.second);
     });
 }
 
@@ -107,12 +112,14 @@ bool IniFiles::ByCopy(const std::string& path, const std::string& bytes,
     return forNothing;
 }
 
-// Something else may have the copy's name: a folder, or a file that another program holds.
+// Something else may have the copy's name: a folder, or a file that another program holds; those
+// can't be deleted. A part of a copy, as a full disk leaves it, can.
 std::optional<std::string> IniFiles::MakeCopy(const std::string& path,
                                               const std::string& bytes) const {
     for (int number = 1; number <= kMostCopies; ++number) {
         std::string copy = path + ".new" + (number > 1 ? FormatInteger(number) : "");
         if (files_.Write(copy, bytes)) return copy;
+        files_.Delete(copy);
     }
     return std::nullopt;
 }

@@ -36,13 +36,13 @@ std::string KeepUnderFreeName(FilePort& files, const std::string& folder, const 
 }
 
 // Where a file can't be renamed all stays as it is, and the next start asks again.
-bool Convert(FilePort& files, const std::string& folder) {
+void Convert(FilePort& files, const std::string& folder) {
     const std::string old = folder + "\\Orvo.ini";
     const std::string profile = folder + "\\Default.ini";
-    if (!files.Exists(profile)) return files.Rename(old, profile);
-    const std::string kept = KeepUnderFreeName(files, folder, profile);
-    if (kept.empty()) return false;
-    return files.Rename(old, profile) || !files.Rename(kept, profile);
+    const bool inTheWay = files.Exists(profile);
+    const std::string kept = inTheWay ? KeepUnderFreeName(files, folder, profile) : "";
+    if (inTheWay && kept.empty()) return;
+    if (!files.Rename(old, profile) && inTheWay) static_cast<void>(files.Rename(kept, profile));
 }
 
 }  // namespace
@@ -55,6 +55,6 @@ bool ConvertOldConfiguration(IniService& ini, FilePort& files, UiBackend& ui,
         [&] { return (text = reader.Read(programFolder + "\\Orvo.ini")).has_value(); });
     if (!read || !IsOld(*text)) return true;
     if (ui.MsgBox(kQuestion) == MsgBoxResult::Cancel) return false;
-    static_cast<void>(Convert(files, programFolder));
+    Convert(files, programFolder);
     return true;
 }

@@ -44,10 +44,11 @@ void AircraftBinding::Settle() {
 // The options are in the same file, and say whether the user wants to be asked.
 bool AircraftBinding::ReadLists() {
     if (!parts_.generalSetup.ReadWhatIsMissing()) return false;
-    const size_t known = parts_.profiles.ProfileNames().size();
-    const bool whole = parts_.profiles.ReadWhatIsMissing();
-    if (parts_.profiles.ProfileNames().size() != known) FillProfileCombo();
-    return whole;
+    if (!parts_.profiles.ReadWhatIsMissing()) return false;
+    if (parts_.cmbProfiles.Items().size() != parts_.profiles.ProfileNames().size()) {
+        FillProfileCombo();
+    }
+    return true;
 }
 
 // A window that is open now may hold the bindings that it was filled from.

@@ -108,7 +108,6 @@ void SessionDriver::CatchUp() {
     const uint32_t start = parts_.clock.GetTickCount();
     while (parts_.session.Acts.DoFirst() && parts_.clock.GetTickCount() - start < kCatchUpMs) {
     }
-    parts_.output.TickDone();
 }
 
 void SessionDriver::LoseSession() {

@@ -220,6 +220,7 @@ void frmMain::ServeSetupRequest(PanelUnit& unit) {
         open();
     }
     if (!unit.logic) return;
+    services_.session.Acts.Drop(PendingActs::Lasts::Binding);
     unit.logic->LoadSetup();
     if (unit.kind == PanelKind::Switch) return;
     unit.logic->SetupChanged();

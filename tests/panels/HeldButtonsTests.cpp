@@ -68,6 +68,14 @@ TEST_F(HeldButtonsTest, WhatIsLeftWhileTheSimulatorIsAwayComesUpInTheNextSession
     EXPECT_EQ(sim.Get<uint32_t>(0x3340), 0U);
 }
 
+TEST_F(HeldButtonsTest, WhatWasNeverPressedIsNotLetGoOf) {
+    FlyWith("");
+    Simulator<uint32_t>(0x3340, 0x10);  // by somebody else
+    SwitchLogic().SPActions->SetSwitchActions(6, 1, {ActionKind::VButton, 64, 5, 0});
+    machine.ipc.AnswerWith(0, 1), SwitchLogic().SwitchChange(6, true), Reconnect(), Tick();
+    EXPECT_EQ(sim.Get<uint32_t>(0x3340), 0x10U);
+}
+
 TEST_F(HeldButtonsTest, ComeUpWhenTheProgramEnds) {
     HoldAll();
     ui.Answer = [](const MsgBoxRequest&) { return MsgBoxResult::Ok; };

@@ -46,7 +46,9 @@ TEST_F(SlowSimulatorTest, EventsWaitForOneTimeOutAndNotForEachOfTheirSteps) {
 }
 
 TEST_F(SlowSimulatorTest, FastStepsOfAVirtualButtonLetMessagesRunAndLoseNoClick) {
-    Fly("", "RotUpActionHDG=VButton,64,1\r\nRotDownActionHDG=VButton,64,2\r\n");
+    Fly("",
+        "RotUpActionHDG=VButton,64,1\r\nRotDownActionHDG=VButton,64,2\r\n"
+        "SelectorActionCRS=VButton,64,3\r\n");
     MoveSelectorTo(HDG), Sent();
     const auto clicks = [](int times, int button) {
         std::string text;
@@ -67,11 +69,17 @@ TEST_F(SlowSimulatorTest, FastStepsOfAVirtualButtonLetMessagesRunAndLoseNoClick)
     TurnTrim(+1), machine.ipc.AnswerWith(0, 1), TurnTrim(+1), TurnKnob(+20), WaitMs(60);
     EXPECT_EQ(Sent(), WroteWord(kTrim, 32) + WroteWord(kTrim, 64) + clicks(20, 1) + Waited(60))
         << "nor behind an act that waits";
-    TurnKnob(+20);
-    Reconnect(), WaitMs(50);
-    const std::string sent = Sent();
-    EXPECT_TRUE(sent.ends_with(Waited(50))) << "nothing goes on in another session: " << sent;
-    EXPECT_LE(sent.size(), clicks(2, 1).size() + Waited(50).size());
+    TurnKnob(+20), MoveSelectorTo(CRS), FlapsUp(), WaitMs(60);
+    ExpectSent(clicks(20, 1) + Pressed(3) + WroteWord(kFlaps, 0) + Waited(60), "nothing overtakes");
+    MoveSelectorTo(HDG), Sent();
+    for (const bool session : {false, true}) {
+        TurnKnob(+20);
+        session ? Reconnect() : Window().cmbProfiles.SetListIndex(0);
+        WaitMs(50);
+        const std::string sent = Sent();
+        EXPECT_TRUE(sent.ends_with(Waited(50))) << "goes on with another binding: " << sent;
+        EXPECT_LE(sent.size(), clicks(2, 1).size() + Waited(50).size());
+    }
 }
 
 TEST_F(SlowSimulatorTest, PressForAWhileHasItsTimeAfterAReadInVainToo) {

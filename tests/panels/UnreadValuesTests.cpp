@@ -109,6 +109,16 @@ TEST_F(UnreadValuesTest, ActsThatWaitEndWithTheirBindings) {
     PutProfile("Default", "");
     Window().cmbProfiles.SetListIndex(0);
     EXPECT_EQ(Sent() + Sent(), kNothing);
+    failures[0]();
+    Click(Button::AP), PutProfile("Default", "[MultiPanel1]\r\nButtonActionAP=None\r\n");
+    Multi().cmdSetup.Press(), Tick(), ExpectSent(kNothing, "a window changed the bindings");
+}
+
+TEST_F(UnreadValuesTest, WhatComesBehindAKnobThatWaitsIsDoneBehindIt) {
+    Simulator(kStandby1, 0x2200);
+    Window().cmbProfiles.SetListIndex(0);
+    RadioLogic().Rotary(1, 1, 1, 1), Radio().ButtonClick.Raise(0x4000);
+    Tick(), ExpectSent(WroteWord(kStandby1, 0x2300) + WroteByte(0x3123, 8));
 }
 
 TEST_F(UnreadValuesTest, FuelPumpsOfAnotherBindingAreReadAnew) {

@@ -3,7 +3,6 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
-#include <vector>
 
 #include "panels/bip/TileCatalogue.h"
 #include "panels/bip/cBIPPanelActionHolder.h"

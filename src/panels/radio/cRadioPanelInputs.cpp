@@ -70,7 +70,7 @@ void cRadioPanelLogic::ClickStandard(Row& row) {
                 row.dmeChoice = static_cast<uint8_t>(row.dmeChoice % 3 + 1);
             break;
         case RadioPosition::kXPDR:
-            transponder_.NextDigit();
+            InOrder([this] { transponder_.NextDigit(); });
             break;
         default:
             break;
@@ -81,7 +81,7 @@ void cRadioPanelLogic::LongClickStandard(Row& row) {
     if (row.selectorPos == RadioPosition::kDME) {
         dme_.ToggleTime();
     } else if (row.selectorPos == RadioPosition::kXPDR) {
-        if (RPActions->AltimeterUnit == 0) transponder_.ToggleUnit();
+        if (RPActions->AltimeterUnit == 0) InOrder([this] { transponder_.ToggleUnit(); });
     } else {
         ClickStandard(row);
     }
@@ -89,7 +89,8 @@ void cRadioPanelLogic::LongClickStandard(Row& row) {
 
 // The simulator does it.
 void cRadioPanelLogic::Swap(size_t channel) {
-    session_.WriteOffset(kRadioSwap, 1, kRadioChannels[channel].swap, false);
+    InOrder(
+        [=, this] { session_.WriteOffset(kRadioSwap, 1, kRadioChannels[channel].swap, false); });
 }
 
 void cRadioPanelLogic::Rotary(int16_t Rotary, int16_t Direction, uint8_t Side, uint8_t Speed) {
@@ -101,6 +102,14 @@ void cRadioPanelLogic::Rotary(int16_t Rotary, int16_t Direction, uint8_t Side, u
     } else {
         output_.SendAction(record, Speed);
     }
+}
+
+// What needs no value comes behind what waits for one all the same.
+void cRadioPanelLogic::InOrder(std::function<void()> act) {
+    session_.Acts.Do([act = std::move(act)] {
+        act();
+        return true;
+    });
 }
 
 // What starts from the radios' values is done once a tick has read them.

@@ -71,6 +71,7 @@ class cRadioPanelLogic final : public cPanelLogic {
     void ClickStandard(Row& row);
     void LongClickStandard(Row& row);
     void Swap(size_t channel);
+    void InOrder(std::function<void()> act);
     void OnceRead(std::function<void()> act);
     void TurnStandard(const Row& row, bool outer, bool up, uint8_t speed);
     void TuneChannel(size_t channel, bool outer, int32_t steps);

@@ -39,6 +39,10 @@ std::optional<std::string> VirtualFiles::Read(const std::string& path) {
 }
 
 bool VirtualFiles::Write(const std::string& path, const std::string& content) {
+    if (faults_.Take(FileCall::Write)) {
+        files_[Key(path)] = content.substr(0, content.size() / 2);
+        return false;
+    }
     if (!MayChange(FileCall::Write, path, &content)) return false;
     files_[Key(path)] = content;
     return true;

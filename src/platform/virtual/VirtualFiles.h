@@ -34,7 +34,8 @@ class VirtualFiles : public FilePort {
     // Sorted, in lower case.
     std::vector<std::string> Paths() const;
 
-    // A refused Exists can't tell, and so gives true.
+    // A refused Exists can't tell, and so gives true. A refused Write leaves a part, as a full disk
+    // does.
     void Refuse(FileCall call, int times = Faults<FileCall>::kAlways) {
         faults_.Refuse(call, times);
     }

@@ -39,22 +39,24 @@ EventOutput::EventOutput(cSession& session, KeyboardPort& keyboard, MessageLoop&
       timerClicks_(loop, kClickMs),
       timerRelease_(loop, kPressMs),
       taken_(fsuipc_.Taken.Connect([this] { BeginTimes(); })) {
-    timerClicks_.Tick.Connect([this] { ClickNext(); });
+    timerClicks_.Tick.Connect([this] { GoOnClicking(); });
     timerRelease_.Tick.Connect([this] { ReleaseInTime(); });
 }
 
 void EventOutput::SetVirtualButton(uint8_t VJoystick, uint8_t VButton, bool State, bool Process) {
     if (!IsVirtualButton(VJoystick, VButton) || (State && !session_.FSConnected)) return;
-    session_.Acts.Do([=, this] { return ChangeButton(VJoystick, VButton, State); },
+    const ActionRecord record{ActionKind::VButton, VJoystick, VButton, 0};
+    session_.Acts.Do([=, this] { return ChangeButton(record, State); },
                      State ? PendingActs::Lasts::Session : PendingActs::Lasts::Program);
     int32_t result = 0;
     if (Process && session_.Acts.Empty()) static_cast<void>(fsuipc_.ProcessForEvent(result));
 }
 
-bool EventOutput::ChangeButton(uint8_t joystick, uint8_t button, bool state) {
+bool EventOutput::ChangeButton(const ActionRecord& record, bool state) {
+    const uint8_t joystick = record.VJoystickOrKeyCode;
     const auto before = ReadButtons(joystick);
     if (!before) return false;
-    const uint32_t bit = 1U << (button - 1);
+    const uint32_t bit = 1U << (record.VButtonOrKeyQualifiers - 1);
     std::array<uint8_t, 4> buttons{};
     StoreLE32(buttons.data(), state ? *before | bit : *before & ~bit);
     int32_t result = 0;
@@ -72,10 +74,9 @@ std::optional<uint32_t> EventOutput::ReadButtons(uint8_t joystick) {
 
 void EventOutput::SessionLost() {
     repetitions_.clear();
-    clicks_.clear();
     timerClicks_.SetEnabled(false);
     session_.Acts.Drop(PendingActs::Lasts::Session);
-    if (!presses_.empty()) SetVirtualButton(presses_.front(), false, false);
+    if (!presses_.empty() && pressed_) SetVirtualButton(presses_.front(), false, false);
     presses_.clear();
     timerRelease_.SetEnabled(false);
 }
@@ -112,8 +113,7 @@ void EventOutput::Press() {
 }
 
 bool EventOutput::PressFirst() {
-    const ActionRecord& first = presses_.front();
-    pressed_ = ChangeButton(first.VJoystickOrKeyCode, first.VButtonOrKeyQualifiers, true);
+    pressed_ = ChangeButton(presses_.front(), true);
     return pressed_;
 }
 
@@ -176,8 +176,9 @@ void EventOutput::DropSecond(int32_t Control) {
 void EventOutput::SendAction(ActionRecord record, int times) {
     if (record.FSEvent == ActionKind::VKey) SendKeyStrokes(record, times);
     if (record.FSEvent != ActionKind::VButton || times < 1) return;
-    clicks_.push_back({record, times});
-    if (clicks_.size() == 1) ClickNext();
+    if (!IsVirtualButton(record.VJoystickOrKeyCode, record.VButtonOrKeyQualifiers)) return;
+    if (!session_.FSConnected) return;
+    session_.Acts.Do([=, this]() mutable { return Click(record, times); });
 }
 
 void EventOutput::SendKeyStrokes(const ActionRecord& record, int times) {
@@ -189,14 +190,21 @@ void EventOutput::SendKeyStrokes(const ActionRecord& record, int times) {
     }
 }
 
-// What waits for the simulator comes first; the clicks go on with a tick then.
-void EventOutput::ClickNext() {
-    const bool waits = !session_.Acts.Empty();
-    if (!clicks_.empty() && !waits) {
-        Clicks& first = clicks_.front();
-        SetVirtualButton(first.record, true, false);
-        SetVirtualButton(first.record, false, false);
-        if (--first.left == 0) clicks_.pop_front();
+// What is down comes up before anything else, whatever becomes of the other clicks.
+bool EventOutput::Click(const ActionRecord& record, int& left) {
+    if (left == 0) return true;
+    if (timerClicks_.Enabled() || !ChangeButton(record, true)) return false;
+    --left;
+    if (!ChangeButton(record, false)) {
+        session_.Acts.DoNext([=, this] { return ChangeButton(record, false); },
+                             PendingActs::Lasts::Program);
+        return false;
     }
-    timerClicks_.SetEnabled(!clicks_.empty() && session_.Acts.Empty());
+    timerClicks_.SetEnabled(left > 0);
+    return left == 0;
+}
+
+void EventOutput::GoOnClicking() {
+    timerClicks_.SetEnabled(false);
+    if (session_.Acts.DoFirst() && !session_.Acts.Empty()) timerClicks_.SetEnabled(true);
 }

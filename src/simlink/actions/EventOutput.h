@@ -49,15 +49,11 @@ class EventOutput {
     void DropSecond(int32_t Control);
 
     // Does `times` times what a VButton record (press and release) or a VKey record says, as long
-    // as the session lasts; nothing for other records. The first click of a virtual button is made
-    // at once, the others follow, one a millisecond or slower, and those of later calls behind
-    // them: the caller goes on meanwhile. Keystrokes let pending messages run. The record is a
-    // copy: its holder may be loaded anew on the way.
+    // as the session and the bindings last; nothing for other records. The first click of a virtual
+    // button is made at once and the others one a millisecond or slower, while the caller goes on;
+    // later presses and releases, and what waits for a value, come behind them. Keystrokes let
+    // pending messages run. The record is a copy: its holder may be loaded anew on the way.
     void SendAction(ActionRecord record, int times = 1);
-    // A tick is done: clicks that waited for the simulator go on.
-    void TickDone() {
-        if (!timerClicks_.Enabled()) ClickNext();
-    }
 
     // The session has ended: nothing that was begun goes on in another one, but that what is down
     // comes up.
@@ -70,9 +66,10 @@ class EventOutput {
     // Nothing when the simulator hasn't answered.
     std::optional<uint32_t> ReadButtons(uint8_t joystick);
     // False when it can't be made now.
-    bool ChangeButton(uint8_t joystick, uint8_t button, bool state);
+    bool ChangeButton(const ActionRecord& record, bool state);
     void SendKeyStrokes(const ActionRecord& record, int times);
-    void ClickNext();
+    bool Click(const ActionRecord& record, int& left);
+    void GoOnClicking();
     void PressForAWhile(const ActionRecord& record);
     void Press();
     bool PressFirst();
@@ -94,12 +91,7 @@ class EventOutput {
     modFSUIPC& fsuipc_;
     KeyboardPort& keyboard_;
     MessageLoop& loop_;
-    struct Clicks {
-        ActionRecord record;
-        int left;
-    };
-    std::deque<Clicks> clicks_;
-    Timer timerClicks_;                 // runs only while there are clicks to make
+    Timer timerClicks_;                 // runs only until the next click of several
     std::deque<ActionRecord> presses_;  // the first one is down, or about to be; the others wait
     bool pressed_ = false;              // the first one's press is on its way to the simulator
     Timer timerRelease_;                // runs only while the first one is down

@@ -3,9 +3,11 @@
 #include <cstdint>
 #include <deque>
 #include <functional>
+#include <utility>
 
 // What the user has done and couldn't be carried out, as the simulator didn't give a value that it
-// rests on. It is tried again, one act after each tick, in the order in which it was done.
+// rests on, or that takes its time. It is tried again after each tick, as much as fits into it, in
+// the order in which it was done.
 class PendingActs {
   public:
     using Act = std::function<bool()>;
@@ -13,14 +15,16 @@ class PendingActs {
     // press as long as the session, what lets something go until it is done.
     enum class Lasts : uint8_t { Binding, Session, Program };
 
-    // Does it now, or when all that waits is done. `act` gives false, and has done nothing, when it
-    // can't be carried out yet.
+    // Does it now, or when all that waits is done. `act` gives false when it is to be called again:
+    // it can't be carried out yet, or has more to do.
     void Do(const Act& act, Lasts lasts = Lasts::Binding) {
         if (!acts_.empty() || !act()) acts_.push_back({act, lasts});
     }
+    // What has to follow an act that is being done: comes before all that waits.
+    void DoNext(Act act, Lasts lasts) { acts_.push_front({std::move(act), lasts}); }
     bool Empty() const { return acts_.empty(); }
 
-    // False when the first one can't be done yet, or there is none.
+    // False when the first one isn't done yet, or there is none.
     bool DoFirst() {
         if (acts_.empty() || !acts_.front().act()) return false;
         acts_.pop_front();
