@@ -4,7 +4,7 @@
 #include <span>
 #include <vector>
 
-#include "simlink/channel/SpecialMode.h"
+#include "simlink/channel/AircraftMode.h"
 #include "simlink/channel/cOffsetTable.h"
 
 inline constexpr uint8_t kAllModes = 255;

@@ -4,8 +4,8 @@
 #include <cstdint>
 #include <optional>
 
+#include "simlink/channel/AircraftMode.h"
 #include "simlink/channel/PendingActs.h"
-#include "simlink/channel/SpecialMode.h"
 #include "simlink/channel/cOFFSET.h"
 #include "simlink/channel/cOffsetTable.h"
 #include "simlink/channel/modFSUIPC.h"
