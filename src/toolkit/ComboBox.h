@@ -1,36 +1,38 @@
 #pragma once
 
-#include <vector>
-
-#include "base/Event.h"
-#include "toolkit/Control.h"
+#include "toolkit/ListControl.h"
 
 // A drop-down list to choose one entry from. Height is that of the closed box.
-class ComboBox : public Control {
+class ComboBox : public ListControl {
   public:
-    using Control::Control;
+    enum class Kind {
+        List,
+        Editable,  // any other text may be typed as well
+    };
 
-    Event<> Click;  // an entry was selected, the selected one again included
+    explicit ComboBox(Container* parent, Kind kind = Kind::List)
+        : ListControl(parent), kind_(kind) {}
 
-    // Without Click, as is adding.
-    void Clear();
-    void AddItem(std::string item);
+    Event<> Change;  // the text was typed or set; for selecting there is Click
 
-    const std::vector<std::string>& Items() const { return items_; }
-    int32_t ListCount() const { return static_cast<int32_t>(items_.size()); }
+    void Clear() override;
 
-    // From 0; -1 while none is selected.
-    int32_t ListIndex() const { return selected_; }
+    bool IsEditable() const { return kind_ == Kind::Editable; }
 
-    // -1 selects none, without Click. Another number without an entry is ignored.
-    void SetListIndex(int32_t index);
+    // What the closed box shows: the selected entry, or what was typed.
+    const std::string& Text() const { return text_; }
+    // Only of an editable one; no entry is selected then.
+    void SetText(const std::string& text);
 
-    // That of the selected entry, empty without one.
-    std::string Text() const;
+    // The user makes it this text.
+    void Type(const std::string& text) {
+        if (TakesActs()) SetText(text);
+    }
 
-    void Accept(ControlVisitor& visitor) override;
+  protected:
+    void Selected() override { text_ = SelectedItem(); }
 
   private:
-    std::vector<std::string> items_;
-    int32_t selected_ = -1;
+    const Kind kind_;
+    std::string text_;
 };

@@ -4,13 +4,18 @@
 
 void Container::BringToFront(Control& child) {
     Detach(child);
-    Attach(child);
+    children_.insert(children_.begin(), &child);
     NotifyChanged();
 }
-
-void Container::Accept(ControlVisitor& visitor) { visitor.Visit(*this); }
 
 void Container::Realize(UiBackend& ui) {
     Control::Realize(ui);
     for (Control* child : children_) child->Realize(ui);
+}
+
+void Container::EnabledChanged() {
+    for (Control* child : children_) {
+        child->NotifyChanged();
+        child->EnabledChanged();
+    }
 }

@@ -4,19 +4,22 @@
 
 #include "toolkit/Control.h"
 
-// A control that holds others. Its children are drawn and reached by the keyboard in the order in
-// which they came.
+// A control that holds others. Its children are stacked, and reached by the keyboard, in the order
+// in which they came: the first one is in front.
 class Container : public Control {
   public:
     using Control::Control;
 
     const std::vector<Control*>& Children() const { return children_; }
 
-    // Puts a child behind all others in the order, and so in front of them on the screen.
+    // Puts a child before all others in the order.
     void BringToFront(Control& child);
 
-    void Accept(ControlVisitor& visitor) override;
     void Realize(UiBackend& ui) override;
+
+  protected:
+    // Children are greyed with it.
+    void EnabledChanged() override;
 
   private:
     friend class Control;

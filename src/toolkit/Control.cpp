@@ -1,5 +1,7 @@
 #include "toolkit/Control.h"
 
+#include <utility>
+
 #include "toolkit/Container.h"
 #include "toolkit/UiBackend.h"
 
@@ -18,6 +20,10 @@ void Control::Move(int32_t left, int32_t top, int32_t width, int32_t height) {
     Height = height;
 }
 
+bool Control::IsEnabled() const { return Enabled && (!parent_ || parent_->IsEnabled()); }
+
+bool Control::TakesActs() const { return Enabled && Visible && (!parent_ || parent_->TakesActs()); }
+
 void Control::Realize(UiBackend& ui) {
     if (!peer_) peer_ = ui.MakePeer(*this);
 }
@@ -29,4 +35,5 @@ void Control::NotifyChanged() {
         Resized();
     }
     if (peer_) peer_->Follow();
+    if (std::exchange(lastEnabled_, Enabled.Get()) != Enabled) EnabledChanged();
 }

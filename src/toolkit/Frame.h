@@ -6,8 +6,4 @@
 class Frame : public Container {
   public:
     using Container::Container;
-
-    Property<std::string, Control> Caption{*this, {}};
-
-    void Accept(ControlVisitor& visitor) override;
 };

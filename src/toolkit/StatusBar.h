@@ -28,8 +28,6 @@ class StatusBar : public Control {
 
     const std::vector<std::unique_ptr<Panel>>& Panels() const { return panels_; }
 
-    void Accept(ControlVisitor& visitor) override;
-
   private:
     std::vector<std::unique_ptr<Panel>> panels_;
 };

@@ -1,6 +1,24 @@
 #include "toolkit/TabStrip.h"
 
-#include "toolkit/UiBackend.h"
+#include <utility>
+
+#include "toolkit/Form.h"
+
+namespace {
+
+constexpr int32_t kFirstRow = 240;  // twips; no row is lower
+
+// What lies at `from` or below in the parent moves down, and makes the parent higher.
+void MakeRoom(Container& parent, int32_t from, int32_t height) {
+    const int32_t below = parent.Top + parent.Height;
+    for (Control* child : parent.Children()) {
+        if (child->Top >= from) child->Top = child->Top + height;
+    }
+    parent.Height = parent.Height + height;
+    if (Container* outer = parent.Parent()) MakeRoom(*outer, below, height);
+}
+
+}  // namespace
 
 void TabStrip::AddTab(int32_t position, std::string key, std::string caption) {
     const auto count = static_cast<int32_t>(tabs_.size());
@@ -16,9 +34,15 @@ void TabStrip::AddTab(int32_t position, std::string key, std::string caption) {
 
 void TabStrip::Select(int32_t number) {
     if (number < 1 || number > static_cast<int32_t>(tabs_.size())) return;
+    BeforeClick.Raise();
     selected_ = number;
     NotifyChanged();
     Click.Raise();
 }
 
-void TabStrip::Accept(ControlVisitor& visitor) { visitor.Visit(*this); }
+void TabStrip::SetMoreRows(int32_t height) {
+    const int32_t added = height - std::exchange(moreRows_, height);
+    if (added == 0) return;
+    Height = Height + added;
+    MakeRoom(*Parent(), Top + kFirstRow, added);
+}

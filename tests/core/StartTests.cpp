@@ -145,7 +145,7 @@ TEST_F(StartTest, SetupRequestReloadsTheBindingsAndReregisters) {
         logic.MPActions->CourseSel = 2;
     };
     const uint32_t shape = program->Session.OffsetTable.Shape();
-    Multi().cmdSetup.Press();
+    Window().tabMain.Choose(2), Multi().cmdSetup.Press();
     EXPECT_TRUE(modalDuring);
     EXPECT_FALSE(program->Windows.ModalWindowOpen);
     EXPECT_EQ(program->Windows.SetupPanelIndex, 1);
@@ -159,8 +159,8 @@ TEST_F(StartTest, SetupRequestOfASwitchPanelOnlyReloads) {
     cOffsetTable& table = program->Session.OffsetTable;
     for (const char* name : {"FUELPUMPS", "MASTERAVIONICS"}) table.UnregisterOffset(name);
     SwitchLogic().SPActions->RetractableGear = false;
-    Switch().cmdSetup.Press();
-    BIP().cmdSetup.Press();
+    Switch().SetupRequest.Raise();
+    BIP().SetupRequest.Raise();
     EXPECT_TRUE(SwitchLogic().SPActions->RetractableGear);
     EXPECT_LT(table.OffsetRegistered("FUELPUMPS"), table.OffsetRegistered("MASTERAVIONICS"));
 }

@@ -111,7 +111,7 @@ TEST_F(UnreadValuesTest, ActsThatWaitEndWithTheirBindings) {
     EXPECT_EQ(Sent() + Sent(), kNothing);
     failures[0]();
     Click(Button::AP), PutProfile("Default", "[MultiPanel1]\r\nButtonActionAP=None\r\n");
-    Multi().cmdSetup.Press(), Tick(), ExpectSent(kNothing, "a window changed the bindings");
+    Multi().SetupRequest.Raise(), Tick(), ExpectSent(kNothing, "a window changed the bindings");
 }
 
 TEST_F(UnreadValuesTest, WhatComesBehindAKnobThatWaitsIsDoneBehindIt) {

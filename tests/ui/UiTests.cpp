@@ -40,6 +40,20 @@ TEST(PlaceFormTest, SavedPlacesMustLieInsideTheWorkArea) {
     }
 }
 
+TEST(PlaceFormTest, WithoutMonitorsAndAtAnotherScale) {
+    VirtualScreen screen;
+    HeadlessUi ui;
+    Form form(ui);
+    form.Move(1500, 1500, 4800, 3000);
+    PlaceForm(form, 300, 300, {}, screen);
+    EXPECT_TRUE(form.Left == 0 && form.Top == 0);
+    ui.Dpi = 192;
+    PlaceForm(form, 0, 0, screen.EnumDisplayMonitors(), screen);
+    EXPECT_TRUE(form.Left == 4800 && form.Top == 2550) << "its 640 pixels stand at 640";
+    PlaceForm(form, 9600, 300, screen.EnumDisplayMonitors(), screen);
+    EXPECT_EQ(form.Left, 4800) << "1280 and 640 reach the edge";
+}
+
 TEST(PanelDrawingTest, OnlyTheRadioPanelsDisplaysHavePoints) {
     HeadlessUi ui;
     Form form(ui);

@@ -29,15 +29,6 @@ bool TakeAnyButWake(MSG& message) {
     return TakeMessage(message, 0, kWake - 1) || TakeMessage(message, kWake + 1, 0xFFFF);
 }
 
-void Dispatch(MSG& message) {
-    if (message.message >= WM_KEYFIRST && message.message <= WM_KEYLAST) {
-        const HWND top = GetAncestor(message.hwnd, GA_ROOT);
-        if (top && IsDialogMessageW(top, &message)) return;
-    }
-    TranslateMessage(&message);
-    DispatchMessageW(&message);
-}
-
 }  // namespace
 
 Win32Loop::Win32Loop()
@@ -67,9 +58,17 @@ void Win32Loop::RunUntil(const std::function<bool()>& done) {
         } else if (message.message == WM_QUIT) {
             Quit();
         } else {
-            Dispatch(message);
+            Dispatch(&message);
         }
     }
+}
+
+void Win32Loop::Dispatch(void* taken) const {
+    const auto& message = *static_cast<const MSG*>(taken);
+    const bool isKey = message.message >= WM_KEYFIRST && message.message <= WM_KEYLAST;
+    if (isKey && TakesMessage && TakesMessage(taken)) return;
+    TranslateMessage(&message);
+    DispatchMessageW(&message);
 }
 
 void Win32Loop::RunPending() {
@@ -87,7 +86,7 @@ void Win32Loop::RunPending() {
         if (message.message == WM_QUIT) {
             quit = true;
         } else {
-            Dispatch(message);
+            Dispatch(&message);
         }
     }
     if (quit) Quit();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <deque>
+#include <functional>
 #include <memory>
 #include <mutex>
 #include <vector>
@@ -27,6 +28,10 @@ class Win32Loop final : public MessageLoop {
     void StopTimer(TimerId timer) override;
     void Quit() override;
 
+    // Asked for each message (MSG) of the keyboard, before it is translated and dispatched: whether
+    // it has been dealt with.
+    std::function<bool(void* message)> TakesMessage;
+
   private:
     // Tasks and waiting ticks are numbered in one row, in the order of coming.
     struct Task {
@@ -40,6 +45,7 @@ class Win32Loop final : public MessageLoop {
     };
 
     intptr_t Handle(void* window, uint32_t message, uintptr_t wParam, intptr_t lParam);
+    void Dispatch(void* taken) const;
     void TakeWake();
     bool MustGiveWay();
     bool RunFirst(uint64_t last);

@@ -39,3 +39,5 @@ Platform Win32Platform::Ports() {
     return {p.clock,    p.loop,    p.ipc,    p.hid,  p.deckhub, p.ini,
             p.registry, p.process, p.screen, p.tray, p.files,   p.keyboard};
 }
+
+Win32Loop& Win32Platform::Loop() { return parts_->loop; }

@@ -4,6 +4,8 @@
 
 #include "platform/Platform.h"
 
+class Win32Loop;
+
 // The machine itself: makes and holds the real adapter of each port, for the thread that makes it.
 class Win32Platform {
   public:
@@ -14,6 +16,7 @@ class Win32Platform {
 
     // Valid as long as this lives.
     Platform Ports();
+    Win32Loop& Loop();
 
   private:
     struct Parts;

@@ -3,11 +3,12 @@
 #include "toolkit/CommandButton.h"
 #include "toolkit/win32/WindowPeer.h"
 
-class FontCache;
-
 class ButtonPeer : public WindowPeer {
   public:
-    ButtonPeer(CommandButton& button, FontCache& fonts);
+    ButtonPeer(CommandButton& button, const PeerServices& services);
+
+    // Null for a window that isn't a push button of a form.
+    static CommandButton* ButtonOf(HWND window);
 
     void OnCommand(UINT code) override;
 

@@ -3,8 +3,7 @@
 #include <algorithm>
 
 #include "toolkit/win32/CommonControls.h"
-#include "toolkit/win32/FontCache.h"
-#include "toolkit/win32/WideText.h"
+#include "toolkit/win32/Edit.h"
 
 namespace {
 
@@ -14,15 +13,14 @@ constexpr UINT kChosenAgain = 0x1000;  // ours, beside the system's codes
 
 }  // namespace
 
-ComboBoxPeer::ComboBoxPeer(ComboBox& box, FontCache& fonts) : WindowPeer(box), box_(box) {
-    Create(L"COMBOBOX", WS_TABSTOP | WS_VSCROLL | CBS_DROPDOWNLIST, 0);
-    SendMessageW(Window(), WM_SETFONT, reinterpret_cast<WPARAM>(fonts.Message()), FALSE);
+ComboBoxPeer::ComboBoxPeer(ComboBox& box, const PeerServices& services)
+    : ListControlPeer(box, services, {CB_ADDSTRING, CB_RESETCONTENT, CB_GETCURSEL, CB_SETCURSEL}),
+      box_(box) {
+    const DWORD kind = box.IsEditable() ? CBS_DROPDOWN | CBS_AUTOHSCROLL : CBS_DROPDOWNLIST;
+    Create(L"COMBOBOX", WS_TABSTOP | WS_VSCROLL | kind, 0);
     SendMessageW(Window(), CB_SETMINVISIBLE, kEntriesShown, 0);
+    if (box.IsEditable()) edit_ = GetWindow(Window(), GW_CHILD);
     Follow();
-}
-
-int32_t ComboBoxPeer::Selected() const {
-    return static_cast<int32_t>(SendMessageW(Window(), CB_GETCURSEL, 0, 0));
 }
 
 void ComboBoxPeer::OnCommand(UINT code) {
@@ -33,7 +31,10 @@ void ComboBoxPeer::OnCommand(UINT code) {
         case CBN_SELCHANGE:
             moved_ = true;
             chosen_ = false;
-            box_.SetListIndex(Selected());
+            Choose();
+            break;
+        case CBN_EDITCHANGE:
+            OnTyped();
             break;
         case CBN_SELENDOK:
             chosen_ = !moved_;
@@ -45,12 +46,24 @@ void ComboBoxPeer::OnCommand(UINT code) {
             CloseUp();
             break;
         case kChosenAgain:
-            if (chosen_) box_.SetListIndex(Selected());
+            if (chosen_) Choose();
             chosen_ = false;
             break;
         default:
             break;
     }
+}
+
+void ComboBoxPeer::OnTyped() {
+    box_.Type(EditText(edit_));
+    Follow();
+}
+
+void ComboBoxPeer::Choose() {
+    const int32_t selected = Selected();
+    // What was typed is no entry; it stays.
+    if (selected >= 0 || !box_.IsEditable()) box_.Choose(selected);
+    Follow();
 }
 
 void ComboBoxPeer::CloseUp() {
@@ -62,7 +75,7 @@ void ComboBoxPeer::CloseUp() {
         Follow();
     } else if (cancelled_ && Selected() != box_.ListIndex()) {
         // Leaving the list may take the moves in it back without a word.
-        box_.SetListIndex(Selected());
+        Choose();
     }
 }
 
@@ -85,23 +98,8 @@ void ComboBoxPeer::PutAt(const RECT& place) {
 }
 
 void ComboBoxPeer::FollowMore() {
-    FollowItems();
-    if (Selected() == box_.ListIndex()) return;
-    setByProgram_ = true;
-    SendMessageW(Window(), CB_SETCURSEL, static_cast<WPARAM>(box_.ListIndex()), 0);
-}
-
-void ComboBoxPeer::FollowItems() {
-    const auto& items = box_.Items();
-    const bool onlyAdded =
-        shown_.size() <= items.size() && std::equal(shown_.begin(), shown_.end(), items.begin());
-    if (!onlyAdded) {
-        SendMessageW(Window(), CB_RESETCONTENT, 0, 0);
-        shown_.clear();
-    }
-    while (shown_.size() < items.size()) {
-        const std::string& item = items[shown_.size()];
-        SendMessageW(Window(), CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(ToWide(item).c_str()));
-        shown_.push_back(item);
-    }
+    // Selecting no entry empties the field.
+    const int behindCaret = edit_ ? BehindCaret(edit_) : 0;
+    ListControlPeer::FollowMore();
+    if (edit_ && EditText(edit_) != box_.Text()) SetEditText(edit_, box_.Text(), behindCaret);
 }

@@ -1,30 +1,26 @@
 #pragma once
 
-#include <string>
-#include <vector>
-
 #include "toolkit/ComboBox.h"
-#include "toolkit/win32/WindowPeer.h"
+#include "toolkit/win32/ListControlPeer.h"
 
-class FontCache;
-
-class ComboBoxPeer : public WindowPeer {
+class ComboBoxPeer : public ListControlPeer {
   public:
-    ComboBoxPeer(ComboBox& box, FontCache& fonts);
+    ComboBoxPeer(ComboBox& box, const PeerServices& services);
 
     void OnCommand(UINT code) override;
 
   protected:
     void PutAt(const RECT& place) override;
     void FollowMore() override;
+    void SelectedAnew() override { setByProgram_ = true; }
 
   private:
-    int32_t Selected() const;
-    void FollowItems();
+    void OnTyped();
+    void Choose();
     void CloseUp();
 
     ComboBox& box_;
-    std::vector<std::string> shown_;
+    HWND edit_ = nullptr;  // of an editable one
     // Since the list was dropped down.
     bool cancelled_ = false;
     bool chosen_ = false;  // without a move before

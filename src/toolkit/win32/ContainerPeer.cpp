@@ -1,11 +1,21 @@
 #include "toolkit/win32/ContainerPeer.h"
 
-ContainerPeer::ContainerPeer(Container& container) : ContainerPeer(container, kPlainClass, 0) {
+namespace {
+
+bool IsDark(COLORREF color) {
+    return 3 * GetRValue(color) + 6 * GetGValue(color) + GetBValue(color) < 10 * 128;
+}
+
+}  // namespace
+
+ContainerPeer::ContainerPeer(Container& container, const PeerServices& services)
+    : ContainerPeer(container, services, kPlainClass, 0) {
     Follow();
 }
 
-ContainerPeer::ContainerPeer(Container& container, const wchar_t* className, DWORD style)
-    : WindowPeer(container), container_(container) {
+ContainerPeer::ContainerPeer(Container& container, const PeerServices& services,
+                             const wchar_t* className, DWORD style)
+    : WindowPeer(container, services), container_(container) {
     Create(className, style | WS_CLIPCHILDREN, WS_EX_CONTROLPARENT);
 }
 
@@ -28,26 +38,30 @@ LRESULT CALLBACK ContainerPeer::Procedure(HWND window, UINT message, WPARAM wPar
     return peer->OnMessage(message, wParam, lParam);
 }
 
+WindowPeer* ContainerPeer::Reporting(HWND child) const {
+    WindowPeer* peer = OfChild(Window(), child);
+    return peer && !peer->IsFollowing() ? peer : nullptr;
+}
+
 LRESULT ContainerPeer::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
-        case WM_COMMAND: {
-            WindowPeer* child = OfChild(Window(), reinterpret_cast<HWND>(lParam));
-            if (child && !child->IsFollowing()) child->OnCommand(HIWORD(wParam));
+        case WM_COMMAND:
+            if (WindowPeer* child = Reporting(reinterpret_cast<HWND>(lParam))) {
+                child->OnCommand(HIWORD(wParam));
+            }
             return 0;
-        }
         case WM_NOTIFY: {
             const auto& notice = *reinterpret_cast<const NMHDR*>(lParam);
-            WindowPeer* child = OfChild(Window(), notice.hwndFrom);
-            if (!child) break;
-            if (!child->IsFollowing()) child->OnNotify(notice);
+            if (!OfChild(Window(), notice.hwndFrom)) break;
+            if (WindowPeer* child = Reporting(notice.hwndFrom)) child->OnNotify(notice);
             return 0;
         }
-        case WM_CTLCOLORSTATIC: {
-            WindowPeer* child = OfChild(Window(), reinterpret_cast<HWND>(lParam));
-            const HBRUSH brush = child ? child->OnColor(reinterpret_cast<HDC>(wParam)) : nullptr;
-            if (!brush) break;
-            return reinterpret_cast<LRESULT>(brush);
-        }
+        case WM_HSCROLL:
+            if (WindowPeer* child = Reporting(reinterpret_cast<HWND>(lParam))) child->OnScroll();
+            return 0;
+        case WM_CTLCOLORSTATIC:
+        case WM_CTLCOLORBTN:
+            return ColorsOf(message, wParam, lParam);
         case WM_SIZE:
             for (const Control* control : container_.Children()) {
                 if (WindowPeer* child = Of(*control)) child->OnParentResized();
@@ -59,20 +73,34 @@ LRESULT ContainerPeer::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     return OnOther(message, wParam, lParam);
 }
 
+LRESULT ContainerPeer::ColorsOf(UINT message, WPARAM dc, LPARAM child) {
+    const auto to = reinterpret_cast<HDC>(dc);
+    LRESULT brush = OnOther(message, dc, child);
+    if (const HBRUSH ground = Ground()) {
+        LOGBRUSH color{};
+        GetObjectW(ground, sizeof color, &color);
+        SetBkColor(to, color.lbColor);
+        if (IsDark(color.lbColor)) SetTextColor(to, RGB(255, 255, 255));
+        brush = reinterpret_cast<LRESULT>(ground);
+    }
+    if (WindowPeer* peer = OfChild(Window(), reinterpret_cast<HWND>(child))) peer->OnColor(to);
+    return brush;
+}
+
 LRESULT ContainerPeer::OnOther(UINT message, WPARAM wParam, LPARAM lParam) {
     return DefWindowProcW(Window(), message, wParam, lParam);
 }
 
 void ContainerPeer::FollowMore() {
-    const auto& children = container_.Children();
     HWND inFront = nullptr;
-    for (auto child = children.rbegin(); child != children.rend(); ++child) {
-        const WindowPeer* peer = Of(**child);
-        if (!peer) continue;
-        if (GetWindow(peer->Window(), GW_HWNDPREV) != inFront) {
-            SetWindowPos(peer->Window(), inFront ? inFront : HWND_TOP, 0, 0, 0, 0,
+    for (const Control* control : container_.Children()) {
+        WindowPeer* child = Of(*control);
+        if (!child) continue;
+        if (GetWindow(child->Window(), GW_HWNDPREV) != inFront) {
+            SetWindowPos(child->Window(), inFront ? inFront : HWND_TOP, 0, 0, 0, 0,
                          SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
         }
-        inFront = peer->Window();
+        child->FollowGroup();
+        inFront = child->Window();
     }
 }

@@ -6,13 +6,17 @@
 // A plain area with child windows. It hands to the children's peers what their windows report.
 class ContainerPeer : public WindowPeer {
   public:
-    explicit ContainerPeer(Container& container);
+    ContainerPeer(Container& container, const PeerServices& services);
 
     // Window classes of this process; once more does no harm.
     static void RegisterClasses();
 
+    // What the controls on it are drawn on; null for the face of the system's buttons.
+    virtual HBRUSH Ground() const { return nullptr; }
+
   protected:
-    ContainerPeer(Container& container, const wchar_t* className, DWORD style);
+    ContainerPeer(Container& container, const PeerServices& services, const wchar_t* className,
+                  DWORD style);
 
     static constexpr const wchar_t* kFormClass = L"OrvoForm";
     static constexpr const wchar_t* kPlainClass = L"OrvoContainer";
@@ -26,6 +30,10 @@ class ContainerPeer : public WindowPeer {
 
   private:
     static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+
+    // The child that reports, unless it only echoes what its peer does.
+    WindowPeer* Reporting(HWND child) const;
+    LRESULT ColorsOf(UINT message, WPARAM dc, LPARAM child);
 
     Container& container_;
 };

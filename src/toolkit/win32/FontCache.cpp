@@ -3,22 +3,24 @@
 #include <cstdlib>
 #include <cwchar>
 
-#include "toolkit/win32/Units.h"
-
-FontCache::FontCache() {
+FontCache::FontCache(Scale scale) : scale_(scale) {
     NONCLIENTMETRICSW metrics{};
     metrics.cbSize = sizeof metrics;
     SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0);
     message_ = metrics.lfMessageFont;
-    const HDC screen = GetDC(nullptr);
-    message_.lfHeight = -MulDiv(std::abs(message_.lfHeight), USER_DEFAULT_SCREEN_DPI,
-                                GetDeviceCaps(screen, LOGPIXELSY));
-    ReleaseDC(nullptr, screen);
+    message_.lfHeight = -MulDiv(std::abs(message_.lfHeight), scale.Dpi(), SystemDpi());
 }
 
-int FontCache::HeightOf(int32_t fontHeight, int scale) const {
-    if (fontHeight == kDefaultHeight) return -message_.lfHeight * scale;
-    return ToPixels(fontHeight, scale);
+int FontCache::SystemDpi() {
+    const HDC screen = GetDC(nullptr);
+    const int dpi = GetDeviceCaps(screen, LOGPIXELSY);
+    ReleaseDC(nullptr, screen);
+    return dpi;
+}
+
+int FontCache::HeightOf(int32_t fontHeight, int finer) const {
+    if (fontHeight == kDefaultHeight) return -message_.lfHeight * finer;
+    return scale_.ToPixels(fontHeight, finer);
 }
 
 HFONT FontCache::Get(FontFace face, int height) {

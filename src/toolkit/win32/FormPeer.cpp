@@ -3,25 +3,53 @@
 #include <algorithm>
 #include <string_view>
 
-#include "toolkit/win32/Units.h"
+#include "toolkit/UiBackend.h"
 
 namespace {
 
 constexpr WORD kIconResource = 101;
+constexpr DWORD kDialogClass = 0x8002;  // the atom of the system's boxes
 constexpr DWORD kResizableStyle = WS_THICKFRAME | WS_MAXIMIZEBOX;
+constexpr DWORD kFixedStyle = WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX;
 
 // Keeps what the program has set when it means the same pixel.
-void ReportPixels(Property<int32_t, Control>& twips, int pixels) {
-    if (ToPixels(twips) != pixels) twips = ToTwips(pixels);
+void ReportPixels(Property<int32_t, Control>& twips, int pixels, Scale scale) {
+    if (scale.ToPixels(twips) != pixels) twips = scale.ToTwips(pixels);
+}
+
+struct OwnedBoxes {
+    HWND owner;
+    std::vector<HWND> found;
+};
+
+BOOL CALLBACK TakeOwnedBox(HWND window, LPARAM boxes) {
+    auto& search = *reinterpret_cast<OwnedBoxes*>(boxes);
+    if (GetWindow(window, GW_OWNER) == search.owner && IsWindowVisible(window) &&
+        IsWindowEnabled(window) && GetClassLongW(window, GCW_ATOM) == kDialogClass) {
+        search.found.push_back(window);
+    }
+    return TRUE;
 }
 
 }  // namespace
 
-FormPeer::FormPeer(Form& form)
-    : ContainerPeer(form, kFormClass, WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX),
-      form_(form) {
+FormPeer::FormPeer(Form& form, const PeerServices& services)
+    : ContainerPeer(form, services, kFormClass, kFixedStyle), form_(form), keys_(form) {
     SetIcons();
     Follow();
+}
+
+SIZE FormPeer::FrameSize() {
+    RECT frame{};
+    AdjustWindowRectEx(&frame, kFixedStyle, FALSE, WS_EX_CONTROLPARENT);
+    return {frame.right - frame.left, frame.bottom - frame.top};
+}
+
+bool FormPeer::TakeKey(MSG& message) {
+    const bool taken = keys_.Take(Window(), message);
+    // The system moves the mark of the default button about with the keyboard.
+    FollowDefaultButton();
+    return taken;
 }
 
 FormPeer* FormPeer::Of(HWND window) {
@@ -50,10 +78,11 @@ LRESULT FormPeer::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
             form_.Unload();
             return 0;
         case WM_ENDSESSION:
-            if (wParam) {
-                form_.Unload();
-                form_.SessionEnding.Raise();
-            }
+            if (wParam) form_.EndSession();
+            return 0;
+        // What IsDialogMessage asks of a dialog.
+        case WM_NEXTDLGCTL:
+            GoTo(LOWORD(lParam) ? reinterpret_cast<HWND>(wParam) : NextStop(wParam != 0));
             return 0;
         case WM_ACTIVATE:
             if (HIWORD(wParam) == 0) OnActivate(LOWORD(wParam) != WA_INACTIVE);
@@ -77,10 +106,11 @@ void FormPeer::Report() {
     {
         // One value at a time reaches the form: following half of them would move the window.
         const Following following(*this);
-        ReportPixels(form_.Left, place.left);
-        ReportPixels(form_.Top, place.top);
-        ReportPixels(form_.Width, place.right - place.left);
-        ReportPixels(form_.Height, place.bottom - place.top - extraHeight_);
+        const Scale scale = Services().scale;
+        ReportPixels(form_.Left, place.left, scale);
+        ReportPixels(form_.Top, place.top, scale);
+        ReportPixels(form_.Width, place.right - place.left, scale);
+        ReportPixels(form_.Height, place.bottom - place.top - extraHeight_, scale);
     }
     Follow();
 }
@@ -89,21 +119,38 @@ void FormPeer::OnActivate(bool active) {
     if (!active) {
         const HWND focus = GetFocus();
         if (IsChild(Window(), focus)) lastFocus_ = focus;
-    } else if (IsChild(Window(), lastFocus_) && IsWindowVisible(lastFocus_) &&
-               IsWindowEnabled(lastFocus_)) {
+        return;
+    }
+    keys_.OnActive();
+    if (IsChild(Window(), lastFocus_) && IsWindowVisible(lastFocus_) &&
+        IsWindowEnabled(lastFocus_)) {
         SetFocus(lastFocus_);
     } else {
-        MoveFocus(false);
+        GoTo(FirstStop());
     }
 }
 
-// The windows are stacked with the last control in front, so the system's order is ours reversed.
-void FormPeer::MoveFocus(bool back) {
+HWND FormPeer::FirstStop() const {
+    const WindowPeer* first = form_.FirstFocus ? Of(*form_.FirstFocus) : nullptr;
+    return first ? first->Window() : GetNextDlgTabItem(Window(), nullptr, FALSE);
+}
+
+// The letter of a frame gives it the keyboard, so that the next stop is the first one in it.
+HWND FormPeer::NextStop(bool back) const {
     const HWND focus = GetFocus();
-    const HWND from = IsChild(Window(), focus) ? focus : nullptr;
-    const HWND next = GetNextDlgTabItem(Window(), from, !back);
-    if (next) SetFocus(next);
-    SendMessageW(Window(), WM_CHANGEUISTATE, MAKEWPARAM(UIS_CLEAR, UISF_HIDEFOCUS), 0);
+    const bool holdsOthers = (GetWindowLongW(focus, GWL_EXSTYLE) & WS_EX_CONTROLPARENT) != 0;
+    const HWND inside =
+        holdsOthers && focus != Window() ? GetNextDlgTabItem(focus, nullptr, back) : nullptr;
+    return inside ? inside : GetNextDlgTabItem(Window(), focus, back);
+}
+
+// A text that the Tab key comes to is selected as a whole.
+void FormPeer::GoTo(HWND control) {
+    const HWND to = control ? control : Window();
+    if ((SendMessageW(to, WM_GETDLGCODE, 0, 0) & DLGC_HASSETSEL) != 0) {
+        SendMessageW(to, EM_SETSEL, 0, -1);
+    }
+    SetFocus(to);
 }
 
 // The system's scaling makes caption, borders and status bar higher, but not the contents: without
@@ -140,12 +187,36 @@ void FormPeer::FollowPlace() {
     SetWindowPos(Window(), nullptr, left, top, width, height, SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
+// While a box is open the system sees to its owner.
+void FormPeer::FollowEnabled() {
+    FollowBoxes();
+    if (!Services().ui.IsBoxOnTop()) Enable(form_.TakesActs());
+}
+
+// The form's boxes can't be reached while a modal form stands over them.
+void FormPeer::FollowBoxes() {
+    const Form* modal = Services().ui.ModalForm();
+    if (!modal || modal == &form_) {
+        for (const HWND box : blockedBoxes_) EnableWindow(box, TRUE);
+        blockedBoxes_.clear();
+    } else if (blockedBoxes_.empty()) {
+        OwnedBoxes boxes{Window(), {}};
+        EnumThreadWindows(GetCurrentThreadId(), TakeOwnedBox, reinterpret_cast<LPARAM>(&boxes));
+        for (const HWND box : boxes.found) EnableWindow(box, FALSE);
+        blockedBoxes_ = std::move(boxes.found);
+    }
+}
+
 void FormPeer::FollowVisible() {
     const bool shown = IsWindowVisible(Window()) != FALSE;
     if (shown == form_.Visible) return;
     if (!form_.Visible) {
         ShowWindow(Window(), SW_HIDE);
         return;
+    }
+    const WindowPeer* owner = form_.Owner() ? Of(*form_.Owner()) : nullptr;
+    if (owner) {
+        SetWindowLongPtrW(Window(), GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(owner->Window()));
     }
     Activate();
 }
@@ -159,13 +230,28 @@ void FormPeer::Activate() {
 }
 
 void FormPeer::FollowMore() {
+    FollowStyle();
+    ContainerPeer::FollowMore();
+    FollowDefaultButton();
+}
+
+void FormPeer::FollowStyle() {
     const auto style = static_cast<DWORD>(GetWindowLongW(Window(), GWL_STYLE));
-    const DWORD wanted = form_.Resizable ? style | kResizableStyle : style & ~kResizableStyle;
+    DWORD wanted = form_.Resizable ? style | kResizableStyle : style & ~kResizableStyle;
+    wanted = form_.CanMinimize ? wanted | WS_MINIMIZEBOX : wanted & ~DWORD{WS_MINIMIZEBOX};
     if (style != wanted) {
         SetWindowLongW(Window(), GWL_STYLE, static_cast<LONG>(wanted));
         SetWindowPos(Window(), nullptr, 0, 0, 0, 0,
                      SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
     }
-    SetText(form_.Caption);
-    ContainerPeer::FollowMore();
+    const bool onTop = (GetWindowLongW(Window(), GWL_EXSTYLE) & WS_EX_TOPMOST) != 0;
+    if (onTop != form_.StaysOnTop) {
+        SetWindowPos(Window(), form_.StaysOnTop ? HWND_TOPMOST : HWND_NOTOPMOST, 0, 0, 0, 0,
+                     SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    }
+}
+
+void FormPeer::FollowDefaultButton() {
+    WindowPeer* button = form_.DefaultButton ? Of(*form_.DefaultButton) : nullptr;
+    if (button) button->Follow();
 }

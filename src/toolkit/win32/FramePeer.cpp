@@ -1,12 +1,10 @@
 #include "toolkit/win32/FramePeer.h"
 
 #include "toolkit/win32/CommonControls.h"
-#include "toolkit/win32/FontCache.h"
 
-FramePeer::FramePeer(Frame& frame, FontCache& fonts)
-    : ContainerPeer(frame, L"BUTTON", BS_GROUPBOX), frame_(frame) {
+FramePeer::FramePeer(Frame& frame, const PeerServices& services)
+    : ContainerPeer(frame, services, L"BUTTON", BS_GROUPBOX), frame_(frame) {
     SetWindowSubclass(Window(), Subclass, 0, reinterpret_cast<DWORD_PTR>(this));
-    SendMessageW(Window(), WM_SETFONT, reinterpret_cast<WPARAM>(fonts.Message()), FALSE);
     Follow();
 }
 
@@ -17,20 +15,22 @@ LRESULT CALLBACK FramePeer::Subclass(HWND, UINT message, WPARAM wParam, LPARAM l
     return reinterpret_cast<FramePeer*>(peer)->OnMessage(message, wParam, lParam);
 }
 
+HBRUSH FramePeer::Ground() const {
+    const auto* parent = dynamic_cast<const ContainerPeer*>(frame_.Parent()->GetPeer());
+    return parent ? parent->Ground() : nullptr;
+}
+
 LRESULT FramePeer::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     if (message != WM_ERASEBKGND) return ContainerPeer::OnMessage(message, wParam, lParam);
     // A group box counts on its parent's ground, which is clipped away here.
     RECT area;
     GetClientRect(Window(), &area);
-    FillRect(reinterpret_cast<HDC>(wParam), &area, GetSysColorBrush(COLOR_BTNFACE));
+    const HBRUSH ground = Ground();
+    FillRect(reinterpret_cast<HDC>(wParam), &area,
+             ground ? ground : GetSysColorBrush(COLOR_BTNFACE));
     return 1;
 }
 
 LRESULT FramePeer::OnOther(UINT message, WPARAM wParam, LPARAM lParam) {
     return DefSubclassProc(Window(), message, wParam, lParam);
-}
-
-void FramePeer::FollowMore() {
-    SetText(frame_.Caption);
-    ContainerPeer::FollowMore();
 }

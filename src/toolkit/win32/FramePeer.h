@@ -3,18 +3,17 @@
 #include "toolkit/Frame.h"
 #include "toolkit/win32/ContainerPeer.h"
 
-class FontCache;
-
 // A native group box that is also the parent of what it frames: so screen readers name the group.
 class FramePeer : public ContainerPeer {
   public:
-    FramePeer(Frame& frame, FontCache& fonts);
+    FramePeer(Frame& frame, const PeerServices& services);
     ~FramePeer() override;
+
+    HBRUSH Ground() const override;
 
   protected:
     LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
     LRESULT OnOther(UINT message, WPARAM wParam, LPARAM lParam) override;
-    void FollowMore() override;
 
   private:
     static LRESULT CALLBACK Subclass(HWND window, UINT message, WPARAM wParam, LPARAM lParam,

@@ -3,21 +3,23 @@
 #include "toolkit/Picture.h"
 #include "toolkit/win32/WindowPeer.h"
 
-class FontCache;
-
 // A label that isn't part of a drawing.
 class LabelPeer : public WindowPeer {
   public:
-    LabelPeer(Label& label, FontCache& fonts);
+    LabelPeer(Label& label, const PeerServices& services);
+    ~LabelPeer() override;
 
-    HBRUSH OnColor(HDC dc) override;
+    void OnColor(HDC dc) override;
 
   protected:
     void FollowMore() override;
 
   private:
+    static LRESULT CALLBACK Subclass(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
+                                     UINT_PTR id, DWORD_PTR label);
+    DWORD Style() const;
+
     Label& label_;
-    FontCache& fonts_;
     HFONT font_ = nullptr;
     Color color_ = 0;
 };

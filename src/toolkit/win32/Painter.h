@@ -3,34 +3,29 @@
 #include <windows.h>
 
 #include "toolkit/Picture.h"
-#include "toolkit/UiBackend.h"
-#include "toolkit/win32/FontCache.h"
+#include "toolkit/win32/PeerServices.h"
 
-// Where a Label, Shape or Line of a Picture is drawn, in pixels of the screen.
-RECT DrawnArea(const Control& control);
+// Where a part of a Picture is drawn, in pixels of the screen.
+RECT DrawnArea(const Control& control, Scale scale);
 
 // Draws what a Canvas has room for of a Picture, at the Canvas's scale.
-class Painter : private ControlVisitor {
+class Painter {
   public:
-    Painter(HDC dc, FontCache& fonts) : dc_(dc), fonts_(fonts) {}
+    Painter(HDC dc, const PeerServices& services) : dc_(dc), services_(services) {}
 
-    void Draw(Picture& picture);
+    void Draw(const Picture& picture);
 
   private:
-    void Visit(Label& label) override;
-    void Visit(Shape& shape) override;
-    void Visit(Line& line) override;
+    void Draw(const Label& label);
+    void Draw(const Shape& shape);
+    void Draw(const Line& line);
+    void DrawPart(const Control& part);
 
-    // These have windows of their own.
-    void Visit(Form&) override {}
-    void Visit(Container&) override {}
-    void Visit(Frame&) override {}
-    void Visit(Picture&) override {}
-    void Visit(CommandButton&) override {}
-    void Visit(ComboBox&) override {}
-    void Visit(TabStrip&) override {}
-    void Visit(StatusBar&) override {}
+    int ToDots(int32_t twips) const;
+    int PenWidth(int32_t twips) const;
+    RECT AreaOf(const Control& control) const;
+    bool IsIn(const Control& control) const;
 
     HDC dc_;
-    FontCache& fonts_;
+    const PeerServices& services_;
 };

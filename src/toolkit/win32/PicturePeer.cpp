@@ -1,11 +1,13 @@
 #include "toolkit/win32/PicturePeer.h"
 
+#include <windowsx.h>
+
 #include "toolkit/win32/Canvas.h"
 #include "toolkit/win32/Colors.h"
 #include "toolkit/win32/Painter.h"
 
-PicturePeer::PicturePeer(Picture& picture, FontCache& fonts)
-    : ContainerPeer(picture, kPictureClass, 0), picture_(picture), fonts_(fonts) {
+PicturePeer::PicturePeer(Picture& picture, const PeerServices& services)
+    : ContainerPeer(picture, services, kPictureClass, 0), picture_(picture) {
     Follow();
 }
 
@@ -16,9 +18,17 @@ LRESULT PicturePeer::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
             return 0;
         case WM_ERASEBKGND:
             return 1;
-        // What is seen in the round corners of a button.
-        case WM_CTLCOLORBTN:
-            return reinterpret_cast<LRESULT>(ground_.get());
+        // What is seen through and around the controls on it.
+        case WM_PRINTCLIENT: {
+            RECT area;
+            GetClientRect(Window(), &area);
+            FillRect(reinterpret_cast<HDC>(wParam), &area, ground_.get());
+            return 0;
+        }
+        case WM_LBUTTONDOWN:
+        case WM_LBUTTONDBLCLK:
+            OnClick(lParam);
+            return 0;
         default:
             return ContainerPeer::OnMessage(message, wParam, lParam);
     }
@@ -33,7 +43,12 @@ void PicturePeer::FollowMore() {
     ContainerPeer::FollowMore();
 }
 
-void PicturePeer::FollowLabels() {
+void PicturePeer::OnClick(LPARAM point) {
+    const Scale scale = Services().scale;
+    picture_.Press(scale.ToTwips(GET_X_LPARAM(point)), scale.ToTwips(GET_Y_LPARAM(point)));
+}
+
+std::string PicturePeer::Text() const {
     std::string text;
     for (const Control* child : picture_.Children()) {
         const auto* label = dynamic_cast<const Label*>(child);
@@ -41,7 +56,7 @@ void PicturePeer::FollowLabels() {
         if (!text.empty()) text += ' ';
         text += label->Caption.Get();
     }
-    SetText(text);
+    return text;
 }
 
 void PicturePeer::Paint() {
@@ -49,7 +64,7 @@ void PicturePeer::Paint() {
     const HDC screen = BeginPaint(Window(), &paint);
     Canvas canvas(paint.rcPaint);
     if (canvas.Dc()) {
-        Painter painter(canvas.Dc(), fonts_);
+        Painter painter(canvas.Dc(), Services());
         painter.Draw(picture_);
         canvas.CopyTo(screen);
     }
@@ -63,7 +78,7 @@ DrawnPeer::DrawnPeer(const Control& control, PicturePeer& picture)
 
 void DrawnPeer::Follow() {
     picture_.Invalidate(area_);
-    area_ = DrawnArea(control_);
+    area_ = DrawnArea(control_, picture_.ScaleOf());
     picture_.Invalidate(area_);
     if (label_) FollowCaption();
 }

@@ -4,28 +4,31 @@
 #include "toolkit/win32/ContainerPeer.h"
 #include "toolkit/win32/GdiHandle.h"
 
-class FontCache;
-
 // A Picture's window: painted as a whole when it has changed and can be seen.
 class PicturePeer : public ContainerPeer {
   public:
-    PicturePeer(Picture& picture, FontCache& fonts);
+    PicturePeer(Picture& picture, const PeerServices& services);
 
     // What is drawn in an area isn't true any more. Several calls make one painting.
     void Invalidate(const RECT& area) { InvalidateRect(Window(), &area, FALSE); }
 
     // A label shows something else: the window's text, which screen readers read, follows.
-    void FollowLabels();
+    void FollowLabels() { SetText(Text()); }
+
+    HBRUSH Ground() const override { return ground_.get(); }
+    Scale ScaleOf() const { return Services().scale; }
 
   protected:
     LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+    // That of its labels.
+    std::string Text() const override;
     void FollowMore() override;
 
   private:
     void Paint();
+    void OnClick(LPARAM point);
 
     Picture& picture_;
-    FontCache& fonts_;
     Color groundColor_ = 0;
     GdiHandle<HBRUSH> ground_;
 };

@@ -1,12 +1,11 @@
 #include "toolkit/win32/StatusBarPeer.h"
 
 #include "toolkit/win32/CommonControls.h"
-#include "toolkit/win32/FontCache.h"
 #include "toolkit/win32/WideText.h"
 
-StatusBarPeer::StatusBarPeer(StatusBar& bar, FontCache& fonts) : WindowPeer(bar), bar_(bar) {
+StatusBarPeer::StatusBarPeer(StatusBar& bar, const PeerServices& services)
+    : WindowPeer(bar, services), bar_(bar) {
     Create(STATUSCLASSNAMEW, CCS_BOTTOM, 0);
-    SendMessageW(Window(), WM_SETFONT, reinterpret_cast<WPARAM>(fonts.Message()), FALSE);
     tips_ = std::make_unique<ToolTip>(Window());
     Follow();
 }

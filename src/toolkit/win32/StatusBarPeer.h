@@ -6,17 +6,16 @@
 #include "toolkit/StatusBar.h"
 #include "toolkit/win32/WindowPeer.h"
 
-class FontCache;
-
 // The bar keeps itself along the bottom of its parent; the control's own place means nothing.
 class StatusBarPeer : public WindowPeer {
   public:
-    StatusBarPeer(StatusBar& bar, FontCache& fonts);
+    StatusBarPeer(StatusBar& bar, const PeerServices& services);
 
     void OnParentResized() override;
     int HeightAtBottom() const override;
 
   protected:
+    std::string Text() const override { return {}; }
     void FollowPlace() override {}
     void FollowMore() override;
 

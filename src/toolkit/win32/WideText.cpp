@@ -21,3 +21,12 @@ std::string FromWide(std::wstring_view text) {
     narrow.resize(static_cast<size_t>(written));
     return narrow;
 }
+
+std::optional<uint8_t> ToByte(wchar_t character) {
+    char byte = 0;
+    BOOL lacking = FALSE;
+    WideCharToMultiByte(kCodePage, WC_NO_BEST_FIT_CHARS, &character, 1, &byte, 1, nullptr,
+                        &lacking);
+    if (lacking) return std::nullopt;
+    return static_cast<uint8_t>(byte);
+}

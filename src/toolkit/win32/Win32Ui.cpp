@@ -1,22 +1,21 @@
 #include "toolkit/win32/Win32Ui.h"
 
-#include "toolkit/ComboBox.h"
-#include "toolkit/CommandButton.h"
 #include "toolkit/Form.h"
-#include "toolkit/Frame.h"
-#include "toolkit/Picture.h"
-#include "toolkit/StatusBar.h"
-#include "toolkit/TabStrip.h"
 #include "toolkit/win32/ButtonPeer.h"
+#include "toolkit/win32/CheckBoxPeer.h"
 #include "toolkit/win32/ComboBoxPeer.h"
 #include "toolkit/win32/CommonControls.h"
 #include "toolkit/win32/FontCache.h"
 #include "toolkit/win32/FormPeer.h"
 #include "toolkit/win32/FramePeer.h"
 #include "toolkit/win32/LabelPeer.h"
+#include "toolkit/win32/ListBoxPeer.h"
+#include "toolkit/win32/OptionButtonPeer.h"
 #include "toolkit/win32/PicturePeer.h"
+#include "toolkit/win32/SliderPeer.h"
 #include "toolkit/win32/StatusBarPeer.h"
 #include "toolkit/win32/TabStripPeer.h"
+#include "toolkit/win32/TextBoxPeer.h"
 #include "toolkit/win32/WideText.h"
 
 namespace {
@@ -25,87 +24,57 @@ PicturePeer* PictureAround(const Control& control) {
     return control.Parent() ? dynamic_cast<PicturePeer*>(control.Parent()->GetPeer()) : nullptr;
 }
 
-class PeerMaker : public ControlVisitor {
-  public:
-    explicit PeerMaker(FontCache& fonts) : fonts_(fonts) {}
+std::unique_ptr<Peer> MakeDrawn(Control& control, const PeerServices&) {
+    PicturePeer* picture = PictureAround(control);
+    if (!picture || !dynamic_cast<PicturePart*>(&control)) return nullptr;
+    return std::make_unique<DrawnPeer>(control, *picture);
+}
 
-    void Visit(Form& form) override { made = std::make_unique<FormPeer>(form); }
-    void Visit(Container& container) override { made = std::make_unique<ContainerPeer>(container); }
-    void Visit(Frame& frame) override { made = std::make_unique<FramePeer>(frame, fonts_); }
-    void Visit(Picture& picture) override { made = std::make_unique<PicturePeer>(picture, fonts_); }
-    void Visit(CommandButton& button) override {
-        made = std::make_unique<ButtonPeer>(button, fonts_);
-    }
-    void Visit(ComboBox& box) override { made = std::make_unique<ComboBoxPeer>(box, fonts_); }
-    void Visit(Label& label) override {
-        if (PicturePeer* picture = PictureAround(label)) {
-            made = std::make_unique<DrawnPeer>(label, *picture);
-        } else {
-            made = std::make_unique<LabelPeer>(label, fonts_);
-        }
-    }
-    void Visit(Shape& shape) override { MakeDrawn(shape); }
-    void Visit(Line& line) override { MakeDrawn(line); }
-    void Visit(TabStrip& tabs) override { made = std::make_unique<TabStripPeer>(tabs, fonts_); }
-    void Visit(StatusBar& bar) override { made = std::make_unique<StatusBarPeer>(bar, fonts_); }
+template <class Kind, class KindPeer>
+std::unique_ptr<Peer> Make(Control& control, const PeerServices& services) {
+    auto* kind = dynamic_cast<Kind*>(&control);
+    return kind ? std::make_unique<KindPeer>(*kind, services) : nullptr;
+}
 
-    std::unique_ptr<Peer> made;
+using Maker = std::unique_ptr<Peer> (*)(Control&, const PeerServices&);
 
-  private:
-    void MakeDrawn(Control& control) {
-        if (PicturePeer* picture = PictureAround(control)) {
-            made = std::make_unique<DrawnPeer>(control, *picture);
-        }
-    }
-
-    FontCache& fonts_;
+// The first that makes something counts, so a kind comes before the one that it is derived from.
+constexpr Maker kMakers[] = {
+    Make<Form, FormPeer>,
+    Make<Frame, FramePeer>,
+    Make<Picture, PicturePeer>,
+    Make<Container, ContainerPeer>,
+    MakeDrawn,
+    Make<Label, LabelPeer>,
+    Make<CommandButton, ButtonPeer>,
+    Make<CheckBox, CheckBoxPeer>,
+    Make<OptionButton, OptionButtonPeer>,
+    Make<TextBox, TextBoxPeer>,
+    Make<ListBox, ListBoxPeer>,
+    Make<ComboBox, ComboBoxPeer>,
+    Make<Slider, SliderPeer>,
+    Make<TabStrip, TabStripPeer>,
+    Make<StatusBar, StatusBarPeer>,
 };
 
-bool IsPushButton(HWND window) {
-    const LRESULT kind = SendMessageW(window, WM_GETDLGCODE, 0, 0);
-    return (kind & (DLGC_DEFPUSHBUTTON | DLGC_UNDEFPUSHBUTTON)) != 0;
-}
-
-// A click takes the message's place, so that the loop delivers it: what it opens must not run
-// within the hook. A key that is held down clicks once.
-void TakeEnter(MSG& message) {
-    const bool held = (HIWORD(message.lParam) & KF_REPEAT) != 0;
-    message.message = held ? WM_NULL : BM_CLICK;
-    message.wParam = 0;
-    message.lParam = 0;
-}
-
-void TakeKey(MSG& message) {
-    FormPeer* form = FormPeer::Of(GetAncestor(message.hwnd, GA_ROOT));
-    if (!form) return;
-    if (message.wParam == VK_TAB) {
-        form->MoveFocus(GetKeyState(VK_SHIFT) < 0);
-        message.message = WM_NULL;
-    } else if (message.wParam == VK_RETURN && IsPushButton(message.hwnd)) {
-        TakeEnter(message);
-    }
-}
-
-// The loop knows nothing of forms, so Tab and Enter are taken out of its messages here.
-LRESULT CALLBACK FilterKeys(int code, WPARAM removed, LPARAM data) {
-    auto& message = *reinterpret_cast<MSG*>(data);
-    if (code == HC_ACTION && removed == PM_REMOVE && message.message == WM_KEYDOWN) {
-        TakeKey(message);
-    }
-    return CallNextHookEx(nullptr, code, removed, data);
-}
-
-BOOL CALLBACK TakeVisibleForm(HWND window, LPARAM found) {
-    if (!IsWindowVisible(window) || !FormPeer::Of(window)) return TRUE;
+// A hidden one when no other is there: it can't be shown in front of the box then.
+BOOL CALLBACK TakeForm(HWND window, LPARAM found) {
+    if (!FormPeer::Of(window)) return TRUE;
     *reinterpret_cast<HWND*>(found) = window;
-    return FALSE;
+    return !IsWindowVisible(window);
 }
 
-HWND BoxOwner() {
+// A box that is open already owns the next one.
+HWND BoxOwner(const Form* modal) {
+    if (modal && modal->Visible && WindowPeer::Of(*modal)) {
+        const HWND window = WindowPeer::Of(*modal)->Window();
+        const HWND last = GetLastActivePopup(window);
+        return IsWindowVisible(last) ? last : window;
+    }
     HWND owner = GetActiveWindow();
     if (owner && IsWindowVisible(owner)) return owner;
     owner = nullptr;
-    EnumThreadWindows(GetCurrentThreadId(), TakeVisibleForm, reinterpret_cast<LPARAM>(&owner));
+    EnumThreadWindows(GetCurrentThreadId(), TakeForm, reinterpret_cast<LPARAM>(&owner));
     return owner;
 }
 
@@ -127,27 +96,47 @@ UINT BoxIcon(MsgBoxIcon icon) {
 
 }  // namespace
 
-Win32Ui::Win32Ui() : fonts_(std::make_unique<FontCache>()) {
+Win32Ui::Win32Ui() : Win32Ui(FontCache::SystemDpi()) {}
+
+Win32Ui::Win32Ui(int dotsPerInch)
+    : fonts_(std::make_unique<FontCache>(Scale(dotsPerInch))),
+      services_(std::make_unique<PeerServices>(PeerServices{*this, *fonts_, Scale(dotsPerInch)})) {
     INITCOMMONCONTROLSEX controls{sizeof controls,
                                   ICC_STANDARD_CLASSES | ICC_TAB_CLASSES | ICC_BAR_CLASSES};
     InitCommonControlsEx(&controls);
     ContainerPeer::RegisterClasses();
-    keyHook_ = SetWindowsHookExW(WH_GETMESSAGE, FilterKeys, nullptr, GetCurrentThreadId());
 }
 
-Win32Ui::~Win32Ui() { UnhookWindowsHookEx(static_cast<HHOOK>(keyHook_)); }
+Win32Ui::~Win32Ui() = default;
+
+Scale Win32Ui::ScreenScale() const { return services_->scale; }
+
+UiBackend::FrameSize Win32Ui::FormFrame() const {
+    const SIZE frame = FormPeer::FrameSize();
+    return {services_->scale.ToTwips(frame.cx), services_->scale.ToTwips(frame.cy)};
+}
 
 std::unique_ptr<Peer> Win32Ui::MakePeer(Control& control) {
-    PeerMaker maker(*fonts_);
-    control.Accept(maker);
-    return std::move(maker.made);
+    for (const Maker make : kMakers) {
+        if (auto peer = make(control, *services_)) return peer;
+    }
+    return nullptr;
 }
 
-MsgBoxResult Win32Ui::MsgBox(const MsgBoxRequest& request) {
+bool Win32Ui::TakeKey(void* message) {
+    auto& key = *static_cast<MSG*>(message);
+    const HWND top = GetAncestor(key.hwnd, GA_ROOT);
+    if (!top) return false;
+    if (FormPeer* form = FormPeer::Of(top)) return form->TakeKey(key);
+    // A box's, when the loop runs while one is open.
+    return IsDialogMessageW(top, &key) != FALSE;
+}
+
+MsgBoxResult Win32Ui::ShowBox(const MsgBoxRequest& request) {
     const bool cancellable = request.buttons == MsgBoxButtons::OkCancel;
     const UINT flags =
         (cancellable ? MB_OKCANCEL : MB_OK) | BoxIcon(request.icon) | MB_SETFOREGROUND;
-    const int pressed =
-        MessageBoxW(BoxOwner(), ToWide(request.text).c_str(), ToWide(request.title).c_str(), flags);
+    const int pressed = MessageBoxW(BoxOwner(ModalForm()), ToWide(request.text).c_str(),
+                                    ToWide(request.title).c_str(), flags);
     return cancellable && pressed != IDOK ? MsgBoxResult::Cancel : MsgBoxResult::Ok;
 }

@@ -3,8 +3,23 @@
 #include <algorithm>
 
 #include "toolkit/Container.h"
-#include "toolkit/win32/Units.h"
+#include "toolkit/OptionButton.h"
+#include "toolkit/win32/FontCache.h"
 #include "toolkit/win32/WideText.h"
+
+namespace {
+
+// Arrow keys move among the options that follow upon each other, and nowhere else.
+bool StartsGroup(const Control& control) {
+    const auto isOption = [](const Control* other) {
+        return dynamic_cast<const OptionButton*>(other) != nullptr;
+    };
+    const auto& siblings = control.Parent()->Children();
+    const auto self = std::find(siblings.begin(), siblings.end(), &control);
+    return !isOption(&control) || self == siblings.begin() || !isOption(*std::prev(self));
+}
+
+}  // namespace
 
 WindowPeer::~WindowPeer() {
     toolTip_.reset();
@@ -18,8 +33,7 @@ WindowPeer* WindowPeer::Stored(HWND window) {
 }
 
 WindowPeer* WindowPeer::OfChild(HWND parent, HWND window) {
-    if (!window || GetAncestor(window, GA_PARENT) != parent) return nullptr;
-    return Stored(window);
+    return IsChild(parent, window) ? Stored(window) : nullptr;
 }
 
 WindowPeer* WindowPeer::Of(const Control& control) {
@@ -34,22 +48,32 @@ void WindowPeer::Create(const wchar_t* className, DWORD style, DWORD extendedSty
                               parentPeer ? parentPeer->Window() : nullptr, nullptr,
                               GetModuleHandleW(nullptr), this);
     SetWindowLongPtrW(window_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+    SendMessageW(window_, WM_SETFONT, reinterpret_cast<WPARAM>(services_.fonts.Message()), FALSE);
     if (parent) PutInOrder();
 }
 
-// Later children are in front of earlier ones.
+// Earlier children are in front of later ones.
 void WindowPeer::PutInOrder() {
-    const auto& children = control_.Parent()->Children();
-    auto next = std::find(children.begin(), children.end(), &control_);
-    while (next != children.end() && !Of(**next)) ++next;
-    const HWND inFront = next == children.end() ? HWND_TOP : Of(**next)->Window();
+    HWND inFront = HWND_TOP;
+    for (const Control* sibling : control_.Parent()->Children()) {
+        if (sibling == &control_) break;
+        if (const WindowPeer* peer = Of(*sibling)) inFront = peer->Window();
+    }
     SetWindowPos(window_, inFront, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    FollowGroup();
+}
+
+void WindowPeer::FollowGroup() {
+    const auto style = static_cast<DWORD>(GetWindowLongW(window_, GWL_STYLE));
+    const DWORD wanted = StartsGroup(control_) ? style | WS_GROUP : style & ~DWORD{WS_GROUP};
+    if (style != wanted) SetWindowLongW(window_, GWL_STYLE, static_cast<LONG>(wanted));
 }
 
 void WindowPeer::Follow() {
     const Following following(*this);
     FollowPlace();
     FollowEnabled();
+    SetText(Text());
     FollowMore();
     FollowToolTip();
     FollowVisible();
@@ -70,11 +94,16 @@ void WindowPeer::PutAt(const RECT& place) {
                  place.bottom - place.top, SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
-// Only what the control itself changes: a message box disables its owner meanwhile.
 void WindowPeer::FollowEnabled() {
-    if (enabled_ == control_.Enabled) return;
-    enabled_ = control_.Enabled;
-    EnableWindow(window_, enabled_);
+    const bool enabled = control_.IsEnabled();
+    if (!enabled) GiveFocusAway();
+    Enable(enabled);
+}
+
+void WindowPeer::Enable(bool enabled) {
+    if (enabled_ == enabled) return;
+    enabled_ = enabled;
+    EnableWindow(window_, enabled);
 }
 
 void WindowPeer::FollowVisible() {
@@ -84,16 +113,17 @@ void WindowPeer::FollowVisible() {
     ShowWindow(window_, control_.Visible ? SW_SHOWNA : SW_HIDE);
 }
 
-// A hidden button that kept the keyboard could still be pressed.
+// A hidden button that kept the keyboard could still be pressed, and a disabled one would take all
+// keys from the form.
 void WindowPeer::GiveFocusAway() {
     const HWND focus = GetFocus();
-    const auto hides = [this](HWND stop) { return stop == window_ || IsChild(window_, stop); };
-    if (!focus || !hides(focus)) return;
+    const auto goes = [this](HWND stop) { return stop == window_ || IsChild(window_, stop); };
+    if (!focus || !goes(focus)) return;
     const HWND form = GetAncestor(window_, GA_ROOT);
-    const HWND first = GetNextDlgTabItem(form, focus, TRUE);
+    const HWND first = GetNextDlgTabItem(form, focus, FALSE);
     HWND stop = first;
-    while (stop && hides(stop)) {
-        stop = GetNextDlgTabItem(form, stop, TRUE);
+    while (stop && goes(stop)) {
+        stop = GetNextDlgTabItem(form, stop, FALSE);
         if (stop == first) stop = nullptr;
     }
     SetFocus(stop ? stop : form);

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "toolkit/Scale.h"
+
+class FontCache;
+class UiBackend;
+
+// What peers work with; it outlives them.
+struct PeerServices {
+    UiBackend& ui;
+    FontCache& fonts;
+    Scale scale;
+};

@@ -1,0 +1,20 @@
+#include "toolkit/win32/TextBoxPeer.h"
+
+#include "toolkit/win32/Edit.h"
+
+TextBoxPeer::TextBoxPeer(TextBox& box, const PeerServices& services)
+    : WindowPeer(box, services), box_(box) {
+    Create(L"EDIT", WS_TABSTOP | ES_AUTOHSCROLL, WS_EX_CLIENTEDGE);
+    Follow();
+}
+
+void TextBoxPeer::OnCommand(UINT code) {
+    if (code != EN_CHANGE) return;
+    box_.Type(EditText(Window()));
+    Follow();
+}
+
+void TextBoxPeer::FollowMore() {
+    if (EditText(Window()) == box_.Text()) return;
+    SetEditText(Window(), box_.Text(), BehindCaret(Window()));
+}
