@@ -9,7 +9,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     VirtualPlatform machine;
     machine.files.Put("C:\\Orvo\\Orvo.ini", "[GeneralSetup]\n" + std::string(data, data + size));
     cSetupHolder setup(machine.ini, machine.files, machine.clock, machine.registry, "C:\\Orvo");
-    const bool saved = setup.LoadSetup() && setup.SaveSetup();
+    const bool saved = setup.LoadSetup() && bool(setup.SaveSetup());
     cSetupHolder again(machine.ini, machine.files, machine.clock, machine.registry, "C:\\Orvo");
     if (!saved || !again.LoadSetup() || again.AutoQuit != setup.AutoQuit ||
         again.ClickThreshold != setup.ClickThreshold || again.OrvoAffinity != setup.OrvoAffinity ||

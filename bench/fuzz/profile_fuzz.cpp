@@ -79,13 +79,13 @@ void CheckBindings(const std::string& section, const std::string& text,
     Holder holder(profiles), again(profiles);
     holder.Index = again.Index = 1;
     holder.LoadSetup();
-    Require(holder.SaveSetup());
+    Require(bool(holder.SaveSetup()));
     again.LoadSetup();
     if (check) check(holder, again);
     profiles.CurrentProfile = "Loaded";
-    Require(holder.SaveSetup());
+    Require(bool(holder.SaveSetup()));
     profiles.CurrentProfile = "Again";
-    Require(again.SaveSetup());
+    Require(bool(again.SaveSetup()));
     Require(machine.files.Look("C:\\Orvo\\Loaded.ini") ==
             machine.files.Look("C:\\Orvo\\Again.ini"));
 }

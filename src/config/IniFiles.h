@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "base/IniText.h"
+#include "config/SaveResult.h"
 #include "config/cInifile.h"
 #include "platform/FilePort.h"
 
@@ -56,6 +57,11 @@ class IniFiles {
     // order.
     [[nodiscard]] bool SaveSection(const std::string& path, const std::string& section,
                                    const IniEntries& entries) const;
+
+    // What a save of the file that has gone so is to tell the user.
+    SaveResult Result(bool saved, const std::string& path) const {
+        return saved ? SaveResult() : SaveResult::Refused(path, files_.LastProblem());
+    }
 
   private:
     std::optional<std::string> Bytes(const std::string& path) const;

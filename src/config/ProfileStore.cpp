@@ -81,8 +81,8 @@ bool ProfileStore::ReadWhatIsMissing() {
     return ListsAreRead();
 }
 
-bool ProfileStore::SaveProfileList() {
-    if (!profilesWhole_) return false;
+SaveResult ProfileStore::SaveProfileList() {
+    if (!profilesWhole_) return SaveResult::Unread(path_);
     IniEntries entries;
     for (const std::string& name : profileNames_) {
         if (name != kDefault) entries.emplace_back(name, kNoValue);
@@ -91,8 +91,8 @@ bool ProfileStore::SaveProfileList() {
     return SaveList(kProfiles, std::move(entries), profilesInFile_);
 }
 
-bool ProfileStore::SaveAircraftList() {
-    if (!aircraftsWhole_) return false;
+SaveResult ProfileStore::SaveAircraftList() {
+    if (!aircraftsWhole_) return SaveResult::Unread(path_);
     IniEntries entries;
     for (const Aircraft& each : aircrafts_) {
         entries.emplace_back(ToIniKey(each.title), each.profile);
@@ -101,11 +101,11 @@ bool ProfileStore::SaveAircraftList() {
 }
 
 // `inFile` is what the file says as far as we know; it is left alone when that is all.
-bool ProfileStore::SaveList(const char* section, IniEntries entries, IniEntries& inFile) {
-    if (entries == inFile) return true;
-    if (!files_.SaveSection(path_, section, entries)) return false;
-    inFile = std::move(entries);
-    return true;
+SaveResult ProfileStore::SaveList(const char* section, IniEntries entries, IniEntries& inFile) {
+    if (entries == inFile) return {};
+    const bool saved = files_.SaveSection(path_, section, entries);
+    if (saved) inFile = std::move(entries);
+    return files_.Result(saved, path_);
 }
 
 const ProfileStore::Aircraft* ProfileStore::Find(std::string_view title) const {
@@ -149,12 +149,18 @@ bool ProfileStore::ProfileNameValid(std::string_view text) {
     });
 }
 
+bool ProfileStore::ProfileHasFile() const {
+    return !CurrentProfile.empty() && ProfileNameValid(CurrentProfile) &&
+           !IsReserved(CurrentProfile);
+}
+
 std::optional<IniText> ProfileStore::ProfileText() const {
-    if (!ProfileNameValid(CurrentProfile) || IsReserved(CurrentProfile)) return IniText("");
+    if (!ProfileHasFile()) return IniText("");
     return files_.Read(ProfilePath());
 }
 
 std::optional<IniEntries> ProfileStore::ReadProfile(const std::string& section) {
+    if (CurrentProfile.empty()) return std::nullopt;
     std::optional<IniText> own;
     const bool isRead = reading_ && reading_->profile == CurrentProfile;
     if (!isRead) own = ProfileText();
@@ -164,12 +170,20 @@ std::optional<IniEntries> ProfileStore::ReadProfile(const std::string& section) 
     return std::nullopt;
 }
 
-bool ProfileStore::SaveProfile(const std::string& section,
-                               const std::function<bool(IniSection&)>& write) {
-    if (!ProfileNameValid(CurrentProfile) || IsReserved(CurrentProfile)) return false;
-    return Patience(clock_, kSavePatienceMs).Try([&] {
+SaveResult ProfileStore::SaveProfile(const std::string& section,
+                                     const std::function<bool(IniSection&)>& write) {
+    if (!ProfileHasFile()) return Unread();
+    const bool saved = Patience(clock_, kSavePatienceMs).Try([&] {
         return files_.Save(ProfilePath(), section, write);
     });
+    return files_.Result(saved, ProfilePath());
+}
+
+SaveResult ProfileStore::Unread() const {
+    if (!ProfileHasFile()) {
+        return SaveResult::Impossible("No profile is in use, so there is nowhere to save to.");
+    }
+    return SaveResult::Unread(ProfilePath());
 }
 
 ProfileReading::ProfileReading(ProfileStore& profiles)

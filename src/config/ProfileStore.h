@@ -19,7 +19,7 @@ class ProfileStore {
   public:
     ProfileStore(IniService& ini, FilePort& files, Clock& clock, std::string programFolder);
 
-    std::string CurrentProfile = kDefault;
+    std::string CurrentProfile = kDefault;  // empty while none is in use
 
     // "Default" is always the last one and never in the file.
     const std::vector<std::string>& ProfileNames() const { return profileNames_; }
@@ -31,9 +31,9 @@ class ProfileStore {
     [[nodiscard]] bool ReadWhatIsMissing();
     // Whether both lists have been read.
     bool ListsAreRead() const { return profilesWhole_ && aircraftsWhole_; }
-    // The whole list or, when the file can't be written or hasn't been read, nothing; false then.
-    [[nodiscard]] bool SaveProfileList();
-    [[nodiscard]] bool SaveAircraftList();
+    // The whole list or, when the file can't be written or hasn't been read, nothing.
+    SaveResult SaveProfileList();
+    SaveResult SaveAircraftList();
 
     bool AircraftKnown(std::string_view title) const;
     // Empty when the aircraft is unknown.
@@ -53,18 +53,21 @@ class ProfileStore {
     bool ProfileNameFree(std::string_view name) const;
 
     // The keys of a section of the current profile's file, with their values. Nothing while the
-    // file can't be read; a name that is none of a profile's has an empty file, which can't be
-    // saved.
+    // file can't be read, and without a profile in use; a name that is none of a profile's has an
+    // empty file, which can't be saved.
     std::optional<IniEntries> ReadProfile(const std::string& section);
-    // Whether ReadProfile has given nothing since the last ProfileReading began.
+    // Whether ReadProfile could read nothing since the last ProfileReading began.
     bool ProfileMissed() const { return profileMissed_; }
     // Whether the current profile's file can be read at this moment.
     bool ProfileReadable() const { return ProfileText().has_value(); }
     // Changes a section of the current profile's file. What `write` does through what it is given
-    // arrives as a whole, or not at all when it gives false or the file can't be written; false
-    // then. Waits a moment for a file that is held.
-    [[nodiscard]] bool SaveProfile(const std::string& section,
-                                   const std::function<bool(IniSection&)>& write);
+    // arrives as a whole, or not at all when it gives false or the file can't be written. Waits a
+    // moment for a file that is held.
+    SaveResult SaveProfile(const std::string& section,
+                           const std::function<bool(IniSection&)>& write);
+
+    // The result of a save of what ReadProfile couldn't read.
+    SaveResult Unread() const;
 
     static constexpr const char* kDefault = "Default";
 
@@ -81,12 +84,13 @@ class ProfileStore {
     };
 
     const Aircraft* Find(std::string_view title) const;
+    bool ProfileHasFile() const;
     std::string ProfilePath() const { return programFolder_ + '\\' + CurrentProfile + ".ini"; }
     std::optional<IniText> ProfileText() const;
     // False while the file can't be read.
     bool ReadProfileList();
     bool ReadAircraftList();
-    bool SaveList(const char* section, IniEntries entries, IniEntries& inFile);
+    SaveResult SaveList(const char* section, IniEntries entries, IniEntries& inFile);
 
     const IniFiles files_;
     Clock& clock_;

@@ -143,19 +143,21 @@ bool cSetupHolder::ReadWhatIsMissing() {
     return true;
 }
 
-bool cSetupHolder::SaveSetup(uint32_t patienceMs) {
-    return Patience(clock_, patienceMs).Try([this] { return TrySave(); });
+SaveResult cSetupHolder::SaveSetup(uint32_t patienceMs) {
+    const bool saved = Patience(clock_, patienceMs).Try([this] { return TrySave(); });
+    return files_.Result(saved, path_);
 }
 
 bool cSetupHolder::TrySave() {
     if (!ReadWhatIsMissing()) return false;
-    SaveAutoStart();
     const bool saved = files_.Save(path_, kSection, [this](IniSection& keys) {
         return std::ranges::all_of(kFields,
                                    [&](const Field& field) { return Write(*this, field, keys); });
     });
-    if (saved) inFile_ = AllValues();
-    return saved;
+    if (!saved) return false;
+    inFile_ = AllValues();
+    SaveAutoStart();
+    return true;
 }
 
 // By field, in the order of the table.

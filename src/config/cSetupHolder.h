@@ -49,10 +49,10 @@ class cSetupHolder {
     // Whether a reading has succeeded yet.
     bool IsRead() const { return read_; }
 
-    // All keys or, when the file can't be read or written, none; false then. Waits up to
-    // `patienceMs` milliseconds for a file that is held. The logon entry follows AutoStart, but not
-    // before the options have been read.
-    [[nodiscard]] bool SaveSetup(uint32_t patienceMs = kSavePatienceMs);
+    // All keys or, when the file can't be read or written, none. Waits up to
+    // `patienceMs` milliseconds for a file that is held. The logon entry follows AutoStart as
+    // soon as the file does.
+    SaveResult SaveSetup(uint32_t patienceMs = kSavePatienceMs);
 
   private:
     using Values = std::vector<int32_t>;

@@ -73,7 +73,7 @@ void AircraftBinding::TryAgain() {
 
 bool AircraftBinding::SaveLists() {
     if (!unsaved_) return true;
-    const bool aircraft = parts_.profiles.SaveAircraftList();
+    const SaveResult aircraft = parts_.profiles.SaveAircraftList();
     unsaved_ = !parts_.profiles.SaveProfileList() || !aircraft;
     return !unsaved_;
 }

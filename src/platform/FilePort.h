@@ -21,4 +21,7 @@ class FilePort {
     // Only when there is no file `to` yet.
     [[nodiscard]] virtual bool Rename(const std::string& from, const std::string& to) = 0;
     virtual bool Delete(const std::string& path) = 0;
+
+    // Why the last Read, Write or Replace has failed, in the system's words. Empty when it hasn't.
+    virtual std::string LastProblem() const = 0;
 };

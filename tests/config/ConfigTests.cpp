@@ -23,7 +23,7 @@ struct ConfigTest : testing::Test {
         ASSERT_TRUE(setup.LoadSetup());
     }
     std::string Saved(bool works = true) {
-        EXPECT_EQ(setup.SaveSetup(), works);
+        EXPECT_EQ(bool(setup.SaveSetup()), works);
         return machine.files.Look(kPath).value_or("no file");
     }
     bool SavedHas(const std::string& line) {
@@ -171,7 +171,7 @@ TEST_F(ConfigTest, SaveIsAllOrNothingWhereverTheProgramDies) {
             machine.files.Put(kPath, before);
             machine.files.CutPowerAfter(died, last);
             try {
-                ADD_FAILURE() << "the power stayed on: " << setup.SaveSetup();
+                ADD_FAILURE() << "the power stayed on: " << setup.SaveSetup().Problem();
             } catch (const PowerCut&) {
             }
             const bool half = machine.files.Look(kPath + ".new").has_value();

@@ -27,6 +27,7 @@ class VirtualFiles : public FilePort {
     bool Replace(const std::string& from, const std::string& to) override;
     bool Rename(const std::string& from, const std::string& to) override;
     bool Delete(const std::string& path) override;
+    std::string LastProblem() const override { return "Refused."; }
 
     // The test's own hand: no fault touches these, and no change is counted.
     void Put(const std::string& path, const std::string& content) { files_[Key(path)] = content; }

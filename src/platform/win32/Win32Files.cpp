@@ -1,9 +1,12 @@
 #include "platform/win32/Win32Files.h"
 
+#include <iterator>
+
 #include "platform/win32/Win32Handle.h"
 
 namespace {
 
+constexpr UINT kTextPage = 1252;  // of the program
 constexpr LONGLONG kMostBytes = 64 * 1024 * 1024;
 // A file that another program is writing to isn't given: it may stand there in part.
 constexpr DWORD kReaders = FILE_SHARE_READ | FILE_SHARE_DELETE;
@@ -35,13 +38,13 @@ std::optional<std::string> Win32Files::Read(const std::string& path) {
     const Win32Handle file(
         CreateFileA(path.c_str(), GENERIC_READ, kReaders, nullptr, OPEN_EXISTING, 0, nullptr));
     LARGE_INTEGER size{};
-    if (!file || !GetFileSizeEx(file.Get(), &size) || size.QuadPart > kMostBytes) {
+    if (!Note(file && GetFileSizeEx(file.Get(), &size)) || size.QuadPart > kMostBytes) {
         return std::nullopt;
     }
     std::string content(static_cast<size_t>(size.QuadPart), '\0');
     DWORD count = 0;
-    if (!ReadFile(file.Get(), content.data(), static_cast<DWORD>(content.size()), &count,
-                  nullptr) ||
+    if (!Note(ReadFile(file.Get(), content.data(), static_cast<DWORD>(content.size()), &count,
+                       nullptr) != 0) ||
         count != content.size()) {
         return std::nullopt;
     }
@@ -53,9 +56,8 @@ bool Win32Files::Write(const std::string& path, const std::string& content) {
     const Win32Handle file(
         CreateFileA(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr));
     DWORD count = 0;
-    return file &&
-           WriteFile(file.Get(), content.data(), static_cast<DWORD>(content.size()), &count,
-                     nullptr) != 0 &&
+    return Note(file && WriteFile(file.Get(), content.data(), static_cast<DWORD>(content.size()),
+                                  &count, nullptr) != 0) &&
            count == content.size();
 }
 
@@ -63,8 +65,8 @@ bool Win32Files::Replace(const std::string& from, const std::string& to) {
     DropIniCache(from);
     DropIniCache(to);
     WriteThrough(from);
-    return MoveFileExA(from.c_str(), to.c_str(),
-                       MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0;
+    return Note(MoveFileExA(from.c_str(), to.c_str(),
+                            MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0);
 }
 
 bool Win32Files::Rename(const std::string& from, const std::string& to) {
@@ -76,4 +78,23 @@ bool Win32Files::Rename(const std::string& from, const std::string& to) {
 bool Win32Files::Delete(const std::string& path) {
     DropIniCache(path);
     return DeleteFileA(path.c_str()) != 0;
+}
+
+bool Win32Files::Note(bool well) {
+    problem_ = well ? 0 : GetLastError();
+    return well;
+}
+
+std::string Win32Files::LastProblem() const {
+    if (problem_ == 0) return "";
+    wchar_t wide[512];
+    DWORD length = FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS,
+                                  nullptr, problem_, 0, wide, std::size(wide), nullptr);
+    while (length > 0 && wide[length - 1] <= L' ') --length;
+    std::string text(2 * length, '\0');
+    const int written =
+        WideCharToMultiByte(kTextPage, 0, wide, static_cast<int>(length), text.data(),
+                            static_cast<int>(text.size()), nullptr, nullptr);
+    text.resize(static_cast<size_t>(written));
+    return text;
 }

@@ -11,4 +11,11 @@ class Win32Files final : public FilePort {
     bool Replace(const std::string& from, const std::string& to) override;
     bool Rename(const std::string& from, const std::string& to) override;
     bool Delete(const std::string& path) override;
+    std::string LastProblem() const override;
+
+  private:
+    // Notes how an operation went.
+    bool Note(bool well);
+
+    unsigned long problem_ = 0;
 };

@@ -10,9 +10,9 @@ void cActionsHolder::LoadSetup() {
     Take(*entries);
 }
 
-bool cActionsHolder::SaveSetup() {
-    return whole_ &&
-           profiles_.SaveProfile(Section(), [this](IniSection& keys) { return Write(keys); });
+SaveResult cActionsHolder::SaveSetup() {
+    if (!whole_) return profiles_.Unread();
+    return profiles_.SaveProfile(Section(), [this](IniSection& keys) { return Write(keys); });
 }
 
 std::string cActionsHolder::Section() const { return panel_ + FormatInteger(Index); }

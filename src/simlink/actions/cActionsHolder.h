@@ -17,12 +17,12 @@ class cActionsHolder {
     // Of an action only FSEvent is set; the other fields keep what they have.
     void LoadDefaults() { SetDefaults(); }
     // Defaults, then what the section of the current profile says; what makes no sense there is
-    // passed over. While the file can't be read all stays as it is, also when that is another
-    // profile's.
+    // passed over. While the file can't be read, and without a profile in use, all stays as it is,
+    // also when that is another profile's.
     void LoadSetup();
-    // Writes what differs from the defaults: all or nothing. False when the file can't be written,
-    // and while the last LoadSetup couldn't read it.
-    [[nodiscard]] bool SaveSetup();
+    // Writes what differs from the defaults: all or nothing. Refused while the file can't be
+    // written, when the last LoadSetup couldn't read it, and without a profile in use.
+    SaveResult SaveSetup();
 
   protected:
     // `panel` is the section's name without the number.
