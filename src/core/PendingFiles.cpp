@@ -11,10 +11,11 @@ constexpr uint32_t kEndPatienceMs = 500;
 }  // namespace
 
 PendingFiles::PendingFiles(Clock& clock, ProcessPort& process, cSetupHolder& setup,
-                           AircraftBinding& binding)
+                           const WindowState& windows, AircraftBinding& binding)
     : clock_(clock),
       process_(process),
       setup_(setup),
+      windows_(windows),
       binding_(binding),
       optionsWait_(!setup.IsRead()),
       lastTry_(clock.GetTickCount()) {}
@@ -24,7 +25,8 @@ void PendingFiles::Tick() {
     const uint32_t now = clock_.GetTickCount();
     if (now - lastTry_ < kAgainMs) return;
     lastTry_ = now;
-    if (optionsWait_ && setup_.ReadWhatIsMissing()) {
+    // A window that is open shows what they were.
+    if (optionsWait_ && !windows_.ModalWindowOpen && setup_.ReadWhatIsMissing()) {
         optionsWait_ = false;
         ApplyLate();
     }

@@ -5,12 +5,14 @@
 #include "core/AircraftBinding.h"
 #include "platform/Clock.h"
 #include "platform/ProcessPort.h"
+#include "ui/WindowState.h"
 
 // Comes back to what could not be read or written because another program held the file: at ticks
 // while the program runs, and at its end.
 class PendingFiles {
   public:
-    PendingFiles(Clock& clock, ProcessPort& process, cSetupHolder& setup, AircraftBinding& binding);
+    PendingFiles(Clock& clock, ProcessPort& process, cSetupHolder& setup,
+                 const WindowState& windows, AircraftBinding& binding);
 
     // For every tick: costs nothing while nothing waits, and touches files twice a second at most.
     void Tick();
@@ -25,6 +27,7 @@ class PendingFiles {
     Clock& clock_;
     ProcessPort& process_;
     cSetupHolder& setup_;
+    const WindowState& windows_;
     AircraftBinding& binding_;
     bool optionsWait_;
     uint32_t lastTry_;

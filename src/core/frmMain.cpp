@@ -4,13 +4,17 @@
 
 #include "base/Number.h"
 #include "toolkit/UiBackend.h"
-#include "ui/PlaceForm.h"
+#include "ui/Layout.h"
+#include "ui/frmGeneralSetup.h"
 
 namespace {
 
 // How often a simulator is looked for, and how often one that is there is asked.
 constexpr uint32_t kWaitingIntervalMs = 1000;
 constexpr uint32_t kConnectedIntervalMs = 10;
+
+constexpr Color kButtonFace = 0x8000000F;
+constexpr Color kShadow = 0x80000010;
 
 const MsgBoxRequest kQuitRequest = {"           Are you sure ?\nQuitting will stop the panels.",
                                     " ORVO - Quit request", MsgBoxIcon::Question,
@@ -19,14 +23,19 @@ const MsgBoxRequest kQuitRequest = {"           Are you sure ?\nQuitting will st
 }  // namespace
 
 frmMain::frmMain(const MainServices& services)
-    : Form(services.ui),
+    : PlacedForm(services.ForWindows(), {&cSetupHolder::MainFormTop, &cSetupHolder::MainFormLeft}),
       tabMain(this),
       picOrder(this),
       picMain(&picOrder),
       Frame1(&picMain),
-      cmbProfiles(&Frame1),
       labProfileInUse(&Frame1),
+      cmbProfiles(&Frame1),
+      btnProfiles(&Frame1),
+      Frame2(&picMain),
+      btnSetup(&Frame2),
       btnQuit(&picMain),
+      picMinimize(&picMain),
+      imaBigOrvo(&picMain),
       barMain(this),
       Status(barMain.AddPanel("Status", "Connection status between Orvo and Flight Simulator", 23)),
       FSUIPCver(barMain.AddPanel(
@@ -38,20 +47,26 @@ frmMain::frmMain(const MainServices& services)
       timerFSUIPC(services.platform.loop, kWaitingIntervalMs),
       Binding({services.session, services.profiles, services.generalSetup, services.windows,
                cmbProfiles, Panels}),
-      Files(services.platform.clock, services.platform.process, services.generalSetup, Binding),
+      Files(services.platform.clock, services.platform.process, services.generalSetup,
+            services.windows, Binding),
       Driver({services.session, services.output, services.platform.clock, services.platform.loop,
               Panels, Binding}),
-      services_(services) {
+      services_(services),
+      minimizeBorder_(&picMinimize),
+      minimizeMark_(&picMinimize) {
     Caption = "  ORVO    v0.5.1";
-    PlaceControls();
+    FirstFocus = &tabMain;  // where a key that was meant for another window does no harm
+    PlaceAll();
     tabMain.Click.Connect([this] { SelectPage(); });
+    btnSetup.Click.Connect([this] { OpenGeneralSetup(); });
     btnQuit.Click.Connect([this] { AskQuit(); });
+    picMinimize.Click.Connect([this] { Hide(); });
     timerFSUIPC.Tick.Connect([this] { timerFSUIPC_Timer(); });
     FollowSession();
     trayDblClick_ = trayMain.DblClick.Connect([this] {
-        if (!services_.windows.ModalWindowOpen && !IsUnloaded()) Show();
+        if (!services_.windows.ModalWindowOpen) Show();
     });
-    QueryUnload.Connect([this] { SavePosition(); });
+    QueryUnload.Connect([this] { Files.SaveAll(); });  // the place is among them
     Unloaded.Connect([this] { CloseDown(); });
     SessionEnding.Connect([this] { EndPanels(); });
 }
@@ -66,18 +81,34 @@ frmMain::~frmMain() {
     }
 }
 
-void frmMain::PlaceControls() {
+void frmMain::PlaceAll() {
     tabMain.AddTab(1, "General", "General");
     tabMain.Move(30, 30, 11160, 3360);
     picOrder.Move(120, 420, 10995, 2895);
     picMain.Move(0, 0, 10995, 2895);
-    Frame1.Caption = "Profiles Management";
-    Frame1.Move(180, 150, 5100, 1980);
-    labProfileInUse.Caption = "Profile in use";
-    labProfileInUse.Move(240, 390, 4620, 240);
-    cmbProfiles.Move(240, 660, 4620, 345);
-    btnQuit.Caption = "Quit";
-    btnQuit.Move(9480, 2280, 1260, 420);
+    PlaceControls({
+        {Frame1, 180, 150, 5100, 1590, "Profiles Management"},
+        {labProfileInUse, 240, 330, 4620, 240, "Profile in use"},
+        {cmbProfiles, 240, 585, 4620, 300},
+        {btnProfiles, 240, 1035, 1860, 390, "Manage Profiles"},
+        {Frame2, 180, 1860, 5100, 870, "General Options"},
+        {btnSetup, 240, 315, 1860, 390, "Setup"},
+        {btnQuit, 9480, 2340, 1320, 390, "Quit"},
+        {picMinimize, 10500, 150, 300, 300},
+        {imaBigOrvo, 6900, 450, 1920, 1920},
+    });
+    btnProfiles.Enabled = false;
+    picMinimize.ToolTip = "Hide this window";
+    picMinimize.BackColor = kButtonFace;
+    minimizeBorder_.Kind = ShapeKind::RoundedRectangle;
+    minimizeBorder_.BorderColor = kShadow;
+    minimizeBorder_.Move(0, 0, 300, 300);
+    minimizeMark_.BorderWidth = 30;
+    minimizeMark_.X1 = 90;
+    minimizeMark_.X2 = 210;
+    minimizeMark_.Y1 = 195;
+    minimizeMark_.Y2 = 195;
+    emblem_.emplace(imaBigOrvo);
 }
 
 void frmMain::LoadForm() {
@@ -90,9 +121,7 @@ void frmMain::LoadForm() {
     cmbProfiles.SetListIndex(cmbProfiles.ListCount() - 1);
     Width = 11325;
     Height = 4208;
-    PlaceForm(*this, services_.generalSetup.MainFormLeft, services_.generalSetup.MainFormTop,
-              services_.monitorRects, services_.platform.screen);
-    if (!services_.generalSetup.IsRead()) placedBlind_ = {Left, Top};
+    Place();
     Load();
 }
 
@@ -156,6 +185,8 @@ void frmMain::ArmTimer() {
     picMain.Left = 0;
     picMain.Top = 0;
     BringToFront(picOrder);
+    // The rows of the panels' tabs have made it higher.
+    if (tabMain.MoreRows() != 0) Place();
     services_.platform.loop.RunPending();
     timerFSUIPC.SetEnabled(!IsUnloaded());
 }
@@ -184,15 +215,6 @@ void frmMain::AskQuit() {
     Unload();
 }
 
-void frmMain::SavePosition() {
-    // A place that nobody chose isn't saved over the one in a file that couldn't be read.
-    if (placedBlind_ != std::pair<int32_t, int32_t>(Left, Top)) {
-        services_.generalSetup.MainFormTop = Top;
-        services_.generalSetup.MainFormLeft = Left;
-    }
-    Files.SaveAll();
-}
-
 void frmMain::CloseDown() {
     timerFSUIPC.SetEnabled(false);
     Driver.Close();
@@ -212,14 +234,19 @@ void frmMain::EndPanels() {
     }
 }
 
+void frmMain::OpenGeneralSetup() {
+    if (MayOpenWindow()) frmGeneralSetup(services_.ForWindows()).OpenModally();
+}
+
 void frmMain::ServeSetupRequest(PanelUnit& unit) {
-    if (IsUnloaded()) return;
+    if (!MayOpenWindow()) return;
     services_.windows.SetupPanelIndex = unit.number;
     if (const auto& open = SetupWindows[static_cast<size_t>(unit.kind)]) {
         const ModalWindow modal(services_.windows);
         open();
     }
-    if (!unit.logic) return;
+    // Without a profile the bindings stay as they are.
+    if (!unit.logic || services_.profiles.CurrentProfile.empty()) return;
     services_.session.Acts.Drop(PendingActs::Lasts::Binding);
     unit.logic->LoadSetup();
     if (unit.kind == PanelKind::Switch) return;

@@ -5,7 +5,6 @@
 #include <functional>
 #include <memory>
 #include <optional>
-#include <utility>
 #include <vector>
 
 #include "config/ProfileStore.h"
@@ -26,6 +25,8 @@
 #include "toolkit/Picture.h"
 #include "toolkit/StatusBar.h"
 #include "toolkit/TabStrip.h"
+#include "ui/Emblem.h"
+#include "ui/PlacedForm.h"
 #include "ui/WindowState.h"
 #include "ui/ctlTrayArea.h"
 
@@ -41,12 +42,16 @@ struct MainServices {
     const std::vector<ScreenRect>& monitorRects;
 
     LogicServices ForLogics() const { return {session, output, profiles, platform.clock}; }
+    WindowServices ForWindows() const {
+        return {ui,           platform.loop, platform.clock, platform.screen,
+                monitorRects, generalSetup,  windows};
+    }
 };
 
 // The program's one permanent window, hidden until the user double-clicks its icon in the
 // notification area: one page of general controls, one page for each panel, and the state of the
 // session. It owns the panels and the timer that drives the whole link to the simulator.
-class frmMain : public Form {
+class frmMain : public PlacedForm {
   public:
     explicit frmMain(const MainServices& services);
     ~frmMain() override;
@@ -68,9 +73,14 @@ class frmMain : public Form {
     Container picOrder;
     Container picMain;
     Frame Frame1;
+    Label labProfileInUse;
     ComboBox cmbProfiles;
-    Label labProfileInUse;  // after the list: screen readers take its name from the next label
+    CommandButton btnProfiles;
+    Frame Frame2;
+    CommandButton btnSetup;
     CommandButton btnQuit;
+    Picture picMinimize;
+    Picture imaBigOrvo;
     StatusBar barMain;
     StatusBar::Panel& Status;
     StatusBar::Panel& FSUIPCver;
@@ -83,13 +93,15 @@ class frmMain : public Form {
     SessionDriver Driver;
 
   private:
-    void PlaceControls();
+    void PlaceAll();
     void SelectPage();
     Control* PageOf(int32_t tab);
     void AskQuit();
-    void SavePosition();
     void CloseDown();
     void EndPanels();
+    // One configuration window at a time.
+    bool MayOpenWindow() const { return !IsUnloaded() && !services_.windows.ModalWindowOpen; }
+    void OpenGeneralSetup();
     void ServeSetupRequest(PanelUnit& unit);
 
     void FollowSession();
@@ -100,8 +112,9 @@ class frmMain : public Form {
     const MainServices services_;
     ScopedConnection trayDblClick_;
     int32_t previousTab_ = 1;
-    // Left and top that the window got before the options could be read.
-    std::optional<std::pair<int32_t, int32_t>> placedBlind_;
+    Shape minimizeBorder_;
+    Line minimizeMark_;
+    std::optional<Emblem> emblem_;
     // Logics of a closed window: they may have been closed from within one of their own calls.
     std::vector<std::unique_ptr<cPanelLogic>> releasedLogics_;
 };

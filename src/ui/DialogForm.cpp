@@ -1,0 +1,21 @@
+#include "ui/DialogForm.h"
+
+bool TellUnlessSaved(UiBackend& ui, const SaveResult& result) {
+    if (result) return true;
+    ui.MsgBox({result.Problem(), "  ORVO", MsgBoxIcon::Exclamation, MsgBoxButtons::Ok});
+    return false;
+}
+
+void DialogForm::UseButtons(CommandButton& cmdOk, CommandButton& cmdCancel) {
+    cmdOk.Caption = "OK";
+    cmdCancel.Caption = "Cancel";
+    DefaultButton = &cmdOk;
+    CancelButton = &cmdCancel;
+    cmdOk.Click.Connect([this] {
+        if (TellUnlessSaved(Ui(), Save())) Unload();
+    });
+    cmdCancel.Click.Connect([this] {
+        Revert();
+        Unload();
+    });
+}
