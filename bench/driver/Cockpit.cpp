@@ -13,6 +13,7 @@ namespace bench {
 namespace {
 
 constexpr char kMainTitle[] = "  ORVO    v0.5.1";
+constexpr char kGeneralOptionsTitle[] = "  ORVO - General Options";
 constexpr char kQuitTitle[] = " ORVO - Quit request";
 constexpr uint32_t kWindowTimeMs = 5000;
 
@@ -86,6 +87,8 @@ HWND Cockpit::Box(const std::string& title) const {
     return orvo_ ? FindWindowOf(orvo_->Id(), "#32770", title) : nullptr;
 }
 
+HWND Cockpit::FrontWindow() const { return orvo_ ? FrontWindowOf(orvo_->Id()) : nullptr; }
+
 std::vector<std::string> Cockpit::Status() const {
     const HWND bar = FindChild(MainWindow(), "msctls_statusbar32", std::nullopt);
     return bar ? StatusTexts(bar) : std::vector<std::string>();
@@ -101,6 +104,22 @@ bool Cockpit::StatusBecomes(size_t panel, const std::string& text, uint32_t mill
 bool Cockpit::PanelBecomes(const std::string& panel, const std::string& shown,
                            uint32_t milliseconds) {
     return Until(milliseconds, [&] { return Panels("show " + panel) == shown; });
+}
+
+HWND Cockpit::OpenGeneralOptions() const {
+    HWND setup = nullptr;
+    HWND window = nullptr;
+    DoubleClickTrayIcon();
+    if (!Until(kWindowTimeMs, [&] {
+            return FrontWindow() && (setup = FindShownChild(FrontWindow(), "Button", "Setup"));
+        })) {
+        return nullptr;
+    }
+    PressButton(setup);
+    const bool opened = Until(kWindowTimeMs, [&] {
+        return (window = FrontWindow()) && TextOf(window) == kGeneralOptionsTitle;
+    });
+    return opened ? window : nullptr;
 }
 
 bool Cockpit::QuitByUser() {

@@ -41,10 +41,15 @@ class Cockpit {
     // 0 as long as there is none. The box is found by its title.
     HWND MainWindow() const;
     HWND Box(const std::string& title) const;
+    // The one that the user can work in.
+    HWND FrontWindow() const;
     std::vector<std::string> Status() const;
     // Waits until the status panel, from 0, shows the text.
     bool StatusBecomes(size_t panel, const std::string& text, uint32_t milliseconds) const;
     bool PanelBecomes(const std::string& panel, const std::string& shown, uint32_t milliseconds);
+
+    // The General Options window, by a double click on the icon and Setup; 0 when it doesn't open.
+    HWND OpenGeneralOptions() const;
 
     // The way that the user takes: General tab, Quit, OK. False when a step has no effect in time;
     // the exit code is left to the caller.

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "bench/driver/RemoteMemory.h"
+#include "bench/driver/Until.h"
 
 namespace bench {
 
@@ -56,6 +57,30 @@ std::string ComboText(HWND combo, LRESULT index) {
     return text.c_str();
 }
 
+BOOL CALLBACK LookForFront(HWND window, LPARAM parameter) {
+    auto& search = *reinterpret_cast<Search*>(parameter);
+    DWORD process = 0;
+    GetWindowThreadProcessId(window, &process);
+    const bool captioned = (GetWindowLongA(window, GWL_STYLE) & WS_CAPTION) == WS_CAPTION;
+    if (process != search.process || !captioned || !IsWindowVisible(window) ||
+        !IsWindowEnabled(window)) {
+        return TRUE;
+    }
+    search.found = window;
+    return FALSE;
+}
+
+void PutMouse(POINT place, DWORD button = 0) {
+    INPUT input{};
+    input.type = INPUT_MOUSE;
+    // The whole screen is 65536 wide; rounded up, so that the system comes to the same pixel.
+    const auto part = [](int pixel, int size) { return (pixel * 65536 + size - 1) / size; };
+    input.mi.dx = part(place.x, GetSystemMetrics(SM_CXSCREEN));
+    input.mi.dy = part(place.y, GetSystemMetrics(SM_CYSCREEN));
+    input.mi.dwFlags = MOUSEEVENTF_ABSOLUTE | MOUSEEVENTF_MOVE | button;
+    SendInput(1, &input, sizeof input);
+}
+
 RECT TrayIconPlace() {
     RECT place{};
     const HWND taskBar = FindWindowA("Shell_TrayWnd", nullptr);
@@ -102,6 +127,12 @@ HWND FindWindowOf(DWORD process, const char* className, const std::string& title
     return search.found;
 }
 
+HWND FrontWindowOf(DWORD process) {
+    Search search{process, nullptr, {}, true};
+    EnumWindows(LookForFront, reinterpret_cast<LPARAM>(&search));
+    return search.found;
+}
+
 HWND FindChild(HWND parent, const char* className, const std::optional<std::string>& text) {
     Search search{0, className, text, false};
     if (parent) EnumChildWindows(parent, Look, reinterpret_cast<LPARAM>(&search));
@@ -139,6 +170,66 @@ void PressBoxButton(HWND box, int button) { PressButton(GetDlgItem(box, button))
 
 std::string BoxText(HWND box) { return TextOf(GetDlgItem(box, 0xFFFF)); }
 
+bool Tick(HWND box) {
+    const bool before = IsTicked(box);
+    Send(box, BM_CLICK);
+    return IsTicked(box) != before;
+}
+
+bool ChooseOption(HWND option) {
+    Send(option, BM_CLICK);
+    return IsTicked(option);
+}
+
+bool IsTicked(HWND boxOrOption) { return Send(boxOrOption, BM_GETCHECK) == BST_CHECKED; }
+
+int SliderValue(HWND slider) { return static_cast<int>(Send(slider, TBM_GETPOS)); }
+
+bool MoveSlider(HWND slider, int value) {
+    for (int before = SliderValue(slider); before != value;) {
+        const bool up = before < value;
+        PostMessageA(slider, WM_KEYDOWN, up ? VK_RIGHT : VK_LEFT, 0);
+        PostMessageA(slider, WM_KEYUP, up ? VK_RIGHT : VK_LEFT, 0);
+        int now = before;
+        if (!Until(kPatienceMs, [&] { return (now = SliderValue(slider)) != before; }))
+            return false;
+        if (now != value && (now < value) != up) return false;
+        before = now;
+    }
+    return true;
+}
+
+void TypeInto(HWND edit, const std::string& text) {
+    Send(edit, EM_SETSEL, 0, -1);
+    for (const char character : text) {
+        PostMessageA(edit, WM_CHAR, static_cast<unsigned char>(character), 0);
+    }
+}
+
+bool DragWindow(HWND window, int right, int down, uint32_t milliseconds) {
+    RECT before{};
+    if (!GetWindowRect(window, &before)) return false;
+    const POINT from{
+        (before.left + before.right) / 2,
+        before.top + GetSystemMetrics(SM_CYFIXEDFRAME) + GetSystemMetrics(SM_CYCAPTION) / 2};
+    const POINT to{from.x + right, from.y + down};
+    PutMouse(from, MOUSEEVENTF_LEFTDOWN);
+    const ULONGLONG end = GetTickCount64() + milliseconds;
+    bool there = false;
+    do {
+        ::Sleep(15);
+        there = !there;
+        PutMouse(there ? to : from);
+    } while (!there || GetTickCount64() < end);
+    ::Sleep(15);
+    PutMouse(to, MOUSEEVENTF_LEFTUP);
+    return Until(kPatienceMs, [&] {
+        RECT now{};
+        return GetWindowRect(window, &now) && now.left == before.left + right &&
+               now.top == before.top + down;
+    });
+}
+
 bool ClickTab(HWND tabs, int index) {
     const RemoteMemory memory(tabs, sizeof(RECT));
     RECT place{};
@@ -148,9 +239,9 @@ bool ClickTab(HWND tabs, int index) {
         return false;
     }
     const LPARAM point = MAKELPARAM((place.left + place.right) / 2, (place.top + place.bottom) / 2);
-    PostMessageA(tabs, WM_LBUTTONDOWN, MK_LBUTTON, point);
-    PostMessageA(tabs, WM_LBUTTONUP, 0, point);
-    return true;
+    Send(tabs, WM_LBUTTONDOWN, MK_LBUTTON, point);
+    Send(tabs, WM_LBUTTONUP, 0, point);
+    return Send(tabs, TCM_GETCURSEL) == index;
 }
 
 std::vector<std::string> ComboTexts(HWND combo) {

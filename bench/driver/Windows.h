@@ -15,6 +15,9 @@ namespace bench {
 // First window of the process with this class (none: any) and this title. Hidden ones count.
 HWND FindWindowOf(DWORD process, const char* className, const std::string& title);
 
+// The window of the process that the user sees on top and can work in; message boxes count.
+HWND FrontWindowOf(DWORD process);
+
 // First child, at any depth, with this class and, if given, this text.
 HWND FindChild(HWND parent, const char* className, const std::optional<std::string>& text);
 // The same, of those that are to be seen.
@@ -32,7 +35,20 @@ void PressBoxButton(HWND box, int button);
 // The text of a message box.
 std::string BoxText(HWND box);
 
-// Clicks a tab, from 0.
+// Clicks a check box. False when its mark is the same after that.
+bool Tick(HWND box);
+// Clicks an option. False when it isn't the chosen one after that.
+bool ChooseOption(HWND option);
+bool IsTicked(HWND boxOrOption);
+
+int SliderValue(HWND slider);
+// Moves the handle by the arrow keys, step by step. False when none of the steps ends there.
+bool MoveSlider(HWND slider, int value);
+
+// Types over what an edit field holds. Returns before all of it is taken.
+void TypeInto(HWND edit, const std::string& text);
+
+// Clicks a tab, from 0. False when it isn't the selected one after that.
 bool ClickTab(HWND tabs, int index);
 
 // Entries of a combo box, and the one that is chosen, empty when none is.
@@ -41,6 +57,10 @@ std::string ComboSelection(HWND combo);
 // Chooses an entry, from 0, as the user does. False when there is no such entry. Returns before
 // what it starts is over.
 bool ChooseInCombo(HWND combo, int index);
+
+// The mouse takes a window by its caption and drags it about for so long, and at the end by that
+// many pixels from where it stood. False when it doesn't stand there then.
+bool DragWindow(HWND window, int right, int down, uint32_t milliseconds = 0);
 
 // Double click on the icon at the right end of the task bar.
 bool DoubleClickTrayIcon();

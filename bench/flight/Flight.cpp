@@ -1,14 +1,13 @@
-// Flies Orvo.exe from outside: Flight ORVO.EXE FOLDER [--shots|--stay|--pace]. FOLDER is emptied
-// and used as the program's folder. With --shots a script answers the "@shot" lines; with --stay
-// all is started and left to the user, whose lines go to the bench: "sim COMMAND", "panel COMMAND",
-// "end"; with --pace the intervals of its ticks are measured as the simulator sees them.
+// Flies Orvo.exe from outside: Flight ORVO.EXE FOLDER [--shots|--stay]. FOLDER is emptied and used
+// as the program's folder. With --shots a script answers the "@shot" lines; with --stay all is
+// started and left to the user, whose lines go to the bench: "sim COMMAND", "panel COMMAND", "end".
+
+#include <windows.h>
 
 #include <iostream>
 #include <string>
 #include <string_view>
 
-#include "bench/driver/Until.h"
-#include "bench/driver/Windows.h"
 #include "bench/flight/ScriptedFlight.h"
 
 using namespace bench;
@@ -45,41 +44,14 @@ bool Stay(Cockpit& cockpit, const FlightLog& log) {
     return !cockpit.Orvo().IsRunning() || cockpit.QuitByUser();
 }
 
-// 1,000 intervals, as the simulator's console gives them.
-std::string Pace(Cockpit& cockpit) {
-    cockpit.Simulator("pace 1");
-    std::string pace = "none";
-    Until(60000, [&] { return (pace = cockpit.Simulator("pace 1000")) != "none"; });
-    return pace;
-}
-
-bool MeasurePace(Cockpit& cockpit, const FlightLog& log) {
-    cockpit.StartSimulator();
-    cockpit.StartPanels();
-    cockpit.Panels("add multi");
-    cockpit.StartOrvo();
-    if (!log.Check("Orvo is connected",
-                   cockpit.StatusBecomes(0, "FSUIPC Status: Connected", 10000))) {
-        return false;
-    }
-    log.Say("1,000 ticks, window hidden: " + Pace(cockpit));
-    PressButton(FindChild(cockpit.MainWindow(), "Button", "Quit"));
-    HWND box = nullptr;
-    if (!Until(5000, [&] { return (box = cockpit.Box(" ORVO - Quit request")) != nullptr; })) {
-        return log.Check("the quit box opens", false);
-    }
-    log.Say("1,000 ticks, message box open: " + Pace(cockpit));
-    PressBoxButton(box, IDOK);
-    return log.Check("Orvo ends", cockpit.Orvo().WaitForEnd(10000).has_value());
-}
-
 }  // namespace
 
 int main(int argc, char** argv) {
     if (argc < 3) {
-        std::cout << "Flight ORVO.EXE FOLDER [--shots|--stay|--pace]" << std::endl;
+        std::cout << "Flight ORVO.EXE FOLDER [--shots|--stay]" << std::endl;
         return 2;
     }
+    SetProcessDPIAware();  // its pixels are then those of Orvo's windows
     const std::string_view mode = argc > 3 ? argv[3] : "";
     const FlightLog log(mode == "--shots");
     Cockpit cockpit(argv[1], argv[2]);
@@ -87,7 +59,6 @@ int main(int argc, char** argv) {
                    std::string("the files can't be copied to ") + argv[2])) {
         return 1;
     }
-    if (mode == "--pace") return MeasurePace(cockpit, log) ? 0 : 1;
     if (mode == "--stay") return Stay(cockpit, log) ? 0 : 1;
     return FlyScriptedFlight(cockpit, log) ? 0 : 1;
 }

@@ -1,7 +1,9 @@
 #include "bench/flight/Pilot.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <iterator>
+#include <optional>
 #include <sstream>
 
 #include "bench/driver/Until.h"
@@ -15,8 +17,7 @@ constexpr uint32_t kPatienceMs = 40000;
 constexpr uint32_t kWindowTimeMs = 10000;
 // A hand takes as long to turn back. Sooner, the panel's reports still count for the old direction.
 constexpr DWORD kHandPauseMs = 300;
-// Inside the frame of the Multi Panel's upper display, in pixels of its picture.
-constexpr RECT kUpperDisplay = {204, 20, 376, 64};
+constexpr char kSlider[] = "msctls_trackbar32";
 constexpr const char* kTabs[] = {"General", "Radio", "", "Multi", "", "Switch", "", "BIP"};
 
 constexpr struct {
@@ -30,11 +31,21 @@ constexpr struct {
     {"orvo", "start", &Cockpit::StartOrvo},
 };
 
-// Each page has one of its own.
+// Each page has one of its own. The general one has both, with "Setup" inside a frame of its own.
 HWND PageButton(const Cockpit& cockpit) {
     const HWND window = cockpit.MainWindow();
-    const HWND setup = FindShownChild(window, "Button", "Setup");
-    return setup ? setup : FindShownChild(window, "Button", "Quit");
+    const HWND quit = FindShownChild(window, "Button", "Quit");
+    return quit ? quit : FindShownChild(window, "Button", "Setup");
+}
+
+// Inside the frame of the Multi Panel's upper display, in pixels of its picture.
+RECT UpperDisplay() {
+    constexpr int kUsualDpi = 96;
+    const HDC screen = GetDC(nullptr);
+    const int dpi = GetDeviceCaps(screen, LOGPIXELSY);
+    ReleaseDC(nullptr, screen);
+    const auto scaled = [dpi](int pixels) { return MulDiv(pixels, dpi, kUsualDpi); };
+    return {scaled(204), scaled(20), scaled(376), scaled(64)};
 }
 
 bool OpenTab(const Cockpit& cockpit, const std::string& name) {
@@ -47,17 +58,26 @@ bool OpenTab(const Cockpit& cockpit, const std::string& name) {
            });
 }
 
-// Once it has come to rest; the display is that in the picture of the open page.
-uint64_t TakePicture(const Cockpit& cockpit, const std::string& who) {
-    uint64_t last = 0;
+// What `look` gives once that has come to rest. Windows are painted late, and piece by piece.
+uint64_t AtRest(const std::function<uint64_t()>& look) {
+    constexpr int kLooks = 8;
     uint64_t picture = 0;
+    int same = 0;
     Until(kWindowTimeMs, [&] {
-        last = picture;
-        picture = who == "icon" ? PictureOfTrayIcon()
-                                : PictureOf(GetParent(PageButton(cockpit)), kUpperDisplay);
-        return picture != 0 && picture == last;
+        const uint64_t now = look();
+        same = now != 0 && now == picture ? same + 1 : 0;
+        picture = now;
+        return same == kLooks;
     });
     return picture;
+}
+
+// The display is that in the picture of the open page.
+uint64_t TakePicture(const Cockpit& cockpit, const std::string& who) {
+    return AtRest([&] {
+        return who == "icon" ? PictureOfTrayIcon()
+                             : PictureOf(GetParent(PageButton(cockpit)), UpperDisplay());
+    });
 }
 
 std::string OrvoState(Cockpit& cockpit) {
@@ -68,9 +88,34 @@ std::string OrvoState(Cockpit& cockpit) {
     return code ? "ended with " + std::to_string(*code) : "no window";
 }
 
+std::string WindowTitle(const Cockpit& cockpit) {
+    const std::string title = TextOf(cockpit.FrontWindow());
+    return title.substr(std::min(title.size(), title.find_first_not_of(' ')));
+}
+
+// It may be that the window is still to come.
+bool WorkWindow(const Cockpit& cockpit, const std::string& act) {
+    const std::string verb = act.substr(0, act.find(' '));
+    const std::string argument = act.substr(std::min(act.size(), verb.size() + 1));
+    HWND control = nullptr;
+    const auto comes = [&](const char* kind, const std::optional<std::string>& text = {}) {
+        return Until(kWindowTimeMs, [&] {
+            return (control = FindShownChild(cockpit.FrontWindow(), kind, text)) != nullptr;
+        });
+    };
+    if (verb == "press" && comes("Button", argument)) {
+        PressButton(control);
+        return true;
+    }
+    const int number = std::atoi(argument.c_str());
+    if (verb == "slider") return comes(kSlider) && MoveSlider(control, number);
+    return verb == "tab" && comes("SysTabControl32") && ClickTab(control, number - 1);
+}
+
 std::string AircraftList(const Cockpit& cockpit) {
     std::string list = cockpit.ReadFile("Orvo.ini").value_or("");
     list.erase(0, list.find("[Aircrafts]"));
+    list.erase(std::min(list.size(), list.find("\n[") + 1));
     std::erase(list, '\r');
     std::ranges::replace(list, '\n', ' ');
     return list;
@@ -133,9 +178,11 @@ std::string Pilot::Do(const std::string& who, const std::string& act) {
     if (who == "panels") return cockpit_.Panels(act);
     if (who == "orvo") return told(act == "quit" && cockpit_.QuitByUser());
     if (who == "tab") return told(OpenTab(cockpit_, act));
+    if (who == "window") return told(WorkWindow(cockpit_, act));
     if (act == "double click") return told(DoubleClickTrayIcon());
     if (act == "remember") return told((pictures_[who] = TakePicture(cockpit_, who)) != 0);
     if (who == "screen") {
+        AtRest([this] { return PictureOf(cockpit_.FrontWindow()); });
         log_.Shot(act);
         return told(true);
     }
@@ -147,6 +194,7 @@ std::string Pilot::Do(const std::string& who, const std::string& act) {
 
 std::string Pilot::See(const std::string& who) {
     if (who == "orvo") return OrvoState(cockpit_);
+    if (who == "window") return WindowTitle(cockpit_);
     if (who == "aircraft") return AircraftList(cockpit_);
     if (who == "profile") {
         const HWND combo = FindChild(cockpit_.MainWindow(), "ComboBox", std::nullopt);

@@ -18,6 +18,9 @@ namespace bench {
 //   orvo                "start", "quit"; shows "window hidden", "window open", "ended with CODE"
 //   icon, display       "double click", "remember"; show "as remembered" or "changed"
 //   tab, screen         the tab to open, the name of a screenshot
+//   window              in the one on top "press BUTTON", "slider VALUE", "tab NUMBER" from 1;
+//   shows
+//                       the title of the one on top
 //   status, profile, aircraft   the status bar, the one in use, the list of those that are bound
 //   --                  a headline of the log
 struct Step {

@@ -38,6 +38,7 @@ constexpr char kNGXKeys[] =
     "T17=LEFT_GEAR,Green\r\nT18=RIGHT_GEAR,Green\r\nT23=GEAR_DOWN,Green\r\n"
     "[BIPPanel2]\r\nT23=FUEL_CROSS_FEED,Red\r\n";
 
+constexpr char kMainTitle[] = "ORVO    v0.5.1";
 constexpr char kRadioDark[] = "upper dark dark lower dark dark";
 constexpr char kRadiosAtStart[] = R"(upper "118.10" "119.52" lower "118.10" "119.52")";
 constexpr char kRadiosTuned[] = R"(upper "118.55" "118.10" lower "118.55" "118.10")";
@@ -72,10 +73,20 @@ const std::vector<Step> kFlight = {
     {"profile", "", "Default"},
     {"screen", "01-general"},
 
+    {"--", "in the General Options a long click is made longer: then 800 ms are a short one"},
+    {"window", "press Setup", "ORVO - General Options"},
+    {"screen", "02-general-options"},
+    {"window", "slider 1500; tab 2"},
+    {"screen", "03-process-priority"},
+    {"window", "press OK", kMainTitle},
+    {"multi1", "press HDG 800; press HDG 800", R"(upper "05000" lower "    0" lights none)",
+     "0810:00000000 07C8:01000000 07C8:00000000"},
+    {"window", "press Setup; slider 500; press OK", kMainTitle},
+
     {"--", "values are read and turned on two Multi Panels"},
     {"tab", "Multi"},
     {"multi1", "selector HDG", R"(upper "  080" lower "     " lights none)"},
-    {"screen", "02-heading-080"},
+    {"screen", "04-heading-080"},
     {"display", "remember"},
     {"multi1", "selector ALT; knob +3 60", R"(upper "05300" lower "    0" lights none)"},
     {"multi1", "selector VS; knob -2 60", R"(upper "05300" lower " -200" lights none)"},
@@ -86,7 +97,7 @@ const std::vector<Step> kFlight = {
     {"multi1", "press HDG 800", kCourse089, "3340:04000000 3340:00000000"},
     {"multi1", "trim +2 60; flaps down; flaps centre; throttle arm", "",
      "0BC0:2000 0BC0:4000 0BDC:FF0F 0810:01000000"},
-    {"screen", "03-standard"},
+    {"screen", "05-standard"},
     {"display", "", "changed"},
 
     {"--", "COM1 and NAV1 are tuned and swapped on one Radio Panel; the other shows it too"},
@@ -97,7 +108,7 @@ const std::vector<Step> kFlight = {
     {"radio1", "lower-inner +2 60; lower-outer +1 60; press lower",
      R"(upper "118.55" "118.10" lower "113.40" "110.50")", "311E:3512 311E:4012 311E:4013 3123:02"},
     {"radio2", "", kRadiosTuned},
-    {"screen", "04-radio-com-nav"},
+    {"screen", "06-radio-com-nav"},
     {"--", "DME, ADF, transponder and altimeter; this in units of its own on each panel"},
     {"radio1", "lower DME", R"(upper "118.55" "118.10" lower "  12.3" "  123")"},
     {"radio1", "upper XPDR; lower ADF", R"(upper " 29.92" " 1.200" lower "0345.3" "0345.3")"},
@@ -106,7 +117,7 @@ const std::vector<Step> kFlight = {
     {"radio1", "upper-inner +1 60; press upper 800; upper-outer +2 60",
      R"(upper " 1015" " 2.200" lower "0347.3" "0345.3")", "0354:0022 0330:603F 0330:703F"},
     {"radio2", "upper XPDR", R"(upper " 29.97" " 2.200" lower "118.55" "118.10")"},
-    {"screen", "05-radio-adf-xpdr"},
+    {"screen", "07-radio-adf-xpdr"},
     {"radio1", "upper COM1; lower COM1", kRadiosTuned},
     {"radio2", "upper COM1", kRadiosTuned},
 
@@ -134,7 +145,7 @@ const std::vector<Step> kFlight = {
     {"--", "the second panel's lever raises the gear, the first one's lowers it again"},
     {"switch2", "gear up", kGearMoves, "0BE8:00000000"},
     {"bip2", "", "tiles 0 red 1 yellow"},
-    {"screen", "06-switch-gear-moves"},
+    {"screen", "08-switch-gear-moves"},
     {"switch1 switch2", "", kGearDark},
     {"bip2", "", "tiles 2 green"},
     {"switch1", "gear between; gear down", kGearMoves, "0BE8:FF3F0000"},
@@ -148,7 +159,7 @@ const std::vector<Step> kFlight = {
     {"simulator", "set 0x08B8 2 15211; set 0x0BC8 2 32767"},
     {"bip1", "", kWarnings},
     {"bip2", "", "tiles 0 green 3 green 7 yellow"},
-    {"screen", "07-bip-warnings"},
+    {"screen", "09-bip-warnings"},
 
     {"--", "an aircraft with the NGX profile is loaded; knobs and switches click its controls"},
     {"simulator", "set 0x6520 2 214; set 0x6524 4 0x3F47AE14; set 0x652C 2 247"},
@@ -176,7 +187,7 @@ const std::vector<Step> kFlight = {
      "tiles 0 yellow 1 red 3 yellow 4 yellow 5 green 8 red 9 red 10 red "
      "16 green 17 green 18 green 23 green"},
     {"bip2", "", "tiles 23 red"},
-    {"screen", "08-bip-ngx"},
+    {"screen", "10-bip-ngx"},
 
     {"--", "an aircraft with the Maddog profile is loaded"},
     {"simulator", "title \"Bench Jet\""},
@@ -196,7 +207,7 @@ const std::vector<Step> kFlight = {
     {"aircraft", "", "[Aircrafts] Bench Airliner=Airliner Bench Jet=Jet Bench Trainer=Default "},
     {"bip1", "", kWarnings},
     {"tab", "Multi"},
-    {"screen", "09-back-to-default"},
+    {"screen", "11-back-to-default"},
 
     {"--", "the simulator is killed; the BIP Panels alone keep what they show"},
     {"simulator", "kill"},
@@ -205,7 +216,7 @@ const std::vector<Step> kFlight = {
     {"multi1 multi2", "", kMultiDark},
     {"switch1 switch2", "", kGearDark},
     {"bip1", "", kWarnings},
-    {"screen", "10-disconnected"},
+    {"screen", "12-disconnected"},
     {"icon", "", "changed"},
     {"--", "the simulator is started again; the gear lights come with their next change"},
     {"simulator", "start"},
@@ -214,7 +225,7 @@ const std::vector<Step> kFlight = {
     {"radio1 radio2", "", kRadiosAtStart},
     {"bip1", "", "tiles 10 red 23 green"},
     {"bip2", "", "tiles 0 green 3 green"},
-    {"screen", "11-connected-again"},
+    {"screen", "13-connected-again"},
     {"icon display", "", "as remembered"},
     {"switch1 switch2", "", kGearDark},
     {"switch2", "gear up", kGearMoves},
@@ -222,7 +233,7 @@ const std::vector<Step> kFlight = {
 
     {"--", "the user quits"},
     {"tab", "General"},
-    {"screen", "12-general"},
+    {"screen", "14-general"},
     {"orvo", "quit", "ended with 0"},
     {"radio1 radio2", "", kRadioDark},
     {"multi1 multi2", "", kMultiDark},

@@ -1,11 +1,13 @@
 # Shell functions of ./run and ./test: packages, the project's own Wine prefix, a screen of its own.
-# Source it with `root` set to the project's folder and `me` to the name to speak under.
+# Source it with `root` set to the project's folder and `me` to the name to speak under. `scale` is
+# the system's scaling in percent: screen and prefix are made for it.
 # shellcheck shell=bash disable=SC2034,SC2154
 
 build_packages=(cmake ninja-build g++ g++-mingw-w64-x86-64-posix googletest)
 wine_packages=(wine wine64 xvfb imagemagick fonts-dejavu-core)
 wine=
 xvfb_id=
+scale=100
 
 say() { printf '%s: %s\n' "$me" "$*"; }
 
@@ -47,15 +49,19 @@ build_windows() {
 lock_wine() {
     mkdir -p "$root/build"
     exec 9>"$root/build/wine.lock"
-    flock -n 9 || fail "another ./run or ./test is using the Wine prefix build/wine"
+    flock -n 9 || fail "another ./run or ./test is using Wine"
 }
+
+# screen_size: as large as windows of that scaling need.
+screen_size() { echo "$((1280 * scale / 100))x$((800 * scale / 100))"; }
 
 # start_screen: a screen of our own.
 start_screen() {
     local number_file
     number_file=$(mktemp)
     # Opened by the shell, so that it is there before the server writes to it.
-    Xvfb -displayfd 8 -screen 0 1280x800x24 -nolisten tcp 8>"$number_file" 9>&- >/dev/null 2>&1 &
+    Xvfb -displayfd 8 -screen 0 "$(screen_size)x24" -nolisten tcp 8>"$number_file" 9>&- \
+        >/dev/null 2>&1 &
     xvfb_id=$!
     for _ in {1..100}; do
         [[ -s $number_file ]] && break
@@ -71,18 +77,21 @@ start_screen() {
 # comes from the prefix, so that standard input and output of the programs stay ours.
 set_up_wine() {
     export WINEPREFIX=$root/build/wine WINEARCH=win64 WINEDEBUG=-all
+    ((scale == 100)) || WINEPREFIX+=-$scale
     wine=$(command -v wine64 || true)
     [[ $wine ]] || wine=/usr/lib/wine/wine64
     [[ -x $wine ]] || fail "there is no wine64"
     export WINEDLLOVERRIDES="mscoree,mshtml=;hid,setupapi=n,b"
     [[ -f $WINEPREFIX/ready ]] && return
-    say "making the Wine prefix build/wine"
+    say "making the Wine prefix ${WINEPREFIX#"$root"/}"
     rm -rf "$WINEPREFIX"
     if ! run_wine wineboot -i >/dev/null 2>&1 ||
         ! run_wine reg add 'HKCU\Software\Wine\Explorer' /v Desktop /d shell /f >/dev/null 2>&1 ||
-        ! run_wine reg add 'HKCU\Software\Wine\Explorer\Desktops' /v shell /d 1280x800 /f \
-            >/dev/null 2>&1; then
-        fail "the Wine prefix build/wine can't be made"
+        ! run_wine reg add 'HKCU\Software\Wine\Explorer\Desktops' /v shell /d "$(screen_size)" \
+            /f >/dev/null 2>&1 ||
+        ! run_wine reg add 'HKCU\Control Panel\Desktop' /v LogPixels /t REG_DWORD \
+            /d "$((96 * scale / 100))" /f >/dev/null 2>&1; then
+        fail "the Wine prefix ${WINEPREFIX#"$root"/} can't be made"
     fi
     wineserver -w
     touch "$WINEPREFIX/ready"
@@ -99,6 +108,6 @@ wine_path() {
 
 # stop_wine_and_screen: ends what the two above have started and nothing else.
 stop_wine_and_screen() {
-    [[ -z $wine ]] || WINEPREFIX=$root/build/wine wineserver -k 2>/dev/null || true
+    [[ -z $wine ]] || wineserver -k 2>/dev/null || true
     [[ -z $xvfb_id ]] || kill "$xvfb_id" 2>/dev/null || true
 }

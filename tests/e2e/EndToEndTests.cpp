@@ -3,6 +3,9 @@
 
 #include <windows.h>
 
+// Counts on windows.h.
+#include <commctrl.h>
+
 #include <cstdio>
 #include <filesystem>
 #include <gtest/gtest.h>
@@ -47,7 +50,8 @@ class EndToEnd : public testing::Test {
         cockpit_->StartPanels();
         for (const std::string& panel : panels) PlugIn(panel);
         cockpit_->StartOrvo();
-        ASSERT_TRUE(cockpit_->StatusBecomes(0, kConnected, kSoonMs))
+        // The last that is read of a simulator; the profile comes into force with it.
+        ASSERT_TRUE(cockpit_->StatusBecomes(3, "Aircraft in use: Bench Trainer", kSoonMs))
             << "batches: " << cockpit_->Simulator("batches")
             << ", window: " << (cockpit_->MainWindow() != nullptr);
     }
@@ -77,8 +81,54 @@ class EndToEnd : public testing::Test {
         return box;
     }
 
+    HWND OpenOptions() {
+        const HWND window = cockpit_->OpenGeneralOptions();
+        EXPECT_TRUE(window);
+        return window;
+    }
+
+    // The window closes, and the main window is back.
+    void ExpectCloses(HWND window, const char* button) {
+        PressButton(FindShownChild(window, "Button", button));
+        const HWND main = cockpit_->MainWindow();
+        EXPECT_TRUE(Until(kSoonMs, [&] { return cockpit_->FrontWindow() == main; }));
+    }
+
+    void ExpectTicksKeepTheirPace() {
+        cockpit_->Simulator("pace 1");
+        std::string pace = "none";
+        EXPECT_TRUE(
+            Until(kSoonMs, [&] { return (pace = cockpit_->Simulator("pace 300")) != "none"; }));
+        double median = 0;
+        EXPECT_EQ(std::sscanf(pace.c_str(), "median %lf", &median), 1) << pace;
+        EXPECT_NEAR(median, 10, 2) << pace;
+    }
+
     std::unique_ptr<Cockpit> cockpit_ =
         MakeCockpit(testing::UnitTest::GetInstance()->current_test_info()->name());
+};
+
+HWND Child(HWND parent, const char* className, const std::optional<std::string>& text = {}) {
+    return FindShownChild(parent, className, text);
+}
+
+BOOL CALLBACK PressOne(HWND button, LPARAM) {
+    PressButton(button);
+    return TRUE;
+}
+
+// The entry that starts the program at logon. Whatever a test makes of it is gone after that.
+struct LogonEntry {
+    LogonEntry() { RegDeleteKeyValueA(HKEY_CURRENT_USER, kKey, kName); }
+    ~LogonEntry() { RegDeleteKeyValueA(HKEY_CURRENT_USER, kKey, kName); }
+    std::string Data() const {
+        char data[MAX_PATH] = "";
+        DWORD size = sizeof data;
+        RegGetValueA(HKEY_CURRENT_USER, kKey, kName, RRF_RT_REG_SZ, nullptr, data, &size);
+        return data;
+    }
+    static constexpr char kKey[] = R"(Software\Microsoft\Windows\CurrentVersion\Run)";
+    static constexpr char kName[] = "ORVO";
 };
 
 // Waits for a box of this title, reads it and presses the button.
@@ -202,14 +252,103 @@ TEST_F(EndToEnd, APanelThatVanishesHurtsNothingElse) {
 TEST_F(EndToEnd, TheTickKeepsItsPaceUnderAMessageBox) {
     StartConnected();
     const HWND box = QuitBox();
-    cockpit_->Simulator("pace 1");
-    std::string pace = "none";
-    EXPECT_TRUE(Until(kSoonMs, [&] { return (pace = cockpit_->Simulator("pace 300")) != "none"; }));
-    double median = 0;
-    EXPECT_EQ(std::sscanf(pace.c_str(), "median %lf", &median), 1) << pace;
-    EXPECT_NEAR(median, 10, 2) << pace;
+    ExpectTicksKeepTheirPace();
     PressBoxButton(box, IDCANCEL);
     EXPECT_EQ(cockpit_->Status().at(0), kConnected);
+    ExpectQuits();
+}
+
+TEST_F(EndToEnd, GeneralOptionsAreSavedShownAgainAndTakenBack) {
+    const LogonEntry entry;
+    cockpit_->WriteIni("[GeneralSetup]\r\nSplash=0\r\n");
+    StartConnected();
+    HWND window = OpenOptions();
+    EXPECT_TRUE(Tick(Child(window, "Button", "Start ORVO when Windows starts")));
+    EXPECT_TRUE(ChooseOption(Child(window, "Button", "... ask for a profile to bind")));
+    EXPECT_TRUE(MoveSlider(Child(window, TRACKBAR_CLASSA), 1200));
+    EXPECT_TRUE(ClickTab(Child(window, "SysTabControl32"), 1));
+    HWND frame = Child(window, "Button", "Deckhub.exe");
+    EXPECT_TRUE(ChooseInCombo(Child(frame, "ComboBox"), 4));
+    EXPECT_FALSE(IsWindowEnabled(Child(frame, "Edit")));
+    EXPECT_TRUE(ChooseOption(Child(frame, "Button", "Manual")));
+    TypeInto(Child(frame, "Edit"), "3");
+    EXPECT_TRUE(DragWindow(window, 90, -60));
+    RECT place{};
+    GetWindowRect(window, &place);
+    ExpectCloses(window, "OK");
+    EXPECT_EQ(entry.Data(), cockpit_->Folder() + "\\Orvo.exe");
+    const auto twips = [](LONG pixels) { return std::to_string(pixels * 15); };
+    const std::string saved =
+        "[GeneralSetup]\r\nSplash=0\r\nAutoStart=1\r\nManualProfile=1\r\nOrvoPriority=32\r\n"
+        "DeckhubPriority=128\r\nOrvoAffinity=-1\r\nDeckhubAffinity=3\r\nClickThreshold=1200\r\n"
+        "GeneralSetupFormTop=" +
+        twips(place.top) + "\r\nGeneralSetupFormLeft=" + twips(place.left) +
+        "\r\n[Aircrafts]\r\nBench Trainer=Default\r\n";
+    EXPECT_EQ(cockpit_->ReadFile("Orvo.ini"), saved);
+
+    window = OpenOptions();
+    RECT again{};
+    GetWindowRect(window, &again);
+    EXPECT_TRUE(EqualRect(&again, &place)) << again.left << ", " << again.top;
+    const HWND autoStart = Child(window, "Button", "Start ORVO when Windows starts");
+    EXPECT_TRUE(IsTicked(autoStart));
+    EXPECT_TRUE(IsTicked(Child(window, "Button", "... ask for a profile to bind")));
+    EXPECT_EQ(SliderValue(Child(window, TRACKBAR_CLASSA)), 1200);
+    EXPECT_TRUE(Tick(autoStart));
+    EXPECT_TRUE(ClickTab(Child(window, "SysTabControl32"), 1));
+    frame = Child(window, "Button", "Deckhub.exe");
+    EXPECT_EQ(ComboSelection(Child(frame, "ComboBox")), "High");
+    EXPECT_TRUE(IsTicked(Child(frame, "Button", "Manual")));
+    EXPECT_EQ(TextOf(Child(frame, "Edit")), "3");
+    ExpectCloses(window, "Cancel");
+    EXPECT_EQ(cockpit_->ReadFile("Orvo.ini"), saved);
+    EXPECT_NE(entry.Data(), "");
+
+    window = OpenOptions();
+    EXPECT_TRUE(Tick(Child(window, "Button", "Start ORVO when Windows starts")));
+    ExpectCloses(window, "OK");
+    EXPECT_EQ(entry.Data(), "");
+    ExpectQuits();
+}
+
+TEST_F(EndToEnd, OptionsThatCannotBeSavedStayInTheirWindow) {
+    const std::string file = cockpit_->Folder() + "\\Orvo.ini";
+    cockpit_->WriteIni("[GeneralSetup]\r\nSplash=0\r\n");
+    StartConnected();
+    const HWND window = OpenOptions();
+    const HWND autoQuit = Child(window, "Button", "Quit ORVO when Flight Simulator stops");
+    const std::string before = cockpit_->ReadFile("Orvo.ini").value_or("");
+    EXPECT_TRUE(Tick(autoQuit));
+    const HANDLE held =
+        CreateFileA(file.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+    EXPECT_NE(held, INVALID_HANDLE_VALUE);
+    PressButton(Child(window, "Button", "OK"));
+    const std::string told = AnswerBox(*cockpit_, "  ORVO");
+    EXPECT_NE(told.find(file), std::string::npos) << told;
+    EXPECT_TRUE(Until(kSoonMs, [&] { return cockpit_->FrontWindow() == window; }));
+    EXPECT_TRUE(IsTicked(autoQuit));
+    CloseHandle(held);
+    EXPECT_EQ(cockpit_->ReadFile("Orvo.ini"), before);
+    ExpectCloses(window, "OK");
+    EXPECT_NE(cockpit_->ReadFile("Orvo.ini").value_or("").find("AutoQuit=1"), std::string::npos);
+    ExpectQuits();
+}
+
+TEST_F(EndToEnd, UnderTheGeneralOptionsPanelsLiveAndTheMainWindowRests) {
+    cockpit_->WriteIni("[GeneralSetup]\r\nSplash=0\r\n");
+    StartConnected();
+    const HWND window = OpenOptions();
+    const HWND main = cockpit_->MainWindow();
+    EXPECT_FALSE(IsWindowEnabled(main));
+    ShowWindow(main, SW_HIDE);  // what the double click would take back
+    DoubleClickTrayIcon();
+    EnumChildWindows(main, PressOne, 0);
+    ExpectTicksKeepTheirPace();
+    EXPECT_TRUE(Fly(
+        {{"multi1", "selector HDG; knob +1 60", R"(upper "  081" lower "     " lights none)"}}));
+    EXPECT_FALSE(IsWindowVisible(main));
+    EXPECT_EQ(cockpit_->FrontWindow(), window);
+    ExpectCloses(window, "Cancel");
     ExpectQuits();
 }
 
