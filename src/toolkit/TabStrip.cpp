@@ -8,14 +8,27 @@ namespace {
 
 constexpr int32_t kFirstRow = 240;  // twips; no row is lower
 
-// What lies at `from` or below in the parent moves down, and makes the parent higher.
-void MakeRoom(Container& parent, int32_t from, int32_t height) {
-    const int32_t below = parent.Top + parent.Height;
-    for (Control* child : parent.Children()) {
-        if (child->Top >= from) child->Top = child->Top + height;
+bool Encloses(const Control& outer, const Control& inner, int32_t innerHeight) {
+    return outer.Left <= inner.Left && outer.Left + outer.Width >= inner.Left + inner.Width &&
+           outer.Top <= inner.Top && outer.Top + outer.Height >= inner.Top + innerHeight;
+}
+
+// `grown` is higher by `height`, or lower: what lies at `from` or below moves with that, and what
+// encloses it grows with it, a strip on which it lies and the parent.
+void MakeRoom(const Control& grown, int32_t from, int32_t height) {
+    Container* const parent = grown.Parent();
+    if (!parent) return;
+    const int32_t below = parent->Top + parent->Height;
+    for (Control* child : parent->Children()) {
+        if (child == &grown) continue;
+        if (child->Top >= from) {
+            child->Top = child->Top + height;
+        } else if (Encloses(*child, grown, grown.Height - height)) {
+            child->Height = child->Height + height;
+        }
     }
-    parent.Height = parent.Height + height;
-    if (Container* outer = parent.Parent()) MakeRoom(*outer, below, height);
+    parent->Height = parent->Height + height;
+    MakeRoom(*parent, below, height);
 }
 
 }  // namespace
@@ -44,5 +57,5 @@ void TabStrip::SetMoreRows(int32_t height) {
     const int32_t added = height - std::exchange(moreRows_, height);
     if (added == 0) return;
     Height = Height + added;
-    MakeRoom(*Parent(), Top + kFirstRow, added);
+    MakeRoom(*this, Top + kFirstRow, added);
 }

@@ -37,8 +37,9 @@ class TabStrip : public Control {
         if (TakesActs()) Select(number);
     }
 
-    // Twips that the rows behind the first take, as the peer finds. The strip grows by them, and
-    // what lies below the first row moves down: so does, in turn, what lies below the parent.
+    // Twips that the rows behind the first take, as the peer finds. The strip grows by them, and so
+    // does a strip on which it lies. What lies below the first row moves down: so does, in turn,
+    // what lies below the parent.
     void SetMoreRows(int32_t height);
     int32_t MoreRows() const { return moreRows_; }
 

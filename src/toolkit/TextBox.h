@@ -10,7 +10,8 @@ class TextBox : public Control {
   public:
     using Control::Control;
 
-    Event<> Change;  // the text is another one
+    Event<> Change;     // the text is another one
+    Event<> LostFocus;  // the user has gone elsewhere, or was elsewhere when the text changed
 
     const std::string& Text() const { return text_; }
     void SetText(const std::string& text) {
@@ -24,6 +25,8 @@ class TextBox : public Control {
     void Type(const std::string& text) {
         if (TakesActs()) SetText(text);
     }
+    // The user goes elsewhere.
+    void Leave() { LostFocus.Raise(); }
 
   private:
     std::string text_;

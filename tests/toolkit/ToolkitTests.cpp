@@ -277,6 +277,8 @@ TEST_F(ToolkitTest, AFormThatGoesTakesWhatIsModalOverItAlong) {
 TEST_F(ToolkitTest, MoreRowsOfTabsMoveWhatLiesOnAndBelowThem) {
     form.SetContentSize(9000, 6000);
     const int32_t height = form.Height;
+    TabStrip around(&form), beside(&form);
+    around.Move(0, 0, 9000, 3400), beside.Move(9000, 0, 900, 3400);
     Container page(&form);
     page.Move(0, 300, 9000, 3000);
     TabStrip tabs(&page);
@@ -287,6 +289,7 @@ TEST_F(ToolkitTest, MoreRowsOfTabsMoveWhatLiesOnAndBelowThem) {
     below.Top = 3600;
     tabs.SetMoreRows(500), tabs.SetMoreRows(500);
     EXPECT_TRUE(tabs.Top == 60 && tabs.Height == 2900 && on.Top == 980);
+    EXPECT_TRUE(around.Top == 0 && around.Height == 3900 && beside.Height == 3400);
     EXPECT_TRUE(page.Height == 3500 && below.Top == 4100 && form.Height == height + 500);
     tabs.SetMoreRows(0);
     EXPECT_TRUE(on.Top == 480 && below.Top == 3600 && form.Height == height);

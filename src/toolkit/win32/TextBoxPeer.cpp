@@ -9,9 +9,12 @@ TextBoxPeer::TextBoxPeer(TextBox& box, const PeerServices& services)
 }
 
 void TextBoxPeer::OnCommand(UINT code) {
-    if (code != EN_CHANGE) return;
-    box_.Type(EditText(Window()));
-    Follow();
+    if (code == EN_CHANGE) {
+        box_.Type(EditText(Window()));
+        Follow();
+    }
+    const bool left = code == EN_CHANGE ? GetFocus() != Window() : code == EN_KILLFOCUS;
+    if (left) box_.Leave();
 }
 
 void TextBoxPeer::FollowMore() {

@@ -1,3 +1,5 @@
+#include <utility>
+
 #include "PeerTest.h"
 #include "toolkit/CheckBox.h"
 #include "toolkit/CommandButton.h"
@@ -146,6 +148,7 @@ TEST_F(PeerTest, OneOptionOfAParentIsChosen) {
 
 TEST_F(PeerTest, TextBoxFollowsBothWaysAndKeepsTheCaret) {
     TextBox box(&form);
+    CommandButton elsewhere(&form);
     box.Change.Connect([&] { story += box.Text() + " "; });
     Show(), Focus(box);
     box.SetText("Caf\xE9");
@@ -159,6 +162,13 @@ TEST_F(PeerTest, TextBoxFollowsBothWaysAndKeepsTheCaret) {
     Send(WM_CHAR, 'y');
     EXPECT_EQ(TextOf(box), "digits");
     EXPECT_EQ(Tell(box, EM_GETSEL), MAKELONG(4, 4)) << "as far from the end as it was";
+    box.LostFocus.Connect([&] { story = "left"; });
+    Send(WM_CHAR, 'z');
+    EXPECT_NE(story, "left");
+    Focus(elsewhere);
+    EXPECT_EQ(std::exchange(story, ""), "left");
+    SetWindowTextA(WindowOf(box), "digits");
+    EXPECT_EQ(story, "left") << "another program has written";
 }
 
 TEST_F(PeerTest, ListBoxFollowsBothWays) {
