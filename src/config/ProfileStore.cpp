@@ -149,18 +149,17 @@ bool ProfileStore::ProfileNameValid(std::string_view text) {
     });
 }
 
-bool ProfileStore::ProfileHasFile() const {
-    return !CurrentProfile.empty() && ProfileNameValid(CurrentProfile) &&
-           !IsReserved(CurrentProfile);
+bool ProfileStore::HasFile(const std::string& profile) {
+    return !profile.empty() && ProfileNameValid(profile) && !IsReserved(profile);
 }
 
 std::optional<IniText> ProfileStore::ProfileText() const {
-    if (!ProfileHasFile()) return IniText("");
-    return files_.Read(ProfilePath());
+    if (!HasFile(CurrentProfile)) return IniText("");
+    return files_.Read(PathOf(CurrentProfile));
 }
 
 std::optional<IniEntries> ProfileStore::ReadProfile(const std::string& section) {
-    if (CurrentProfile.empty()) return std::nullopt;
+    if (!ProfileInUse()) return std::nullopt;
     std::optional<IniText> own;
     const bool isRead = reading_ && reading_->profile == CurrentProfile;
     if (!isRead) own = ProfileText();
@@ -170,20 +169,20 @@ std::optional<IniEntries> ProfileStore::ReadProfile(const std::string& section) 
     return std::nullopt;
 }
 
-SaveResult ProfileStore::SaveProfile(const std::string& section,
+SaveResult ProfileStore::SaveProfile(const std::string& profile, const std::string& section,
                                      const std::function<bool(IniSection&)>& write) {
-    if (!ProfileHasFile()) return Unread();
+    if (!HasFile(profile)) return Unread(profile);
     const bool saved = Patience(clock_, kSavePatienceMs).Try([&] {
-        return files_.Save(ProfilePath(), section, write);
+        return files_.Save(PathOf(profile), section, write);
     });
-    return files_.Result(saved, ProfilePath());
+    return files_.Result(saved, PathOf(profile));
 }
 
-SaveResult ProfileStore::Unread() const {
-    if (!ProfileHasFile()) {
+SaveResult ProfileStore::Unread(const std::string& profile) const {
+    if (!HasFile(profile)) {
         return SaveResult::Impossible("No profile is in use, so there is nowhere to save to.");
     }
-    return SaveResult::Unread(ProfilePath());
+    return SaveResult::Unread(PathOf(profile));
 }
 
 ProfileReading::ProfileReading(ProfileStore& profiles)

@@ -20,6 +20,7 @@ class ProfileStore {
     ProfileStore(IniService& ini, FilePort& files, Clock& clock, std::string programFolder);
 
     std::string CurrentProfile = kDefault;  // empty while none is in use
+    bool ProfileInUse() const { return !CurrentProfile.empty(); }
 
     // "Default" is always the last one and never in the file.
     const std::vector<std::string>& ProfileNames() const { return profileNames_; }
@@ -60,14 +61,14 @@ class ProfileStore {
     bool ProfileMissed() const { return profileMissed_; }
     // Whether the current profile's file can be read at this moment.
     bool ProfileReadable() const { return ProfileText().has_value(); }
-    // Changes a section of the current profile's file. What `write` does through what it is given
+    // Changes a section of a profile's file. What `write` does through what it is given
     // arrives as a whole, or not at all when it gives false or the file can't be written. Waits a
     // moment for a file that is held.
-    SaveResult SaveProfile(const std::string& section,
+    SaveResult SaveProfile(const std::string& profile, const std::string& section,
                            const std::function<bool(IniSection&)>& write);
 
     // The result of a save of what ReadProfile couldn't read.
-    SaveResult Unread() const;
+    SaveResult Unread(const std::string& profile) const;
 
     static constexpr const char* kDefault = "Default";
 
@@ -84,8 +85,10 @@ class ProfileStore {
     };
 
     const Aircraft* Find(std::string_view title) const;
-    bool ProfileHasFile() const;
-    std::string ProfilePath() const { return programFolder_ + '\\' + CurrentProfile + ".ini"; }
+    static bool HasFile(const std::string& profile);
+    std::string PathOf(const std::string& profile) const {
+        return programFolder_ + '\\' + profile + ".ini";
+    }
     std::optional<IniText> ProfileText() const;
     // False while the file can't be read.
     bool ReadProfileList();

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "base/Number.h"
+#include "core/PanelSetup.h"
 #include "toolkit/UiBackend.h"
 #include "ui/Layout.h"
 #include "ui/frmGeneralSetup.h"
@@ -241,12 +242,12 @@ void frmMain::OpenGeneralSetup() {
 void frmMain::ServeSetupRequest(PanelUnit& unit) {
     if (!MayOpenWindow()) return;
     services_.windows.SetupPanelIndex = unit.number;
-    if (const auto& open = SetupWindows[static_cast<size_t>(unit.kind)]) {
+    {
         const ModalWindow modal(services_.windows);
-        open();
+        OpenPanelSetup(unit, Panels, services_.ForSetup());
     }
     // Without a profile the bindings stay as they are.
-    if (!unit.logic || services_.profiles.CurrentProfile.empty()) return;
+    if (!unit.logic || !services_.profiles.ProfileInUse()) return;
     services_.session.Acts.Drop(PendingActs::Lasts::Binding);
     unit.logic->LoadSetup();
     if (unit.kind == PanelKind::Switch) return;

@@ -1,8 +1,6 @@
 #pragma once
 
-#include <array>
 #include <cstdint>
-#include <functional>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -26,6 +24,7 @@
 #include "toolkit/StatusBar.h"
 #include "toolkit/TabStrip.h"
 #include "ui/Emblem.h"
+#include "ui/PanelSetupForm.h"
 #include "ui/PlacedForm.h"
 #include "ui/WindowState.h"
 #include "ui/ctlTrayArea.h"
@@ -46,6 +45,7 @@ struct MainServices {
         return {ui,           platform.loop, platform.clock, platform.screen,
                 monitorRects, generalSetup,  windows};
     }
+    SetupServices ForSetup() const { return {{ForWindows(), session, output}, profiles}; }
 };
 
 // The program's one permanent window, hidden until the user double-clicks its icon in the
@@ -65,9 +65,6 @@ class frmMain : public PlacedForm {
     void ArmTimer();
 
     PanelLists Panels;
-
-    // The configuration window of each kind of panel: opens it and returns when it is closed.
-    std::array<std::function<void()>, kPanelIdentities.size()> SetupWindows;
 
     TabStrip tabMain;
     Container picOrder;

@@ -1,6 +1,6 @@
 #include "ui/DialogForm.h"
 
-bool TellUnlessSaved(UiBackend& ui, const SaveResult& result) {
+bool TellUnlessDone(UiBackend& ui, const SaveResult& result) {
     if (result) return true;
     ui.MsgBox({result.Problem(), "  ORVO", MsgBoxIcon::Exclamation, MsgBoxButtons::Ok});
     return false;
@@ -12,7 +12,7 @@ void DialogForm::UseButtons(CommandButton& cmdOk, CommandButton& cmdCancel) {
     DefaultButton = &cmdOk;
     CancelButton = &cmdCancel;
     cmdOk.Click.Connect([this] {
-        if (TellUnlessSaved(Ui(), Save())) Unload();
+        if (TellUnlessDone(Ui(), Save())) Unload();
     });
     cmdCancel.Click.Connect([this] {
         Revert();

@@ -3,8 +3,9 @@
 #include "config/SaveResult.h"
 #include "ui/PlacedForm.h"
 
-// Tells the user in a box that a save was refused, and why. Gives whether the save has worked.
-bool TellUnlessSaved(UiBackend& ui, const SaveResult& result);
+// Tells the user in a box that a save, or what it needs, was refused, and why. Gives whether it has
+// worked.
+bool TellUnlessDone(UiBackend& ui, const SaveResult& result);
 
 // A form with OK and Cancel. OK saves and closes; a save that is refused is told, and the window
 // stays as it is, with all that was typed.

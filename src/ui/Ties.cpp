@@ -70,8 +70,13 @@ void Ties::Add(TextBox& box, const TextPlace& place) {
     box.Change.Connect(Add(
         When::AtOnce, [&box, place] { box.SetText(place.get()); },
         [&box, place] {
-            if (!place.take(box.Text())) box.SetText(place.otherwise());
+            const std::string& text = box.Text();
+            if (place.take(text) || (place.unfinished && place.unfinished(text))) return;
+            box.SetText(place.otherwise());
         }));
+    box.LostFocus.Connect([&box, place] {
+        if (place.unfinished && place.unfinished(box.Text())) box.SetText(place.otherwise());
+    });
 }
 
 void Ties::Load() {

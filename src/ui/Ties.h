@@ -5,6 +5,7 @@
 #include <functional>
 #include <initializer_list>
 #include <string>
+#include <type_traits>
 
 #include "simlink/actions/ActionRecord.h"
 #include "toolkit/CheckBox.h"
@@ -30,12 +31,26 @@ HolderPlace<Value> FieldPlace(Field& field) {
             [&field](const Value& value) { field = static_cast<Field>(value); }};
 }
 
+// One of a holder that keeps it by the numbers of a panel's controls; `number` says which.
+template <class Value, class Holder, class Got, class Set>
+HolderPlace<Value> NumberedPlace(Holder& holder, Got (Holder::*get)(int32_t) const,
+                                 void (Holder::*set)(int32_t, Set),
+                                 const std::function<int32_t()>& number) {
+    return {[&holder, get, number] { return static_cast<Value>((holder.*get)(number())); },
+            [&holder, set, number](const Value& value) {
+                using Stored = std::remove_cvref_t<Set>;
+                (holder.*set)(number(), static_cast<Stored>(value));
+            }};
+}
+
 // A value that is shown as text. `take` gives false for a text that it can't take; the box then
-// shows what `otherwise` gives.
+// shows what `otherwise` gives. One that is `unfinished`, as the user has to go on writing to get
+// to a good one, stays until the box is left.
 struct TextPlace {
     std::function<std::string()> get;
     std::function<bool(const std::string&)> take;
     std::function<std::string()> otherwise;
+    std::function<bool(const std::string&)> unfinished{};
 };
 
 // The ties between the controls of a window and the places of a holder. A place changes only when

@@ -73,7 +73,7 @@ frmGeneralSetup::frmGeneralSetup(const WindowServices& services)
       labAttention{Label(&picMain[1]), Label(&picMain[1]), Label(&picMain[1])},
       cmdOk(this),
       cmdCancel(this),
-      pages_(tabMain, {{"General", picMain[0]}, {"Process Priority", picMain[1]}}) {
+      pages_(tabMain, {{"General", &picMain[0]}, {"Process Priority", &picMain[1]}}) {
     PlaceAll();
     UseButtons(cmdOk, cmdCancel);
     TieControls();

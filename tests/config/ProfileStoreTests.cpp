@@ -142,7 +142,8 @@ TEST_F(ProfileStoreTest, NamesThatLeadElsewhereAreNoProfiles) {
     for (const char* name : {"..\\x", "C:\\x", "\\..\\x", "Orvo"}) {
         store.CurrentProfile = name;
         EXPECT_EQ(store.ReadProfile("S"), IniEntries()) << name;
-        EXPECT_FALSE(store.SaveProfile("S", [](IniSection& keys) { return keys.Set("k", "2"); }));
+        EXPECT_FALSE(store.SaveProfile(store.CurrentProfile, "S",
+                                       [](IniSection& keys) { return keys.Set("k", "2"); }));
     }
     EXPECT_EQ(machine.files.Paths(), (Names{"c:\\orvo\\orvo.ini", "c:\\x.ini"}));
 }

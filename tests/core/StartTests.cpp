@@ -139,17 +139,17 @@ TEST_F(StartTest, SetupRequestReloadsTheBindingsAndReregisters) {
     Plug(PanelKind::Multi);
     ASSERT_TRUE(Start());
     bool modalDuring = false;
-    Window().SetupWindows[static_cast<size_t>(PanelKind::Multi)] = [&] {
+    ui.User = [&](Form& window) {
         modalDuring = program->Windows.ModalWindowOpen;
-        auto& logic = static_cast<cMultiPanelLogic&>(*Unit(1).logic);
-        logic.MPActions->CourseSel = 2;
+        Logic().MPActions->CourseSel = 2;
+        window.Unload();
     };
     const uint32_t shape = program->Session.OffsetTable.Shape();
     Window().tabMain.Choose(2), Multi().cmdSetup.Press();
     EXPECT_TRUE(modalDuring);
     EXPECT_FALSE(program->Windows.ModalWindowOpen);
     EXPECT_EQ(program->Windows.SetupPanelIndex, 1);
-    EXPECT_EQ(static_cast<cMultiPanelLogic&>(*Unit(1).logic).MPActions->CourseSel, 1);
+    EXPECT_EQ(Logic().MPActions->CourseSel, 1);
     EXPECT_NE(program->Session.OffsetTable.Shape(), shape);
 }
 

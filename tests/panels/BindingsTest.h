@@ -42,9 +42,9 @@ struct BindingsTest : testing::Test {
         for (const auto& action : actions) EXPECT_EQ(action.VButtonOrKeyQualifiers, n++);
     }
     std::string Saved(Holder& holder, const std::string& profile = "Default") {
-        profiles.CurrentProfile = profile;
+        holder.Profile = profile;
         EXPECT_TRUE(holder.SaveSetup());
-        profiles.CurrentProfile = "Default";
+        holder.Profile = "Default";
         return machine.files.Look("C:\\Orvo\\" + profile + ".ini").value_or("");
     }
     // All that the holder says, as a file of its own.

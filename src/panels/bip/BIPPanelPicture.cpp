@@ -19,13 +19,15 @@ using Tops = std::array<int32_t, kLines>;
 constexpr Tops kTops = {90, 270, 450};
 constexpr Tops kTopsOfTwo = {150, 270, 390};
 
-int32_t RowTop(size_t tile) { return static_cast<int32_t>(tile / kBIPColumns) * kRowHeight; }
-
 int32_t TileLeft(size_t tile) { return kLeft + static_cast<int32_t>(tile % kBIPColumns) * kPitch; }
 
 }  // namespace
 
-BIPPanelPicture::BIPPanelPicture(Picture& panel) : body_(panel, {}, {}) {
+int32_t BIPPanelPicture::RowTop(size_t tile) const {
+    return down_ + static_cast<int32_t>(tile / kBIPColumns) * kRowHeight;
+}
+
+BIPPanelPicture::BIPPanelPicture(Picture& panel, int32_t down) : body_(panel, {}, {}), down_(down) {
     for (size_t tile = 0; tile < kBIPTiles; ++tile) {
         Shape& face = shpTile.emplace_back(&panel);
         face.Kind = ShapeKind::RoundedRectangle;

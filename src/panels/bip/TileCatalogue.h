@@ -93,5 +93,11 @@ struct TileFunction {
 inline constexpr size_t kTileFunctions = 70;
 extern const std::array<TileFunction, kTileFunctions> TileFunctions;
 
+// Whether a number is that of a row that a tile can have.
+inline bool HasContent(int32_t function) {
+    return function > 0 && function < static_cast<int32_t>(kTileFunctions) &&
+           !TileFunctions[static_cast<size_t>(function)].Name.empty();
+}
+
 // The first row with exactly this key; 0 if there is none.
 int16_t FindTileFunction(std::string_view Key);

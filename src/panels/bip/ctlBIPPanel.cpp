@@ -9,8 +9,6 @@ constexpr uint8_t kFullBrightness = 100;
 
 bool IsTile(int16_t index) { return index >= 0 && index < kBIPTiles; }
 
-Color FaceOf(Color color) { return color == LampColor::kOff ? BIPPanelPicture::kTileOff : color; }
-
 }  // namespace
 
 ctlBIPPanel::ctlBIPPanel(Container& parent, const DeviceServices& services)
@@ -36,12 +34,8 @@ void ctlBIPPanel::SetBrightness(uint8_t level) {
     Services().hid.SetFeature(DeviceHandle(), std::span(report_).first<kBrightnessReportSize>());
 }
 
-bool ctlBIPPanel::Shows(size_t tile, Color color) const {
-    return OnScreen.shpTile[tile].FillColor == FaceOf(color);
-}
-
 void ctlBIPPanel::SetTile(size_t tile, Color color) {
-    OnScreen.shpTile[tile].FillColor = FaceOf(color);
+    OnScreen.SetFace(tile, color);
     const auto set = [&](size_t byte, bool lit) {
         const int bit = TileBit(tile);
         report_[byte] = static_cast<uint8_t>(lit ? report_[byte] | bit : report_[byte] & ~bit);
@@ -55,7 +49,7 @@ void ctlBIPPanel::SendTiles() { Services().hid.SetFeature(DeviceHandle(), report
 void ctlBIPPanel::TurnTile(int16_t Index, Color color) {
     if (!IsTile(Index)) return;
     const auto tile = static_cast<size_t>(Index);
-    if (Shows(tile, color)) return;
+    if (OnScreen.Shows(tile, color)) return;
     SetTile(tile, color);
     SendTiles();
 }
@@ -68,7 +62,7 @@ void ctlBIPPanel::TurnPanel(Color color) {
 void ctlBIPPanel::TurnAllTiles(std::span<const Color, kBIPTiles> Tiles) {
     bool changed = false;
     for (size_t tile = 0; tile < Tiles.size(); ++tile) {
-        if (Shows(tile, Tiles[tile])) continue;
+        if (OnScreen.Shows(tile, Tiles[tile])) continue;
         SetTile(tile, Tiles[tile]);
         changed = true;
     }

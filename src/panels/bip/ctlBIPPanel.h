@@ -37,7 +37,6 @@ class ctlBIPPanel final : public cPanelDevice {
   private:
     void Connected() override;
     void SetBrightness(uint8_t level);
-    bool Shows(size_t tile, Color color) const;
     void SetTile(size_t tile, Color color);
     void SendTiles();
 

@@ -14,8 +14,6 @@ struct RotaryKey {
 constexpr RotaryKey kRotaryKeys[] = {
     {"InnRotUp", 0, 1}, {"InnRotDown", 0, 0}, {"OutRotUp", 1, 1}, {"OutRotDown", 1, 0}};
 
-constexpr BindingTable::Range kStepRange = {0.01, 1000};
-
 }  // namespace
 
 cRadioPanelActionsHolder::cRadioPanelActionsHolder(ProfileStore& profiles)
@@ -38,6 +36,7 @@ BindingTable cRadioPanelActionsHolder::Keys() {
     keys.Add("AltimeterUnit", AltimeterUnit, 0);
     keys.Add("DMEMode", DMEMode, 0);
     keys.Add("ADFMode", ADFMode, 0);
+    constexpr BindingTable::Range kStepRange = {kLeastADFStep, kLargestADFStep};
     keys.Add("ADFInnStep", ADFInnerKnobStep, 0.1F, kStepRange);
     keys.Add("ADFOutStep", ADFOuterKnobStep, 1.0F, kStepRange);
     return keys;

@@ -21,7 +21,9 @@ class cRadioPanelActionsHolder final : public cKeyedActionsHolder {
     // At ADF: 0 DME1 and ADF1, 1 DME2 and ADF2, 2 ADF1 and ADF2, 3 ADF1 active and standby, 4 ADF2
     // active and standby, 5 ADF1 on the upper row and ADF2 on the lower.
     uint8_t ADFMode = 0;
-    float ADFInnerKnobStep = 0;  // kHz for each step of a ring at ADF, 0.01 to 1000
+    static constexpr float kLeastADFStep = 0.01F;
+    static constexpr float kLargestADFStep = 1000;
+    float ADFInnerKnobStep = 0;  // kHz for each step of a ring at ADF, within these
     float ADFOuterKnobStep = 0;
 
     // 1 to 100; the higher, the sooner a turn counts as a fast one.

@@ -3,6 +3,7 @@
 #include "base/Number.h"
 
 void cActionsHolder::LoadSetup() {
+    Profile = profiles_.CurrentProfile;
     const auto entries = profiles_.ReadProfile(Section());
     whole_ = entries.has_value();
     if (!entries) return;
@@ -10,9 +11,14 @@ void cActionsHolder::LoadSetup() {
     Take(*entries);
 }
 
+SaveResult cActionsHolder::ReadResult() const {
+    return whole_ ? SaveResult() : profiles_.Unread(Profile);
+}
+
 SaveResult cActionsHolder::SaveSetup() {
-    if (!whole_) return profiles_.Unread();
-    return profiles_.SaveProfile(Section(), [this](IniSection& keys) { return Write(keys); });
+    if (!whole_) return ReadResult();
+    return profiles_.SaveProfile(Profile, Section(),
+                                 [this](IniSection& keys) { return Write(keys); });
 }
 
 std::string cActionsHolder::Section() const { return panel_ + FormatInteger(Index); }

@@ -12,7 +12,8 @@ class cActionsHolder {
   public:
     virtual ~cActionsHolder() = default;
 
-    int16_t Index = 0;  // number of the panel, from 1; names the section
+    int16_t Index = 0;    // number of the panel, from 1; names the section
+    std::string Profile;  // whose file is saved: the one that was current at the last LoadSetup
 
     // Of an action only FSEvent is set; the other fields keep what they have.
     void LoadDefaults() { SetDefaults(); }
@@ -20,14 +21,16 @@ class cActionsHolder {
     // passed over. While the file can't be read, and without a profile in use, all stays as it is,
     // also when that is another profile's.
     void LoadSetup();
+    // Whether the last LoadSetup could read; if it couldn't, what is to be told of it.
+    SaveResult ReadResult() const;
     // Writes what differs from the defaults: all or nothing. Refused while the file can't be
-    // written, when the last LoadSetup couldn't read it, and without a profile in use.
+    // written, when the last LoadSetup couldn't read it, and without a profile.
     SaveResult SaveSetup();
 
   protected:
     // `panel` is the section's name without the number.
     cActionsHolder(ProfileStore& profiles, const char* panel)
-        : profiles_(profiles), panel_(panel) {}
+        : Profile(profiles.CurrentProfile), profiles_(profiles), panel_(panel) {}
     cActionsHolder(const cActionsHolder&) = default;
 
   private:

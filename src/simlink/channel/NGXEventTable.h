@@ -18,3 +18,30 @@ inline constexpr std::array<int32_t, 2 * kNGXRows> NGXEventTable = {
     0x6534, 0x653B, 0x653C, 0x6540, 0x653D, 0x653E, 0x653F, 0x6541, 0x6542, 0x6543, 0x6544, 0x6545,
     0x6546, 0x6547, 0x6548, 0x6537, 0,      0,      0,      0x6550, 0x6552, 0x6554,
 };
+
+// What the functions are called, by row.
+inline constexpr std::array<const char*, kNGXRows> NGXFunctionNames = {
+    "F/D 1",
+    "F/D 2",
+    "N1",
+    "SPEED",
+    "LNAV",
+    "VNAV",
+    "LVL CHG",
+    "HDG SEL",
+    "VOR LOC",
+    "APP",
+    "ALT HLD",
+    "V/S",
+    "CMD A",
+    "CWS A",
+    "CMD B",
+    "CWS B",
+    "AP Disengage Bar",
+    "SPD INTV",
+    "ALT INTV",
+    "C/O",
+    "A/P P/RST",
+    "A/T P/RST",
+    "FMC P/RST",
+};
