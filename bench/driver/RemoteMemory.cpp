@@ -13,7 +13,8 @@ DWORD ProcessOf(HWND window) {
 }  // namespace
 
 RemoteMemory::RemoteMemory(HWND window, size_t size)
-    : process_(OpenProcess(PROCESS_VM_OPERATION | PROCESS_VM_READ, FALSE, ProcessOf(window))) {
+    : process_(OpenProcess(PROCESS_VM_OPERATION | PROCESS_VM_READ | PROCESS_VM_WRITE, FALSE,
+                           ProcessOf(window))) {
     if (process_) {
         memory_ = VirtualAllocEx(process_, nullptr, size, MEM_COMMIT | MEM_RESERVE, PAGE_READWRITE);
     }
@@ -26,6 +27,10 @@ RemoteMemory::~RemoteMemory() {
 
 bool RemoteMemory::Read(void* to, size_t size) const {
     return memory_ && ReadProcessMemory(process_, memory_, to, size, nullptr);
+}
+
+bool RemoteMemory::Write(const void* from, size_t size) const {
+    return memory_ && WriteProcessMemory(process_, memory_, from, size, nullptr);
 }
 
 }  // namespace bench

@@ -17,6 +17,7 @@ class RemoteMemory {
     // As an lParam; 0 when there is none.
     LPARAM Address() const { return reinterpret_cast<LPARAM>(memory_); }
     bool Read(void* to, size_t size) const;
+    bool Write(const void* from, size_t size) const;
 
   private:
     HANDLE process_;

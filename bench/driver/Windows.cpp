@@ -2,6 +2,7 @@
 
 #include <commctrl.h>
 
+#include <cstddef>
 #include <utility>
 
 #include "bench/driver/RemoteMemory.h"
@@ -55,6 +56,21 @@ std::string ComboText(HWND combo, LRESULT index) {
     WideCharToMultiByte(kTextPage, 0, wide.c_str(), -1, text.data(), static_cast<int>(text.size()),
                         nullptr, nullptr);
     return text.c_str();
+}
+
+struct Gathering {
+    const char* className;
+    std::vector<HWND> found;
+};
+
+BOOL CALLBACK Gather(HWND window, LPARAM parameter) {
+    auto& gathering = *reinterpret_cast<Gathering*>(parameter);
+    char className[128] = "";
+    GetClassNameA(window, className, sizeof className);
+    if (lstrcmpiA(gathering.className, className) == 0 && IsWindowVisible(window)) {
+        gathering.found.push_back(window);
+    }
+    return TRUE;
 }
 
 BOOL CALLBACK LookForFront(HWND window, LPARAM parameter) {
@@ -145,6 +161,12 @@ HWND FindShownChild(HWND parent, const char* className, const std::optional<std:
     return search.found;
 }
 
+std::vector<HWND> ShownChildren(HWND parent, const char* className) {
+    Gathering gathering{className, {}};
+    if (parent) EnumChildWindows(parent, Gather, reinterpret_cast<LPARAM>(&gathering));
+    return gathering.found;
+}
+
 std::string TextOf(HWND window) {
     char text[1024] = "";
     Send(window, WM_GETTEXT, sizeof text, reinterpret_cast<LPARAM>(text));
@@ -200,10 +222,16 @@ bool MoveSlider(HWND slider, int value) {
 }
 
 void TypeInto(HWND edit, const std::string& text) {
+    ClickAt(edit, 3, 3);
     Send(edit, EM_SETSEL, 0, -1);
     for (const char character : text) {
         PostMessageA(edit, WM_CHAR, static_cast<unsigned char>(character), 0);
     }
+}
+
+void ClickAt(HWND window, int x, int y) {
+    Send(window, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(x, y));
+    Send(window, WM_LBUTTONUP, 0, MAKELPARAM(x, y));
 }
 
 bool DragWindow(HWND window, int right, int down, uint32_t milliseconds) {
@@ -228,6 +256,28 @@ bool DragWindow(HWND window, int right, int down, uint32_t milliseconds) {
         return GetWindowRect(window, &now) && now.left == before.left + right &&
                now.top == before.top + down;
     });
+}
+
+std::vector<std::string> TabTexts(HWND tabs) {
+    struct {
+        TCITEMA item{};
+        char text[128] = "";
+    } tab;
+    std::vector<std::string> texts;
+    const RemoteMemory memory(tabs, sizeof tab);
+    const LRESULT count = Send(tabs, TCM_GETITEMCOUNT);
+    for (LRESULT i = 0; i < count && memory.Address() != 0; ++i) {
+        tab = {};
+        tab.item.mask = TCIF_TEXT;
+        tab.item.pszText =
+            reinterpret_cast<char*>(memory.Address()) + offsetof(decltype(tab), text);
+        tab.item.cchTextMax = sizeof tab.text - 1;
+        memory.Write(&tab, sizeof tab);
+        Send(tabs, TCM_GETITEMA, static_cast<WPARAM>(i), memory.Address());
+        memory.Read(&tab, sizeof tab);
+        texts.emplace_back(tab.text);
+    }
+    return texts;
 }
 
 bool ClickTab(HWND tabs, int index) {

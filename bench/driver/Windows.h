@@ -23,6 +23,9 @@ HWND FindChild(HWND parent, const char* className, const std::optional<std::stri
 // The same, of those that are to be seen.
 HWND FindShownChild(HWND parent, const char* className, const std::optional<std::string>& text);
 
+// All of them.
+std::vector<HWND> ShownChildren(HWND parent, const char* className);
+
 std::string TextOf(HWND window);
 
 // Texts of the parts of a status bar.
@@ -45,9 +48,11 @@ int SliderValue(HWND slider);
 // Moves the handle by the arrow keys, step by step. False when none of the steps ends there.
 bool MoveSlider(HWND slider, int value);
 
-// Types over what an edit field holds. Returns before all of it is taken.
+// Clicks into an edit field and types over what it holds. Returns before all of it is taken.
 void TypeInto(HWND edit, const std::string& text);
 
+// Captions of the tabs.
+std::vector<std::string> TabTexts(HWND tabs);
 // Clicks a tab, from 0. False when it isn't the selected one after that.
 bool ClickTab(HWND tabs, int index);
 
@@ -57,6 +62,9 @@ std::string ComboSelection(HWND combo);
 // Chooses an entry, from 0, as the user does. False when there is no such entry. Returns before
 // what it starts is over.
 bool ChooseInCombo(HWND combo, int index);
+
+// Clicks a point of a window, in pixels from its upper left corner.
+void ClickAt(HWND window, int x, int y);
 
 // The mouse takes a window by its caption and drags it about for so long, and at the end by that
 // many pixels from where it stood. False when it doesn't stand there then.

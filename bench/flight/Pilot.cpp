@@ -1,8 +1,8 @@
 #include "bench/flight/Pilot.h"
 
 #include <algorithm>
+#include <cctype>
 #include <cstdlib>
-#include <iterator>
 #include <optional>
 #include <sstream>
 
@@ -18,7 +18,7 @@ constexpr uint32_t kWindowTimeMs = 10000;
 // A hand takes as long to turn back. Sooner, the panel's reports still count for the old direction.
 constexpr DWORD kHandPauseMs = 300;
 constexpr char kSlider[] = "msctls_trackbar32";
-constexpr const char* kTabs[] = {"General", "Radio", "", "Multi", "", "Switch", "", "BIP"};
+constexpr char kTabStrip[] = "SysTabControl32";
 
 constexpr struct {
     const char* who;
@@ -38,21 +38,35 @@ HWND PageButton(const Cockpit& cockpit) {
     return quit ? quit : FindShownChild(window, "Button", "Setup");
 }
 
-// Inside the frame of the Multi Panel's upper display, in pixels of its picture.
-RECT UpperDisplay() {
-    constexpr int kUsualDpi = 96;
+int Pixels(int twips) {
     const HDC screen = GetDC(nullptr);
     const int dpi = GetDeviceCaps(screen, LOGPIXELSY);
     ReleaseDC(nullptr, screen);
-    const auto scaled = [dpi](int pixels) { return MulDiv(pixels, dpi, kUsualDpi); };
-    return {scaled(204), scaled(20), scaled(376), scaled(64)};
+    return MulDiv(twips, dpi, 1440);
 }
 
-bool OpenTab(const Cockpit& cockpit, const std::string& name) {
-    const auto tab = std::ranges::find(kTabs, name) - std::begin(kTabs);
-    const HWND tabs = FindChild(cockpit.MainWindow(), "SysTabControl32", std::nullopt);
+// Inside the frame of the Multi Panel's upper display, in pixels of its picture.
+RECT UpperDisplay() { return {Pixels(3060), Pixels(300), Pixels(5640), Pixels(960)}; }
+
+// A strip that is seen and has the tab, and the tab's number in it.
+struct Tab {
+    HWND strip = nullptr;
+    int number = 0;
+};
+
+Tab FindTab(HWND window, const std::string& caption) {
+    for (const HWND strip : ShownChildren(window, kTabStrip)) {
+        const auto captions = TabTexts(strip);
+        const auto tab = std::ranges::find(captions, caption);
+        if (tab != captions.end()) return {strip, static_cast<int>(tab - captions.begin())};
+    }
+    return {};
+}
+
+bool OpenTab(const Cockpit& cockpit, const std::string& caption) {
+    const Tab tab = FindTab(cockpit.MainWindow(), caption);
     const HWND before = PageButton(cockpit);
-    return tabs && ClickTab(tabs, static_cast<int>(tab)) && Until(kWindowTimeMs, [&] {
+    return tab.strip && ClickTab(tab.strip, tab.number) && Until(kWindowTimeMs, [&] {
                const HWND button = PageButton(cockpit);
                return button && button != before;
            });
@@ -93,23 +107,82 @@ std::string WindowTitle(const Cockpit& cockpit) {
     return title.substr(std::min(title.size(), title.find_first_not_of(' ')));
 }
 
-// It may be that the window is still to come.
+// What a button starts may go on; the mark of a box or an option is there.
+bool Press(HWND button) {
+    switch (GetWindowLongA(button, GWL_STYLE) & BS_TYPEMASK) {
+        case BS_CHECKBOX:
+        case BS_AUTOCHECKBOX:
+            return Tick(button);
+        case BS_RADIOBUTTON:
+        case BS_AUTORADIOBUTTON:
+            return ChooseOption(button);
+        default:
+            PressButton(button);
+            return true;
+    }
+}
+
+bool ChooseInList(HWND list, const std::string& entry) {
+    const auto entries = ComboTexts(list);
+    const auto found = std::ranges::find(entries, entry);
+    return found != entries.end() && ChooseInCombo(list, static_cast<int>(found - entries.begin()));
+}
+
+void ClickTile(HWND picture, int tile) {
+    constexpr int kColumns = 8;
+    ClickAt(picture, Pixels(780 + tile % kColumns * 1335), Pixels(600 + tile / kColumns * 720));
+}
+
+// It may be that the window is still to come, or what is to be worked in it.
 bool WorkWindow(const Cockpit& cockpit, const std::string& act) {
-    const std::string verb = act.substr(0, act.find(' '));
-    const std::string argument = act.substr(std::min(act.size(), verb.size() + 1));
+    const size_t colon = act.find(": ");
+    const std::string frame = colon == std::string::npos ? "" : act.substr(0, colon);
+    const std::string order = frame.empty() ? act : act.substr(colon + 2);
+    const std::string verb = order.substr(0, order.find(' '));
+    const std::string argument = order.substr(std::min(order.size(), verb.size() + 1));
+    const int number = std::atoi(argument.c_str());
+    const auto place = [&] {
+        const HWND window = cockpit.FrontWindow();
+        return frame.empty() ? window : FindShownChild(window, "Button", frame);
+    };
     HWND control = nullptr;
     const auto comes = [&](const char* kind, const std::optional<std::string>& text = {}) {
         return Until(kWindowTimeMs, [&] {
-            return (control = FindShownChild(cockpit.FrontWindow(), kind, text)) != nullptr;
+            const HWND parent = place();
+            return parent && (control = FindShownChild(parent, kind, text)) != nullptr;
         });
     };
-    if (verb == "press" && comes("Button", argument)) {
-        PressButton(control);
-        return true;
+    if (verb == "tab") {
+        Tab tab;
+        return Until(kWindowTimeMs,
+                     [&] { return (tab = FindTab(place(), argument)).strip != nullptr; }) &&
+               ClickTab(tab.strip, tab.number);
     }
-    const int number = std::atoi(argument.c_str());
+    if (verb == "list") {
+        return Until(kWindowTimeMs, [&] {
+            const auto lists = ShownChildren(place(), "ComboBox");
+            return number > 0 && lists.size() >= static_cast<size_t>(number) &&
+                   ChooseInList(lists[number - 1], argument.substr(argument.find(' ') + 1));
+        });
+    }
     if (verb == "slider") return comes(kSlider) && MoveSlider(control, number);
-    return verb == "tab" && comes("SysTabControl32") && ClickTab(control, number - 1);
+    if (verb == "press") return comes("Button", argument) && Press(control);
+    if (verb == "type" && comes("Edit")) {
+        TypeInto(control, argument);
+        return Until(kWindowTimeMs, [&] { return TextOf(control) == argument; });
+    }
+    if (verb != "tile" || !comes("OrvoPicture")) return false;
+    ClickTile(control, number);
+    return true;
+}
+
+// "01-bip" and "Misc" give "01-bip-misc".
+std::string PictureName(std::string name, const std::string& caption) {
+    name += '-';
+    for (const unsigned char character : caption) {
+        name += static_cast<char>(std::isalnum(character) ? std::tolower(character) : '-');
+    }
+    return name;
 }
 
 std::string AircraftList(const Cockpit& cockpit) {
@@ -178,18 +251,36 @@ std::string Pilot::Do(const std::string& who, const std::string& act) {
     if (who == "panels") return cockpit_.Panels(act);
     if (who == "orvo") return told(act == "quit" && cockpit_.QuitByUser());
     if (who == "tab") return told(OpenTab(cockpit_, act));
+    if (who == "window" && act.starts_with("tour ")) return told(Tour(act.substr(5)));
     if (who == "window") return told(WorkWindow(cockpit_, act));
     if (act == "double click") return told(DoubleClickTrayIcon());
     if (act == "remember") return told((pictures_[who] = TakePicture(cockpit_, who)) != 0);
     if (who == "screen") {
-        AtRest([this] { return PictureOf(cockpit_.FrontWindow()); });
-        log_.Shot(act);
+        Shoot(act);
         return told(true);
     }
     const size_t name = std::min(act.size(), act.find(' '));
     const std::string answer = cockpit_.Panels(act.substr(0, name) + ' ' + who + act.substr(name));
     ::Sleep(kHandPauseMs);
     return answer;
+}
+
+void Pilot::Shoot(const std::string& name) const {
+    AtRest([this] { return PictureOf(cockpit_.FrontWindow()); });
+    log_.Shot(name);
+}
+
+bool Pilot::Tour(const std::string& tour) const {
+    const size_t blank = std::min(tour.size(), tour.find(' '));
+    const std::string first = tour.substr(std::min(tour.size(), blank + 1));
+    if (!WorkWindow(cockpit_, "tab " + first)) return false;
+    const Tab tab = FindTab(cockpit_.FrontWindow(), first);
+    const auto captions = TabTexts(tab.strip);
+    for (size_t i = static_cast<size_t>(tab.number); i < captions.size(); ++i) {
+        if (!ClickTab(tab.strip, static_cast<int>(i))) return false;
+        Shoot(PictureName(tour.substr(0, blank), captions[i]));
+    }
+    return true;
 }
 
 std::string Pilot::See(const std::string& who) {

@@ -18,9 +18,11 @@ namespace bench {
 //   orvo                "start", "quit"; shows "window hidden", "window open", "ended with CODE"
 //   icon, display       "double click", "remember"; show "as remembered" or "changed"
 //   tab, screen         the tab to open, the name of a screenshot
-//   window              in the one on top "press BUTTON", "slider VALUE", "tab NUMBER" from 1;
-//   shows
-//                       the title of the one on top
+//   window              in the one on top "press BUTTON", also a box or an option, "slider VALUE",
+//                       "tab CAPTION", "type TEXT", "list NUMBER ENTRY", "tile NUMBER" of a BIP
+//                       Panel, from 0; the first that is seen, behind "FRAME: " the first in the
+//                       frame; "tour NAME CAPTION" for screenshots of the tab and those behind
+//                       it; shows the title
 //   status, profile, aircraft   the status bar, the one in use, the list of those that are bound
 //   --                  a headline of the log
 struct Step {
@@ -48,6 +50,8 @@ class Pilot {
                  const std::function<std::string()>& look) const;
     std::string Do(const std::string& who, const std::string& act);
     std::string See(const std::string& who);
+    void Shoot(const std::string& name) const;
+    bool Tour(const std::string& tour) const;
 
     Cockpit& cockpit_;
     const FlightLog log_;

@@ -49,6 +49,9 @@ constexpr char kGearDark[] = "gear nose off left off right off";
 constexpr char kWarnings[] =
     "tiles 0 red 2 yellow 3 red 4 yellow 5 yellow 6 yellow 7 green 8 yellow 11 yellow 12 red "
     "13 yellow 14 green 15 green 16 yellow 19 yellow 20 green 21 green 22 green 23 green";
+constexpr char kWarningsSetUp[] =
+    "tiles 0 yellow 1 red 2 yellow 3 red 4 yellow 5 yellow 6 yellow 7 green 8 yellow 11 yellow "
+    "12 red 13 yellow 14 green 15 green 16 yellow 19 yellow 20 green 21 green 22 green 23 green";
 constexpr char kConnected[] =
     "FSUIPC Status: Connected | FSUIPC Version: 3.9990 | Flight Simulator Version: FSX | "
     "Aircraft in use: Bench Trainer";
@@ -76,7 +79,7 @@ const std::vector<Step> kFlight = {
     {"--", "in the General Options a long click is made longer: then 800 ms are a short one"},
     {"window", "press Setup", "ORVO - General Options"},
     {"screen", "02-general-options"},
-    {"window", "slider 1500; tab 2"},
+    {"window", "slider 1500; tab Process Priority"},
     {"screen", "03-process-priority"},
     {"window", "press OK", kMainTitle},
     {"multi1", "press HDG 800; press HDG 800", R"(upper "05000" lower "    0" lights none)",
@@ -84,7 +87,7 @@ const std::vector<Step> kFlight = {
     {"window", "press Setup; slider 500; press OK", kMainTitle},
 
     {"--", "values are read and turned on two Multi Panels"},
-    {"tab", "Multi"},
+    {"tab", "Multi Panel 1"},
     {"multi1", "selector HDG", R"(upper "  080" lower "     " lights none)"},
     {"screen", "04-heading-080"},
     {"display", "remember"},
@@ -101,7 +104,7 @@ const std::vector<Step> kFlight = {
     {"display", "", "changed"},
 
     {"--", "COM1 and NAV1 are tuned and swapped on one Radio Panel; the other shows it too"},
-    {"tab", "Radio"},
+    {"tab", "Radio Panel 1"},
     {"radio1", "lower NAV1", R"(upper "118.10" "119.52" lower "110.50" "112.30")"},
     {"radio1", "upper-inner +1 60; upper-outer -1 60; press upper",
      R"(upper "118.55" "118.10" lower "110.50" "112.30")", "311A:5519 311A:5518 3123:08"},
@@ -122,7 +125,7 @@ const std::vector<Step> kFlight = {
     {"radio2", "upper COM1", kRadiosTuned},
 
     {"--", "the first switch that is thrown is told as all of them: avionics go off"},
-    {"tab", "Switch"},
+    {"tab", "Switch Panel 1"},
     {"switch1", "bat on", kGearDown},
     {"multi1 multi2", "", kMultiDark},
     {"radio1 radio2", "", kRadioDark},
@@ -152,7 +155,7 @@ const std::vector<Step> kFlight = {
     {"switch1 switch2", "", kGearDown},
 
     {"--", "engine 2 is on fire, a door is open, and most else is wrong"},
-    {"tab", "BIP"},
+    {"tab", "BIP Panel 1"},
     {"simulator", "set 0x3366 1 2; set 0x3367 1 4; set 0x08F8 4 500; set 0x08BA 2 5999"},
     {"simulator", "set 0x1264 4 8999; set 0x0B7C 4 838860; set 0x0B94 4 0x600000; set 0x341F 1 1"},
     {"simulator", "set 0x036C 1 1; set 0x0B1C 4 0x40000000; set 0x3122 1 0x10; set 0x0BAC 2 1"},
@@ -160,6 +163,34 @@ const std::vector<Step> kFlight = {
     {"bip1", "", kWarnings},
     {"bip2", "", "tiles 0 green 3 green 7 yellow"},
     {"screen", "09-bip-warnings"},
+
+    {"--", "each panel is set up in its own window; what is changed there counts from OK on"},
+    {"tab", "Multi Panel 1"},
+    {"window", "press Setup", "ORVO - Multi Panel Configuration"},
+    {"window", "tour 10-multi-setup Mode Selector; press PMDG NGX"},
+    {"screen", "10-multi-setup-ngx"},
+    {"window", "tab Buttons; tab REV; Short Click: press FSUIPC Virtual Button"},
+    {"window", "Short Click: list 2 6; press OK", kMainTitle},
+    {"multi1", "press REV", "", "3340:40000000 3340:00000000"},
+    {"tab", "Radio Panel 1"},
+    {"window", "press Setup", "ORVO - Radio Panel Configuration"},
+    {"window", "tour 11-radio-setup Inner Knob; tour 11-radio-setup ADF; press Fixed inHg"},
+    {"window", "tab ADF; type 5; press OK", kMainTitle},
+    {"radio1", "upper XPDR", R"(upper " 29.97" " 2.200" lower "118.55" "118.10")"},
+    {"radio1", "lower ADF; lower-inner +1 60",
+     R"(upper " 29.97" " 2.200" lower "0347.3" "0350.3")"},
+    {"radio1", "upper COM1; lower COM1", kRadiosTuned},
+    {"tab", "Switch Panel 1"},
+    {"window", "press Setup", "ORVO - Switch Panel Configuration"},
+    {"window", "tour 12-switch-setup Switches; tab Switches; tab De-Ice"},
+    {"window", "Event when switched ON: press FSUIPC Virtual Button"},
+    {"window", "Event when switched ON: list 2 7; press OK", kMainTitle},
+    {"switch1", "deice on", "", "3340:80000000 3340:00000000"},
+    {"tab", "BIP Panel 1"},
+    {"window", "press Setup", "ORVO - BIP Panel Configuration"},
+    {"window", "tour 13-bip-setup Engines"},
+    {"window", "tile 0; press Yellow; tile 1; press RIGHT ENGINE FIRE; press OK", kMainTitle},
+    {"bip1", "", kWarningsSetUp},
 
     {"--", "an aircraft with the NGX profile is loaded; knobs and switches click its controls"},
     {"simulator", "set 0x6520 2 214; set 0x6524 4 0x3F47AE14; set 0x652C 2 247"},
@@ -187,7 +218,7 @@ const std::vector<Step> kFlight = {
      "tiles 0 yellow 1 red 3 yellow 4 yellow 5 green 8 red 9 red 10 red "
      "16 green 17 green 18 green 23 green"},
     {"bip2", "", "tiles 23 red"},
-    {"screen", "10-bip-ngx"},
+    {"screen", "14-bip-ngx"},
 
     {"--", "an aircraft with the Maddog profile is loaded"},
     {"simulator", "title \"Bench Jet\""},
@@ -205,9 +236,9 @@ const std::vector<Step> kFlight = {
     {"profile", "", "Default"},
     {"multi1", "", R"(upper "  083" lower "     " lights HDG)"},
     {"aircraft", "", "[Aircrafts] Bench Airliner=Airliner Bench Jet=Jet Bench Trainer=Default "},
-    {"bip1", "", kWarnings},
-    {"tab", "Multi"},
-    {"screen", "11-back-to-default"},
+    {"bip1", "", kWarningsSetUp},
+    {"tab", "Multi Panel 1"},
+    {"screen", "15-back-to-default"},
 
     {"--", "the simulator is killed; the BIP Panels alone keep what they show"},
     {"simulator", "kill"},
@@ -215,8 +246,8 @@ const std::vector<Step> kFlight = {
     {"radio1 radio2", "", kRadioDark},
     {"multi1 multi2", "", kMultiDark},
     {"switch1 switch2", "", kGearDark},
-    {"bip1", "", kWarnings},
-    {"screen", "12-disconnected"},
+    {"bip1", "", kWarningsSetUp},
+    {"screen", "16-disconnected"},
     {"icon", "", "changed"},
     {"--", "the simulator is started again; the gear lights come with their next change"},
     {"simulator", "start"},
@@ -225,7 +256,7 @@ const std::vector<Step> kFlight = {
     {"radio1 radio2", "", kRadiosAtStart},
     {"bip1", "", "tiles 10 red 23 green"},
     {"bip2", "", "tiles 0 green 3 green"},
-    {"screen", "13-connected-again"},
+    {"screen", "17-connected-again"},
     {"icon display", "", "as remembered"},
     {"switch1 switch2", "", kGearDark},
     {"switch2", "gear up", kGearMoves},
@@ -233,7 +264,7 @@ const std::vector<Step> kFlight = {
 
     {"--", "the user quits"},
     {"tab", "General"},
-    {"screen", "14-general"},
+    {"screen", "18-general"},
     {"orvo", "quit", "ended with 0"},
     {"radio1 radio2", "", kRadioDark},
     {"multi1 multi2", "", kMultiDark},

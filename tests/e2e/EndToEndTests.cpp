@@ -352,6 +352,54 @@ TEST_F(EndToEnd, UnderTheGeneralOptionsPanelsLiveAndTheMainWindowRests) {
     ExpectQuits();
 }
 
+TEST_F(EndToEnd, PanelsAreSetUpByOkAndLeftAloneByCancel) {
+    const struct {
+        std::string panel, changes, before, after;
+    } windows[] = {
+        {"Multi",
+         "tab Flaps; UP: press No Event; press Reverse Flaps; tab Rotary Knob; tab CRS; slider 5; "
+         "press Crs2; tab Buttons; tab VS; Long Click: press FSUIPC Virtual Button; tab REV; "
+         "tab Special Modes; press PMDG NGX; list 3 F/D 1",
+         "",
+         "[MultiPanel1]\r\nLongButtonActionVS=VButton,64,1\r\nFlapsActionUP=None\r\n"
+         "RotaryAccelerationCRS=5\r\nNGXHDGShort=0\r\nCourseSel=2\r\nReverseFlaps=1\r\n"},
+        {"Radio",
+         "tab NAV2; tab Outer Knob; Counter Clockwise: press No Event; slider 3; tab DME; "
+         "press DME1 Dist-DME2 Dist.; tab ADF; press ADF2 Active/Standby; type 0.5",
+         "",
+         "[RadioPanel1]\r\nOutRotDownNAV2=None\r\nRotAccelerationNAV2=3\r\nDMEMode=1\r\n"
+         "ADFMode=4\r\nADFInnStep=0.5\r\n"},
+        {"Switch",
+         "tab Gear Up; Event when switched ON: press No Event; tab Gear Warning; "
+         "press Aircraft has retractable gear; tab Engine Selection Mode; press Cowl flaps",
+         "", "[SwitchPanel1]\r\nSwitchGEARUPOn=None\r\nRetractableGear=0\r\nSingleCowlFlaps=1\r\n"},
+        {"BIP",
+         "tile 23; tab Fuel; press LEFT FUEL LOW; press Green; slider 20; tile 1; "
+         "press Clear Current Tile",
+         "[BIPPanel1]\r\nT0=GEAR_UP,Yellow\r\nT1=GEAR_DOWN,Green\r\n",
+         "[BIPPanel1]\r\nT0=GEAR_UP,Yellow\r\nT23=LEFT_FUEL_LOW,Green,20\r\n"},
+    };
+    StartConnected({"multi1", "radio1", "switch1", "bip1"});
+    DoubleClickTrayIcon();
+    ASSERT_TRUE(Fly({{"orvo", "", "window open"}}));
+    for (const auto& [panel, changes, before, after] : windows) {
+        SCOPED_TRACE(panel);
+        const std::string others = "[Other]\r\nKey=1\r\n";
+        const std::string title = "ORVO - " + panel + " Panel Configuration";
+        cockpit_->WriteFile("Default.ini", others + before);
+        ASSERT_TRUE(Fly({{"tab", panel + " Panel 1"},
+                         {"window", "press Setup", title},
+                         {"window", changes},
+                         {"window", "press Cancel", "ORVO    v0.5.1"}}));
+        EXPECT_EQ(cockpit_->ReadFile("Default.ini"), others + before);
+        ASSERT_TRUE(Fly({{"window", "press Setup", title},
+                         {"window", changes},
+                         {"window", "press OK", "ORVO    v0.5.1"}}));
+        EXPECT_EQ(cockpit_->ReadFile("Default.ini"), others + after);
+    }
+    ExpectQuits();
+}
+
 TEST_F(EndToEnd, ASilentServerEndsTheSession) {
     StartConnected();
     cockpit_->Simulator("silent");
