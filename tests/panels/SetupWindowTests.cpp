@@ -289,6 +289,10 @@ TEST_F(SetupWindowTest, WindowIsThatOfItsPanelAndAllMultiPanelsStartAnew) {
         2);
     EXPECT_NE(Profile().find("[MultiPanel2]\r\nReverseFlaps=1"), std::string::npos) << Profile();
     EXPECT_EQ(Logic(1).MPActions->CourseSel, 2);
+    machine.files.Hold(kProfileFile);
+    Logic(1).StartUp();
+    EXPECT_EQ(Logic(1).MPActions->CourseSel, 2) << "while the file can't be read";
+    machine.files.Hold("");
     BIP(1).TurnPanel(LampColor::kRed), BIP(2).TurnPanel(LampColor::kRed);
     In<frmBIPPanelSetup>(
         PanelKind::BIP,

@@ -52,7 +52,8 @@ cMultiPanelLogic::cMultiPanelLogic(const LogicServices& services, ctlMultiPanel&
       values_(session_, offsets_) {}
 
 void cMultiPanelLogic::StartUp() {
-    MPActions = std::make_unique<cMultiPanelActionsHolder>(profiles_);
+    // Started anew while the file can't be read, it keeps the actions that it has.
+    if (!MPActions) MPActions = std::make_unique<cMultiPanelActionsHolder>(profiles_);
     MPActions->Index = Index;
     MPActions->LoadSetup();
     forceWrite_ = false;
