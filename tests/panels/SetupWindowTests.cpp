@@ -74,6 +74,12 @@ TEST_F(SetupWindowTest, MultiPanelSavesWhatWasChangedOnEveryTabAndWorksByItAtOnc
         EXPECT_TRUE(!window.frameMaddog.Visible && window.frameNGX.Visible);
         EXPECT_EQ(window.frameNGX.cmbREVlong.Text(), "F/D 2");
         window.frameNGX.cmbAPshort.Choose(22);
+        Multi().SelectorChange.Raise(0x010000, 0);  // ALT
+        Tick();
+        const std::string shown = Shown();
+        machine.server.Set<int32_t>(0x07D4, 1000 << 16);
+        Tick();
+        EXPECT_NE(Shown(), shown) << "the panel lives meanwhile";
         window.cmdOk.Press();
         EXPECT_TRUE(window.IsUnloaded());
     });
