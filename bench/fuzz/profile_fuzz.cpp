@@ -4,6 +4,7 @@
 #include <string>
 
 #include "config/IniKey.h"
+#include "config/ProfileName.h"
 #include "panels/bip/cBIPPanelActionHolder.h"
 #include "panels/multi/cMultiPanelActionsHolder.h"
 #include "panels/radio/cRadioPanelActionsHolder.h"
@@ -49,7 +50,7 @@ void CheckLists(const std::string& text) {
         const std::string profile = profiles.ProfileOfAircraft(title);
         Require(again.AircraftKnown(title));
         // What is no name of a profile may have quotes, which the service takes off.
-        if (ProfileStore::ProfileNameValid(profile)) {
+        if (ProfileNameValid(profile)) {
             Require(again.ProfileOfAircraft(title) == profile);
         }
     }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <unordered_map>
+#include <unordered_set>
 
 #include "base/Text.h"
 
@@ -66,6 +67,18 @@ IniEntries IniText::Entries(std::string_view section) const {
         if (line.kind != Kind::Key) continue;
         const auto first = values.try_emplace(ToLower(line.name), WithoutQuotes(line.value)).first;
         entries.emplace_back(line.name, first->second);
+    }
+    return entries;
+}
+
+IniEntries IniText::Written(std::string_view section) const {
+    IniEntries entries;
+    std::unordered_set<std::string> names;
+    const auto [begin, end] = Range(section);
+    for (size_t i = begin; i < end; ++i) {
+        const Line& line = lines_[i];
+        if (line.kind != Kind::Key || !names.insert(ToLower(line.name)).second) continue;
+        entries.emplace_back(line.name, line.value);
     }
     return entries;
 }

@@ -8,6 +8,8 @@
 
 // Keys of a section and their values.
 using IniEntries = std::vector<std::pair<std::string, std::string>>;
+// Whole sections by name.
+using IniSections = std::vector<std::pair<std::string, IniEntries>>;
 
 // The text of a private profile file, as the platform's service reads and changes it. Names compare
 // without regard to case and to blanks around them; where a name comes twice the first one counts.
@@ -26,6 +28,8 @@ class IniText {
     std::vector<std::string> Sections() const;
     // The keys with their values; one that comes twice has the first value both times.
     IniEntries Entries(std::string_view section) const;
+    // The keys, each once, with their values as the file has them, quotes included.
+    IniEntries Written(std::string_view section) const;
 
     // Each gives whether it changed anything.
     bool Set(std::string_view section, std::string_view key, std::string_view value);

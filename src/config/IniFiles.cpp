@@ -23,11 +23,13 @@ IniText TextOf(const std::string& bytes) {
 
 // Only what differs is touched: a key with characters that 8-bit text hasn't can't be written
 // again. A deleted key takes its other spellings along.
-bool WriteDifferences(IniSection& keys, const IniEntries& before, const IniEntries& after) {
-    const std::map<std::string, std::string> old(before.begin(), before.end());
+bool WriteDifferences(IniSection& keys, const IniText& before, const std::string& section,
+                      const IniEntries& after) {
+    const IniEntries written = before.Written(section);
+    const std::map<std::string, std::string> old(written.begin(), written.end());
     const std::map<std::string, std::string> now(after.begin(), after.end());
     std::set<std::string> deleted;
-    for (const auto& [key, value] : before) {
+    for (const std::string& key : before.Keys(section)) {
         if (now.contains(key)) continue;
         if (!keys.Delete(key)) return false;
         deleted.insert(ToLower(key));
@@ -70,26 +72,33 @@ bool IniFiles::Save(const std::string& path, const std::string& section,
                     const std::function<bool(IniSection&)>& write) const {
     const auto bytes = Bytes(path);
     return bytes && ByCopy(path, *bytes, [&](const std::string& copy) {
-               cInifile ini(service_);
-               ini.Path = copy;
-               ini.Section = section;
-               IniSection keys(ini, TextOf(*bytes).Keys(section));
+               IniSection keys = SectionOf(copy, section, TextOf(*bytes));
                return write(keys);
            });
 }
 
-bool IniFiles::SaveSection(const std::string& path, const std::string& section,
-                           const IniEntries& entries) const {
+bool IniFiles::SaveSections(const std::string& path, const IniSections& sections) const {
     const auto bytes = Bytes(path);
     if (!bytes) return false;
     IniText text = TextOf(*bytes);
     if (IsUtf16(*bytes)) {
-        const IniEntries before = text.Entries(section);
-        return Save(path, section,
-                    [&](IniSection& keys) { return WriteDifferences(keys, before, entries); });
+        return ByCopy(path, *bytes, [&](const std::string& copy) {
+            return std::ranges::all_of(sections, [&](const auto& section) {
+                IniSection keys = SectionOf(copy, section.first, text);
+                return WriteDifferences(keys, text, section.first, section.second);
+            });
+        });
     }
-    text.ReplaceSection(section, entries);
+    for (const auto& [section, entries] : sections) text.ReplaceSection(section, entries);
     return ByCopy(path, text.Text(), [](const std::string&) { return true; });
+}
+
+IniSection IniFiles::SectionOf(const std::string& copy, const std::string& section,
+                               const IniText& before) const {
+    cInifile ini(service_);
+    ini.Path = copy;
+    ini.Section = section;
+    return {ini, before.Keys(section)};
 }
 
 // The mark that some editors put before 8-bit text would hide the first section from the service.

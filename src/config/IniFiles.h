@@ -52,11 +52,10 @@ class IniFiles {
     [[nodiscard]] bool Save(const std::string& path, const std::string& section,
                             const std::function<bool(IniSection&)>& write) const;
 
-    // Puts these keys in the place of the whole section, in one pass, all or nothing. The section
-    // moves to the end of the file. In a file of 16-bit text it keeps its place, and its keys their
-    // order.
-    [[nodiscard]] bool SaveSection(const std::string& path, const std::string& section,
-                                   const IniEntries& entries) const;
+    // Puts these keys in the place of the whole section of each name, in one pass, all or nothing.
+    // The sections move to the end of the file. In a file of 16-bit text they keep their places,
+    // and their keys the order.
+    [[nodiscard]] bool SaveSections(const std::string& path, const IniSections& sections) const;
 
     // What a save of the file that has gone so is to tell the user.
     SaveResult Result(bool saved, const std::string& path) const {
@@ -65,6 +64,8 @@ class IniFiles {
 
   private:
     std::optional<std::string> Bytes(const std::string& path) const;
+    IniSection SectionOf(const std::string& copy, const std::string& section,
+                         const IniText& before) const;
     // The file gets `bytes`, changed by `write`, which is given the path of the copy.
     bool ByCopy(const std::string& path, const std::string& bytes,
                 const std::function<bool(const std::string&)>& write) const;

@@ -5,7 +5,7 @@
 
 #include "base/Text.h"
 #include "config/IniKey.h"
-#include "platform/Patience.h"
+#include "config/ProfileName.h"
 
 namespace {
 
@@ -13,27 +13,13 @@ constexpr const char* kProfiles = "Profiles";
 constexpr const char* kNoValue = " ";  // a profile's key says all
 constexpr const char* kAircrafts = "Aircrafts";
 
-constexpr const char* kGlobalFile = "Orvo";  // the file with the lists
-
-// Names whose files are no profiles: that of the lists, and those that the system keeps for
-// devices.
-bool IsReserved(std::string_view name) {
-    for (const char* reserved : {kGlobalFile, "CON", "PRN", "AUX", "NUL"}) {
-        if (EqualNoCase(name, reserved)) return true;
-    }
-    const std::string_view kind = name.substr(0, 3);
-    return name.size() == 4 && name[3] >= '1' && name[3] <= '9' &&
-           (EqualNoCase(kind, "COM") || EqualNoCase(kind, "LPT"));
-}
-
 }  // namespace
 
 ProfileStore::ProfileStore(IniService& ini, FilePort& files, Clock& clock,
-                           std::string programFolder)
-    : files_(ini, files),
-      clock_(clock),
-      programFolder_(std::move(programFolder)),
-      path_(programFolder_ + '\\' + kGlobalFile + ".ini") {}
+                           const std::string& programFolder)
+    : Files(ini, files, clock, programFolder),
+      files_(ini, files),
+      path_(programFolder + "\\Orvo.ini") {}
 
 void ProfileStore::LoadProfileList() {
     profileNames_.assign(1, kDefault);
@@ -103,7 +89,7 @@ SaveResult ProfileStore::SaveAircraftList() {
 // `inFile` is what the file says as far as we know; it is left alone when that is all.
 SaveResult ProfileStore::SaveList(const char* section, IniEntries entries, IniEntries& inFile) {
     if (entries == inFile) return {};
-    const bool saved = files_.SaveSection(path_, section, entries);
+    const bool saved = files_.SaveSections(path_, {{section, entries}});
     if (saved) inFile = std::move(entries);
     return files_.Result(saved, path_);
 }
@@ -132,8 +118,24 @@ void ProfileStore::AddAircraft(std::string_view title, std::string_view profile)
     aircrafts_.push_back({std::string(title), std::string(profile)});
 }
 
+void ProfileStore::RebindAircraft(std::string_view title, std::string_view profile) {
+    const auto found = aircraftPlaces_.find(ToLower(title));
+    if (found != aircraftPlaces_.end()) aircrafts_[found->second].profile = profile;
+}
+
+std::vector<std::string> ProfileStore::AircraftNames() const {
+    std::vector<std::string> titles;
+    for (const Aircraft& each : aircrafts_) titles.push_back(each.title);
+    return titles;
+}
+
+bool ProfileStore::HasAircraft(std::string_view profile) const {
+    return std::ranges::any_of(
+        aircrafts_, [profile](const Aircraft& each) { return EqualNoCase(each.profile, profile); });
+}
+
 bool ProfileStore::ProfileNameFree(std::string_view name) const {
-    return ProfileIndex(name) == -1 && !IsReserved(name);
+    return ProfileIndex(name) == -1 && !ProfileNameReserved(name);
 }
 
 int32_t ProfileStore::ProfileIndex(std::string_view name) const {
@@ -143,51 +145,41 @@ int32_t ProfileStore::ProfileIndex(std::string_view name) const {
     return static_cast<int32_t>(found - profileNames_.begin()) + 1;
 }
 
-bool ProfileStore::ProfileNameValid(std::string_view text) {
-    return std::ranges::all_of(text, [](char c) {
-        return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9');
-    });
+void ProfileStore::AddProfile(const std::string& name) {
+    if (name.empty() || !ProfileNameValid(name) || !ProfileNameFree(name)) return;
+    profileNames_.insert(profileNames_.end() - 1, name);
 }
 
-bool ProfileStore::HasFile(const std::string& profile) {
-    return !profile.empty() && ProfileNameValid(profile) && !IsReserved(profile);
-}
-
-std::optional<IniText> ProfileStore::ProfileText() const {
-    if (!HasFile(CurrentProfile)) return IniText("");
-    return files_.Read(PathOf(CurrentProfile));
+// Its file is the last to go: whoever finds the name in the list finds the file as well.
+SaveResult ProfileStore::DeleteProfile(const std::string& name) {
+    if (EqualNoCase(name, kDefault) || ProfileIndex(name) == -1) return {};
+    const std::vector<std::string> before = profileNames_;
+    std::erase_if(profileNames_,
+                  [&name](const std::string& each) { return EqualNoCase(each, name); });
+    SaveResult saved = SaveProfileList();
+    if (saved) {
+        Files.Delete(name);
+    } else {
+        profileNames_ = before;
+    }
+    return saved;
 }
 
 std::optional<IniEntries> ProfileStore::ReadProfile(const std::string& section) {
     if (!ProfileInUse()) return std::nullopt;
     std::optional<IniText> own;
     const bool isRead = reading_ && reading_->profile == CurrentProfile;
-    if (!isRead) own = ProfileText();
+    if (!isRead) own = Files.Read(CurrentProfile);
     const std::optional<IniText>& text = isRead ? reading_->text : own;
     if (text) return text->Entries(section);
     profileMissed_ = true;
     return std::nullopt;
 }
 
-SaveResult ProfileStore::SaveProfile(const std::string& profile, const std::string& section,
-                                     const std::function<bool(IniSection&)>& write) {
-    if (!HasFile(profile)) return Unread(profile);
-    const bool saved = Patience(clock_, kSavePatienceMs).Try([&] {
-        return files_.Save(PathOf(profile), section, write);
-    });
-    return files_.Result(saved, PathOf(profile));
-}
-
-SaveResult ProfileStore::Unread(const std::string& profile) const {
-    if (!HasFile(profile)) {
-        return SaveResult::Impossible("No profile is in use, so there is nowhere to save to.");
-    }
-    return SaveResult::Unread(PathOf(profile));
-}
-
 ProfileReading::ProfileReading(ProfileStore& profiles)
     : profiles_(profiles), before_(std::move(profiles.reading_)) {
-    profiles_.reading_ = ProfileStore::ReadText{profiles_.CurrentProfile, profiles_.ProfileText()};
+    profiles_.reading_ = ProfileStore::ReadText{profiles_.CurrentProfile,
+                                                profiles_.Files.Read(profiles_.CurrentProfile)};
     profiles_.profileMissed_ = false;
 }
 

@@ -1,23 +1,24 @@
 #pragma once
 
 #include <cstdint>
-#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <unordered_map>
 #include <vector>
 
-#include "config/IniFiles.h"
-#include "platform/Clock.h"
+#include "config/ProfileFiles.h"
 
-// The profiles, the aircraft that are bound to them, and the way to the profiles' files. Both lists
-// stand in Orvo.ini; each profile has a file of its own beside it, which comes into being with the
-// first write. Names of profiles and titles of aircraft compare without regard to case, as files
-// and ini keys do.
+// The profiles, the aircraft that are bound to them, and the profile in use. Both lists stand in
+// Orvo.ini; each profile has a file of its own beside it. Names of profiles and titles of aircraft
+// compare without regard to case, as files and ini keys do.
+//
+// A change of a list counts at once; it reaches the file with the next save of that list.
 class ProfileStore {
   public:
-    ProfileStore(IniService& ini, FilePort& files, Clock& clock, std::string programFolder);
+    ProfileStore(IniService& ini, FilePort& files, Clock& clock, const std::string& programFolder);
+
+    const ProfileFiles Files;
 
     std::string CurrentProfile = kDefault;  // empty while none is in use
     bool ProfileInUse() const { return !CurrentProfile.empty(); }
@@ -32,6 +33,8 @@ class ProfileStore {
     [[nodiscard]] bool ReadWhatIsMissing();
     // Whether both lists have been read.
     bool ListsAreRead() const { return profilesWhole_ && aircraftsWhole_; }
+    // The result of a save of lists that haven't.
+    SaveResult Unread() const { return SaveResult::Unread(path_); }
     // The whole list or, when the file can't be written or hasn't been read, nothing.
     SaveResult SaveProfileList();
     SaveResult SaveAircraftList();
@@ -41,17 +44,23 @@ class ProfileStore {
     std::string ProfileOfAircraft(std::string_view title) const;
     // The profile that the aircraft flies with: its own or, when that isn't in the list, "Default".
     std::string ProfileToFly(std::string_view title) const;
+    // Titles in the order of the list.
+    std::vector<std::string> AircraftNames() const;
     // For a title that isn't known yet and not empty; else it does nothing.
     void AddAircraft(std::string_view title, std::string_view profile);
+    // Binds an aircraft that is known to another profile.
+    void RebindAircraft(std::string_view title, std::string_view profile);
+    bool HasAircraft(std::string_view profile) const;
 
     // Place of the name from 1, or -1.
     int32_t ProfileIndex(std::string_view name) const;
-    // Whether a text has only what may stand in a profile's name, letters A to Z and digits. An
-    // empty one has.
-    static bool ProfileNameValid(std::string_view text);
-    // Whether a new profile may have this name. "Orvo", whose file has the lists, and the names of
-    // the system's devices are never free.
+    // Whether a new profile may have this name: reserved ones are never free.
     bool ProfileNameFree(std::string_view name) const;
+    // Puts it before "Default". A name that isn't free or valid, or is empty, does nothing.
+    void AddProfile(const std::string& name);
+    // Takes it out of the list and, when that is in the file, deletes its own. When the list can't
+    // be saved nothing has changed.
+    SaveResult DeleteProfile(const std::string& name);
 
     // The keys of a section of the current profile's file, with their values. Nothing while the
     // file can't be read, and without a profile in use; a name that is none of a profile's has an
@@ -60,15 +69,7 @@ class ProfileStore {
     // Whether ReadProfile could read nothing since the last ProfileReading began.
     bool ProfileMissed() const { return profileMissed_; }
     // Whether the current profile's file can be read at this moment.
-    bool ProfileReadable() const { return ProfileText().has_value(); }
-    // Changes a section of a profile's file. What `write` does through what it is given
-    // arrives as a whole, or not at all when it gives false or the file can't be written. Waits a
-    // moment for a file that is held.
-    SaveResult SaveProfile(const std::string& profile, const std::string& section,
-                           const std::function<bool(IniSection&)>& write);
-
-    // The result of a save of what ReadProfile couldn't read.
-    SaveResult Unread(const std::string& profile) const;
+    bool ProfileReadable() const { return Files.Read(CurrentProfile).has_value(); }
 
     static constexpr const char* kDefault = "Default";
 
@@ -85,19 +86,12 @@ class ProfileStore {
     };
 
     const Aircraft* Find(std::string_view title) const;
-    static bool HasFile(const std::string& profile);
-    std::string PathOf(const std::string& profile) const {
-        return programFolder_ + '\\' + profile + ".ini";
-    }
-    std::optional<IniText> ProfileText() const;
     // False while the file can't be read.
     bool ReadProfileList();
     bool ReadAircraftList();
     SaveResult SaveList(const char* section, IniEntries entries, IniEntries& inFile);
 
     const IniFiles files_;
-    Clock& clock_;
-    const std::string programFolder_;
     const std::string path_;
     std::vector<std::string> profileNames_{kDefault};
     std::vector<std::string> unusableNames_;  // stay in the file, but can't be names of profiles

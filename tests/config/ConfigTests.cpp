@@ -220,8 +220,8 @@ TEST_F(ConfigTest, SaveWaitsAMomentForAHeldFile) {
     ProfileStore profiles(machine.ini, machine.files, machine.clock, "C:\\Orvo");
     machine.files.Put("C:\\Orvo\\Default.ini", "[Common]\r\nOther=1\r\n");
     machine.files.Hold("C:\\Orvo\\Default.ini", 3);
-    EXPECT_TRUE(profiles.SaveProfile("Default", "Common",
-                                     [](IniSection& keys) { return keys.Set("A", "1"); }));
+    EXPECT_TRUE(profiles.Files.Save("Default", "Common",
+                                    [](IniSection& keys) { return keys.Set("A", "1"); }));
     machine.files.Hold(kPath);
     const uint64_t before = machine.clock.Elapsed();
     EXPECT_FALSE(setup.SaveSetup());

@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 
 #include "config/OldConfiguration.h"
+#include "config/ProfileImport.h"
+#include "config/ProfileName.h"
 #include "config/ProfileStore.h"
 #include "platform/virtual/VirtualPlatform.h"
 #include "toolkit/HeadlessUi.h"
@@ -36,8 +38,8 @@ TEST_F(ProfileStoreTest, ListsKeepTheirOrderAndTheRestOfTheFile) {
         "Cessna= b \r\n[Other]\r\nx=1\r\n");
     EXPECT_EQ(store.ProfileNames(), (Names{"B", "A", "Default"}));
     EXPECT_EQ(store.ProfileIndex("a"), 2);
-    EXPECT_TRUE(store.ProfileNameFree("C") && store.ProfileNameValid("aZ09"));
-    for (const char* bad : {"a b", "..\\a", "\xE4"}) EXPECT_FALSE(store.ProfileNameValid(bad));
+    EXPECT_TRUE(store.ProfileNameFree("C") && ProfileNameValid("aZ09"));
+    for (const char* bad : {"a b", "..\\a", "\xE4"}) EXPECT_FALSE(ProfileNameValid(bad));
     EXPECT_EQ(store.ProfileOfAircraft("baron"), "A") << "the first of two that differ in case";
     EXPECT_EQ(store.ProfileOfAircraft("none"), "");
     store.AddAircraft("CESSNA", "A");
@@ -105,6 +107,62 @@ TEST_F(ProfileStoreTest, SavesArriveWholeOrNotAtAll) {
     EXPECT_EQ(Saved(store), names + after) << "what the file says counts first";
 }
 
+// The power goes at every single change of a file: a profile is made, deleted, imported into.
+TEST_F(ProfileStoreTest, ProfilesChangeWholeOrNotAtAll) {
+    const std::string source = "[A]\r\nk=\"1 \"\r\nK=2\r\n[B]\r\n[C]\r\nx=1\r\n";
+    // Orvo.ini, and the files of Jet, Prop and Default.
+    const Names before = {"[Profiles]\r\nJet= \r\nProp= \r\n", source,
+                          "[C]\r\ny=1\r\n[D]\r\nz=1\r\n[A]\r\nold=1\r\n", "none"};
+    const struct {
+        std::function<SaveResult(ProfileStore&)> act;
+        Names after;
+    } cases[] = {
+        {[](ProfileStore& store) {
+             store.AddProfile("New");
+             return store.SaveProfileList();
+         },
+         {"[Profiles]\r\nJet= \r\nProp= \r\nNew= \r\n", source, before[2], "none"}},
+        {[](ProfileStore& store) { return store.DeleteProfile("jet"); },
+         {"[Profiles]\r\nProp= \r\n", "none", before[2], "none"}},
+        {[](ProfileStore& store) {
+             return ProfileImport(store.Files, "Jet", "Prop").Copy({"B", "A", "C"});
+         },
+         {before[0], source, "[D]\r\nz=1\r\n[A]\r\nk=\"1 \"\r\n[C]\r\nx=1\r\n", "none"}},
+        {[](ProfileStore& store) {
+             return ProfileImport(store.Files, "Jet", "Default").Copy({"A"});
+         },
+         {before[0], source, before[2], "[A]\r\nk=\"1 \"\r\n"}},
+    };
+    for (const auto& [act, after] : cases) {
+        // A profile that is deleted leaves the list before its file goes.
+        Names between = before;
+        between[0] = after[0];
+        for (const LastChange last : {LastChange::Undone, LastChange::Half}) {
+            bool done = false;
+            for (int changes = 0; !done; ++changes) {
+                machine.files.Put("C:\\Orvo\\Jet.ini", before[1]);
+                machine.files.Put("C:\\Orvo\\Prop.ini", before[2]);
+                machine.files.Delete("C:\\Orvo\\Default.ini");
+                ProfileStore store = Started(before[0]);
+                machine.files.CutPowerAfter(changes, last);
+                try {
+                    EXPECT_TRUE(act(store));
+                    done = true;
+                } catch (const PowerCut&) {
+                }
+                machine.files.RestorePower();
+                Names found;
+                for (const char* name : {"Orvo", "Jet", "Prop", "Default"}) {
+                    const std::string path = "C:\\Orvo\\" + std::string(name) + ".ini";
+                    found.push_back(machine.files.Look(path).value_or("none"));
+                }
+                ASSERT_TRUE(found == after || (!done && (found == before || found == between)))
+                    << "at change " << changes << ": " << testing::PrintToString(found);
+            }
+        }
+    }
+}
+
 // Each pass over a file of a thousand lines costs time while the panels fly.
 TEST_F(ProfileStoreTest, LongListsTakeAFewPassesOverTheFile) {
     std::string text = "[Aircrafts]\r\n";
@@ -142,8 +200,8 @@ TEST_F(ProfileStoreTest, NamesThatLeadElsewhereAreNoProfiles) {
     for (const char* name : {"..\\x", "C:\\x", "\\..\\x", "Orvo"}) {
         store.CurrentProfile = name;
         EXPECT_EQ(store.ReadProfile("S"), IniEntries()) << name;
-        EXPECT_FALSE(store.SaveProfile(store.CurrentProfile, "S",
-                                       [](IniSection& keys) { return keys.Set("k", "2"); }));
+        EXPECT_FALSE(store.Files.Save(store.CurrentProfile, "S",
+                                      [](IniSection& keys) { return keys.Set("k", "2"); }));
     }
     EXPECT_EQ(machine.files.Paths(), (Names{"c:\\orvo\\orvo.ini", "c:\\x.ini"}));
 }

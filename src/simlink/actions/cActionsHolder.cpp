@@ -12,13 +12,13 @@ void cActionsHolder::LoadSetup() {
 }
 
 SaveResult cActionsHolder::ReadResult() const {
-    return whole_ ? SaveResult() : profiles_.Unread(Profile);
+    return whole_ ? SaveResult() : profiles_.Files.Unread(Profile);
 }
 
 SaveResult cActionsHolder::SaveSetup() {
     if (!whole_) return ReadResult();
-    return profiles_.SaveProfile(Profile, Section(),
-                                 [this](IniSection& keys) { return Write(keys); });
+    return profiles_.Files.Save(Profile, Section(),
+                                [this](IniSection& keys) { return Write(keys); });
 }
 
 std::string cActionsHolder::Section() const { return panel_ + FormatInteger(Index); }
