@@ -12,7 +12,8 @@ class ListBox : public ListControl {
     // The selected entry, empty without one.
     std::string Text() const { return SelectedItem(); }
 
-    // A double click on an entry, which has been selected by its first click.
+    // A double click on an entry, which has been selected by its first click. In a form without a
+    // default button Enter does the same.
     void DoubleClick() {
         if (TakesActs() && ListIndex() >= 0) DblClick.Raise();
     }

@@ -1,6 +1,7 @@
 #include "toolkit/win32/FormKeys.h"
 
 #include "toolkit/win32/ButtonPeer.h"
+#include "toolkit/win32/ListBoxPeer.h"
 #include "toolkit/win32/WideText.h"
 
 namespace {
@@ -37,8 +38,13 @@ bool FormKeys::Take(HWND window, MSG& message) {
     if (!PressesButton(message) || IsKeptByControl(message)) {
         return IsDialogMessageW(window, &message) != FALSE;
     }
-    CommandButton* button = IsHeldDown(message) ? nullptr : ButtonFor(message);
-    if (button) button->Press();
+    if (IsHeldDown(message)) return true;
+    if (CommandButton* button = ButtonFor(message)) {
+        button->Press();
+    } else if (ListBox* list =
+                   message.wParam == VK_RETURN ? ListBoxPeer::BoxOf(message.hwnd) : nullptr) {
+        list->DoubleClick();
+    }
     return true;
 }
 
