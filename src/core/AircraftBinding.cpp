@@ -5,16 +5,6 @@
 
 #include "base/Text.h"
 
-namespace {
-
-uint8_t SpecialModeNamed(const std::string& word) {
-    const std::string name = ToLower(word);
-    if (name == "maddog") return kMaddogMode;
-    return name == "ngx" ? kNGXMode : kStandardMode;
-}
-
-}  // namespace
-
 AircraftBinding::AircraftBinding(const Parts& parts) : parts_(parts) {
     parts_.cmbProfiles.Click.Connect([this] {
         parts_.profiles.CurrentProfile = parts_.cmbProfiles.Text();
@@ -45,7 +35,7 @@ void AircraftBinding::Settle() {
 bool AircraftBinding::ReadLists() {
     if (!parts_.generalSetup.ReadWhatIsMissing()) return false;
     if (!parts_.profiles.ReadWhatIsMissing()) return false;
-    if (parts_.cmbProfiles.Items().size() != parts_.profiles.ProfileNames().size()) {
+    if (parts_.cmbProfiles.Items() != parts_.profiles.ProfileNames()) {
         FillProfileCombo();
     }
     return true;
@@ -71,11 +61,25 @@ void AircraftBinding::TryAgain() {
     binding_ = false;
 }
 
+// The profiles first: a program that ends in between leaves no aircraft with a profile that isn't
+// in the list.
 bool AircraftBinding::SaveLists() {
-    if (!unsaved_) return true;
-    const SaveResult aircraft = parts_.profiles.SaveAircraftList();
-    unsaved_ = !parts_.profiles.SaveProfileList() || !aircraft;
+    if (!unsaved_ && !editing_) return true;
+    const SaveResult profiles = parts_.profiles.SaveProfileList();
+    unsaved_ = !profiles || !parts_.profiles.SaveAircraftList();
     return !unsaved_;
+}
+
+void AircraftBinding::ListsEdited() {
+    editing_ = false;
+    unsaved_ = true;
+    SaveLists();
+    FillProfileCombo();
+    ProfileStore& profiles = parts_.profiles;
+    if (profiles.AircraftKnown(currentAircraft_)) {
+        profiles.CurrentProfile = profiles.ProfileToFly(currentAircraft_);
+    }
+    SelectCurrentProfile();
 }
 
 bool AircraftBinding::SettleProfile() {
@@ -84,15 +88,15 @@ bool AircraftBinding::SettleProfile() {
         profiles.CurrentProfile = profiles.ProfileToFly(currentAircraft_);
         return true;
     }
-    const std::string profile = ProfileForNew(currentAircraft_);
-    if (profile.empty() && !parts_.session.FSConnected) {
-        // Nobody has chosen: the question ended with the session. The next one asks again.
+    const auto profile = ProfileForNew(currentAircraft_);
+    if (!profile) {
         currentAircraft_.clear();
         return false;
     }
-    profiles.CurrentProfile = profile;
-    profiles.AddAircraft(currentAircraft_, profile);
+    profiles.CurrentProfile = *profile;
+    profiles.AddAircraft(currentAircraft_, *profile);
     FillProfileCombo();
+    AircraftAdded.Raise();
     return true;
 }
 
@@ -104,7 +108,7 @@ void AircraftBinding::AskForGear() {
     parts_.session.GearIsRetractable = *retractable != 0;
 }
 
-std::string AircraftBinding::ProfileForNew(const std::string& title) {
+std::optional<std::string> AircraftBinding::ProfileForNew(const std::string& title) {
     if (!parts_.generalSetup.ManualProfile || !AskForProfile) return ProfileStore::kDefault;
     const ModalWindow open(parts_.windows);
     return AskForProfile(title);

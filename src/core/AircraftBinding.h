@@ -1,8 +1,10 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 
+#include "base/Event.h"
 #include "config/ProfileStore.h"
 #include "config/cSetupHolder.h"
 #include "core/PanelUnit.h"
@@ -27,8 +29,10 @@ class AircraftBinding {
     explicit AircraftBinding(const Parts& parts);
 
     // Asks the user for the profile of a new aircraft, in a modal window. May add a profile. Empty
-    // when the user gives none.
-    std::function<std::string(const std::string& title)> AskForProfile;
+    // when the user gives none; nothing when the program has ended before the user said anything.
+    std::function<std::optional<std::string>(const std::string& title)> AskForProfile;
+
+    Event<> AircraftAdded;  // to the list; a profile may have been added with it
 
     // Takes the title as the aircraft in use, and puts its profile into force. A new one is bound
     // to "Default", or with ManualProfile to what AskForProfile gives. May let messages run; called
@@ -42,9 +46,15 @@ class AircraftBinding {
     bool Waits() const;
     // Does what waits, as far as the files are free by now.
     void TryAgain();
-    // Writes the lists if a binding hasn't been written yet. False while that can't be; it waits
-    // then.
+    // Writes the lists if a change of them hasn't been written yet. False while that can't be; it
+    // waits then.
     bool SaveLists();
+
+    // For a window in which the user edits the lists: it is about to open. What it can't write is
+    // written later.
+    void ListsWillBeEdited() { editing_ = true; }
+    // It has closed: the profile of the aircraft in use, or the one in force, is applied anew.
+    void ListsEdited();
 
     // Empty until the first session brings a title. It outlives a session: coming back to the same
     // aircraft changes nothing.
@@ -58,9 +68,9 @@ class AircraftBinding {
   private:
     void Settle();
     bool ReadLists();
-    // False when the aircraft is to be left without one.
+    // False when nobody has said which; the aircraft is left unbound.
     bool SettleProfile();
-    std::string ProfileForNew(const std::string& title);
+    std::optional<std::string> ProfileForNew(const std::string& title);
     void SelectCurrentProfile();
     void ApplyProfile();
     // False while the profile can't be read.
@@ -71,5 +81,6 @@ class AircraftBinding {
     bool binding_ = false;
     bool gearKnown_ = true;   // until there is an aircraft
     bool unsettled_ = false;  // the aircraft in use came before the lists could be read
-    bool unsaved_ = false;    // a binding isn't in the file yet
+    bool editing_ = false;    // the lists, in a window
+    bool unsaved_ = false;    // what the lists have may not be in the file yet
 };

@@ -7,6 +7,8 @@
 #include "toolkit/UiBackend.h"
 #include "ui/Layout.h"
 #include "ui/frmGeneralSetup.h"
+#include "ui/profiles/frmAircraftProfile.h"
+#include "ui/profiles/frmProfilesSetup.h"
 
 namespace {
 
@@ -60,10 +62,12 @@ frmMain::frmMain(const MainServices& services)
     PlaceAll();
     tabMain.Click.Connect([this] { SelectPage(); });
     btnSetup.Click.Connect([this] { OpenGeneralSetup(); });
+    btnProfiles.Click.Connect([this] { OpenProfilesSetup(); });
     btnQuit.Click.Connect([this] { AskQuit(); });
     picMinimize.Click.Connect([this] { Hide(); });
     timerFSUIPC.Tick.Connect([this] { timerFSUIPC_Timer(); });
     FollowSession();
+    Binding.AskForProfile = [this](const std::string& title) { return AskForProfile(title); };
     trayDblClick_ = trayMain.DblClick.Connect([this] {
         if (!services_.windows.ModalWindowOpen) Show();
     });
@@ -98,7 +102,6 @@ void frmMain::PlaceAll() {
         {picMinimize, 10500, 150, 300, 300},
         {imaBigOrvo, 6900, 450, 1920, 1920},
     });
-    btnProfiles.Enabled = false;
     picMinimize.ToolTip = "Hide this window";
     picMinimize.BackColor = kButtonFace;
     minimizeBorder_.Kind = ShapeKind::RoundedRectangle;
@@ -237,6 +240,31 @@ void frmMain::EndPanels() {
 
 void frmMain::OpenGeneralSetup() {
     if (MayOpenWindow()) frmGeneralSetup(services_.ForWindows()).OpenModally();
+}
+
+void frmMain::OpenProfilesSetup() {
+    Binding.TryAgain();
+    if (!MayOpenWindow()) return;
+    if (!services_.profiles.ListsAreRead()) {
+        TellUnlessDone(services_.ui, services_.profiles.Unread());
+        return;
+    }
+    Binding.ListsWillBeEdited();
+    {
+        frmProfilesSetup window(services_.ForProfiles());
+        const ScopedConnection follow =
+            Binding.AircraftAdded.Connect([&window] { window.FollowLists(); });
+        window.OpenModally();
+    }
+    if (!IsUnloaded()) Binding.ListsEdited();
+}
+
+// A question that is closed with the program isn't an answer.
+std::optional<std::string> frmMain::AskForProfile(const std::string& title) {
+    frmAircraftProfile window(services_.ForProfiles(), title);
+    window.OpenModally();
+    if (IsUnloaded() && window.ChosenProfile.empty()) return std::nullopt;
+    return window.ChosenProfile;
 }
 
 void frmMain::ServeSetupRequest(PanelUnit& unit) {

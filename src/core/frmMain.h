@@ -28,6 +28,7 @@
 #include "ui/PlacedForm.h"
 #include "ui/WindowState.h"
 #include "ui/ctlTrayArea.h"
+#include "ui/profiles/ProfileWindowServices.h"
 
 // What frmMain works with; all of it outlives the window.
 struct MainServices {
@@ -46,6 +47,7 @@ struct MainServices {
                 monitorRects, generalSetup,  windows};
     }
     SetupServices ForSetup() const { return {{ForWindows(), session, output}, profiles}; }
+    ProfileWindowServices ForProfiles() const { return {ForWindows(), profiles}; }
 };
 
 // The program's one permanent window, hidden until the user double-clicks its icon in the
@@ -99,6 +101,8 @@ class frmMain : public PlacedForm {
     // One configuration window at a time.
     bool MayOpenWindow() const { return !IsUnloaded() && !services_.windows.ModalWindowOpen; }
     void OpenGeneralSetup();
+    void OpenProfilesSetup();
+    std::optional<std::string> AskForProfile(const std::string& title);
     void ServeSetupRequest(PanelUnit& unit);
 
     void FollowSession();

@@ -5,7 +5,7 @@
 set -eu
 cd "$(dirname "$0")/../.."
 
-rooms=(base platform toolkit config simlink/channel simlink/actions simlink/devices ui
+rooms=(base platform toolkit config simlink/channel simlink/actions simlink/devices ui ui/profiles
     panels/multi panels/radio panels/switch panels/bip core app)
 adapters='platform/win32|platform/virtual|toolkit/win32'
 
@@ -14,7 +14,7 @@ room_of() {
     local first=${1%%/*} rest=${1#*/}
     room=$first
     case $1 in
-        panels/* | simlink/* | platform/win32/* | platform/virtual/* | toolkit/win32/*) room+=/${rest%%/*} ;;
+        panels/* | simlink/* | ui/profiles/* | platform/win32/* | platform/virtual/* | toolkit/win32/*) room+=/${rest%%/*} ;;
     esac
 }
 

@@ -9,7 +9,7 @@ struct BindingTest : testing::Test, VirtualCockpit {
     int applied = 0;
     std::vector<std::string> asked;
 
-    std::string answer;
+    std::optional<std::string> answer = "";
     std::function<void()> beforeAnswer = [] {};
 
     // Two aircraft are bound, the first one is flown.
@@ -95,7 +95,7 @@ TEST_F(BindingTest, SimulatorMayGoWhileTheUserIsAsked) {
         LoseSimulator();
     };
     Fly("ManualProfile=1\r\n");
-    for (const char* each : {"", "Plain"}) {
+    for (const auto& each : {std::optional<std::string>(), std::optional<std::string>("Plain")}) {
         answer = each;
         SetTitle("Cessna");
         Connect();
@@ -103,7 +103,7 @@ TEST_F(BindingTest, SimulatorMayGoWhileTheUserIsAsked) {
         EXPECT_EQ(device.featureReports.back()[1], kMultiDark);
         EXPECT_EQ(Window().IsUnloaded(), asked.size() > 1);
         EXPECT_EQ(Window().Aircraft.Text.Get(), "Aircraft in use:");
-        ExpectBound(answer.empty() ? "" : "Cessna=Plain\r\n");
+        ExpectBound(!answer ? "" : "Cessna=Plain\r\n");
     }
 }
 
@@ -175,6 +175,7 @@ TEST_F(BindingTest, AircraftIsBoundWhenTheListCanBeRead) {
 TEST_F(BindingTest, ProgramMayEndWhileTheUserIsAskedLate) {
     machine.files.Hold("C:\\Orvo\\Orvo.ini");
     Fly("ManualProfile=1\r\nAutoQuit=1\r\n");
+    answer.reset();
     beforeAnswer = [this] {
         LoseSimulator();
         machine.ipc.AddWindow("UIPCMAIN");
