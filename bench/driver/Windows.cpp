@@ -44,18 +44,51 @@ BOOL CALLBACK Look(HWND window, LPARAM parameter) {
     return FALSE;
 }
 
+// Each kind of list has its own numbers for the same messages.
+struct ListMessages {
+    UINT count;
+    UINT length;
+    UINT text;
+    UINT selected;
+};
+
+constexpr ListMessages kCombo = {CB_GETCOUNT, CB_GETLBTEXTLEN, CB_GETLBTEXT, CB_GETCURSEL};
+constexpr ListMessages kListBox = {LB_GETCOUNT, LB_GETTEXTLEN, LB_GETTEXT, LB_GETCURSEL};
+
 // As wide text: not every system converts the answer when it comes from another process.
-std::string ComboText(HWND combo, LRESULT index) {
-    const LRESULT length = Send(combo, CB_GETLBTEXTLEN, static_cast<WPARAM>(index));
+std::string EntryText(HWND list, const ListMessages& messages, LRESULT index) {
+    const LRESULT length = Send(list, messages.length, static_cast<WPARAM>(index));
     if (length <= 0) return "";
     std::wstring wide(static_cast<size_t>(length) + 1, L'\0');
     DWORD_PTR got = 0;
-    SendMessageTimeoutW(combo, CB_GETLBTEXT, static_cast<WPARAM>(index),
+    SendMessageTimeoutW(list, messages.text, static_cast<WPARAM>(index),
                         reinterpret_cast<LPARAM>(wide.data()), SMTO_ABORTIFHUNG, kPatienceMs, &got);
     std::string text(wide.size(), '\0');
     WideCharToMultiByte(kTextPage, 0, wide.c_str(), -1, text.data(), static_cast<int>(text.size()),
                         nullptr, nullptr);
     return text.c_str();
+}
+
+std::vector<std::string> EntryTexts(HWND list, const ListMessages& messages) {
+    std::vector<std::string> texts;
+    const LRESULT count = Send(list, messages.count);
+    for (LRESULT i = 0; i < count; ++i) texts.push_back(EntryText(list, messages, i));
+    return texts;
+}
+
+std::string SelectedText(HWND list, const ListMessages& messages) {
+    const LRESULT index = Send(list, messages.selected);
+    return index < 0 ? "" : EntryText(list, messages, index);
+}
+
+// The middle of an entry of a list box, which is brought into view.
+std::optional<POINT> EntryPoint(HWND list, int index) {
+    RECT place{};
+    Send(list, LB_SETTOPINDEX, static_cast<WPARAM>(index));
+    const LRESULT got =
+        Send(list, LB_GETITEMRECT, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&place));
+    if (got == LB_ERR || IsRectEmpty(&place)) return std::nullopt;
+    return POINT{(place.left + place.right) / 2, (place.top + place.bottom) / 2};
 }
 
 struct Gathering {
@@ -294,17 +327,9 @@ bool ClickTab(HWND tabs, int index) {
     return Send(tabs, TCM_GETCURSEL) == index;
 }
 
-std::vector<std::string> ComboTexts(HWND combo) {
-    std::vector<std::string> texts;
-    const LRESULT count = Send(combo, CB_GETCOUNT);
-    for (LRESULT i = 0; i < count; ++i) texts.push_back(ComboText(combo, i));
-    return texts;
-}
+std::vector<std::string> ComboTexts(HWND combo) { return EntryTexts(combo, kCombo); }
 
-std::string ComboSelection(HWND combo) {
-    const LRESULT index = Send(combo, CB_GETCURSEL);
-    return index == CB_ERR ? "" : ComboText(combo, index);
-}
+std::string ComboSelection(HWND combo) { return SelectedText(combo, kCombo); }
 
 bool ChooseInCombo(HWND combo, int index) {
     if (index < 0 || index >= Send(combo, CB_GETCOUNT)) return false;
@@ -312,6 +337,38 @@ bool ChooseInCombo(HWND combo, int index) {
     const WPARAM change = MAKEWPARAM(GetDlgCtrlID(combo), CBN_SELCHANGE);
     return PostMessageA(GetParent(combo), WM_COMMAND, change, reinterpret_cast<LPARAM>(combo)) != 0;
 }
+
+std::vector<std::string> ListTexts(HWND list) { return EntryTexts(list, kListBox); }
+
+std::string ListSelection(HWND list) { return SelectedText(list, kListBox); }
+
+bool ClickEntry(HWND list, int index) {
+    const auto point = EntryPoint(list, index);
+    if (!point) return false;
+    ClickAt(list, point->x, point->y);
+    return Send(list, LB_GETCURSEL) == index;
+}
+
+bool DoubleClickEntry(HWND list, int index) {
+    const auto point = EntryPoint(list, index);
+    if (!point || !ClickEntry(list, index)) return false;
+    const LPARAM place = MAKELPARAM(point->x, point->y);
+    return PostMessageA(list, WM_LBUTTONDBLCLK, MK_LBUTTON, place) &&
+           PostMessageA(list, WM_LBUTTONUP, 0, place);
+}
+
+void PressKey(WORD key) {
+    INPUT inputs[2]{};
+    for (INPUT& input : inputs) {
+        input.type = INPUT_KEYBOARD;
+        input.ki.wVk = key;
+        input.ki.wScan = static_cast<WORD>(MapVirtualKeyA(key, MAPVK_VK_TO_VSC));
+    }
+    inputs[1].ki.dwFlags = KEYEVENTF_KEYUP;
+    SendInput(2, inputs, sizeof *inputs);
+}
+
+void PressCloseBox(HWND window) { PostMessageA(window, WM_SYSCOMMAND, SC_CLOSE, 0); }
 
 bool DoubleClickTrayIcon() {
     const HWND taskBar = FindWindowA("Shell_TrayWnd", nullptr);

@@ -63,6 +63,19 @@ std::string ComboSelection(HWND combo);
 // what it starts is over.
 bool ChooseInCombo(HWND combo, int index);
 
+// The same of a list box.
+std::vector<std::string> ListTexts(HWND list);
+std::string ListSelection(HWND list);
+// Clicks an entry, from 0. False when it isn't the one that is selected after that.
+bool ClickEntry(HWND list, int index);
+// Clicks it twice. Returns before what that starts is over.
+bool DoubleClickEntry(HWND list, int index);
+
+// Presses a key of the keyboard, for whatever has the focus.
+void PressKey(WORD key);
+// Presses the close box of a window.
+void PressCloseBox(HWND window);
+
 // Clicks a point of a window, in pixels from its upper left corner.
 void ClickAt(HWND window, int x, int y);
 

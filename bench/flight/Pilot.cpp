@@ -2,11 +2,11 @@
 
 #include <algorithm>
 #include <cctype>
-#include <cstdlib>
 #include <optional>
 #include <sstream>
 
 #include "bench/driver/Until.h"
+#include "bench/flight/WindowActs.h"
 
 namespace bench {
 
@@ -17,8 +17,6 @@ constexpr uint32_t kPatienceMs = 40000;
 constexpr uint32_t kWindowTimeMs = 10000;
 // A hand takes as long to turn back. Sooner, the panel's reports still count for the old direction.
 constexpr DWORD kHandPauseMs = 300;
-constexpr char kSlider[] = "msctls_trackbar32";
-constexpr char kTabStrip[] = "SysTabControl32";
 
 constexpr struct {
     const char* who;
@@ -38,30 +36,8 @@ HWND PageButton(const Cockpit& cockpit) {
     return quit ? quit : FindShownChild(window, "Button", "Setup");
 }
 
-int Pixels(int twips) {
-    const HDC screen = GetDC(nullptr);
-    const int dpi = GetDeviceCaps(screen, LOGPIXELSY);
-    ReleaseDC(nullptr, screen);
-    return MulDiv(twips, dpi, 1440);
-}
-
 // Inside the frame of the Multi Panel's upper display, in pixels of its picture.
 RECT UpperDisplay() { return {Pixels(3060), Pixels(300), Pixels(5640), Pixels(960)}; }
-
-// A strip that is seen and has the tab, and the tab's number in it.
-struct Tab {
-    HWND strip = nullptr;
-    int number = 0;
-};
-
-Tab FindTab(HWND window, const std::string& caption) {
-    for (const HWND strip : ShownChildren(window, kTabStrip)) {
-        const auto captions = TabTexts(strip);
-        const auto tab = std::ranges::find(captions, caption);
-        if (tab != captions.end()) return {strip, static_cast<int>(tab - captions.begin())};
-    }
-    return {};
-}
 
 bool OpenTab(const Cockpit& cockpit, const std::string& caption) {
     const Tab tab = FindTab(cockpit.MainWindow(), caption);
@@ -107,73 +83,23 @@ std::string WindowTitle(const Cockpit& cockpit) {
     return title.substr(std::min(title.size(), title.find_first_not_of(' ')));
 }
 
-// What a button starts may go on; the mark of a box or an option is there.
-bool Press(HWND button) {
-    switch (GetWindowLongA(button, GWL_STYLE) & BS_TYPEMASK) {
-        case BS_CHECKBOX:
-        case BS_AUTOCHECKBOX:
-            return Tick(button);
-        case BS_RADIOBUTTON:
-        case BS_AUTORADIOBUTTON:
-            return ChooseOption(button);
-        default:
-            PressButton(button);
-            return true;
-    }
+std::string TextOfBox(const Cockpit& cockpit) {
+    const HWND front = cockpit.FrontWindow();
+    char kind[16] = "";
+    if (front) GetClassNameA(front, kind, sizeof kind);
+    return kind == std::string("#32770") ? BoxText(front) : "no box";
 }
 
-bool ChooseInList(HWND list, const std::string& entry) {
-    const auto entries = ComboTexts(list);
-    const auto found = std::ranges::find(entries, entry);
-    return found != entries.end() && ChooseInCombo(list, static_cast<int>(found - entries.begin()));
-}
-
-void ClickTile(HWND picture, int tile) {
-    constexpr int kColumns = 8;
-    ClickAt(picture, Pixels(780 + tile % kColumns * 1335), Pixels(600 + tile / kColumns * 720));
-}
-
-// It may be that the window is still to come, or what is to be worked in it.
-bool WorkWindow(const Cockpit& cockpit, const std::string& act) {
-    const size_t colon = act.find(": ");
-    const std::string frame = colon == std::string::npos ? "" : act.substr(0, colon);
-    const std::string order = frame.empty() ? act : act.substr(colon + 2);
-    const std::string verb = order.substr(0, order.find(' '));
-    const std::string argument = order.substr(std::min(order.size(), verb.size() + 1));
-    const int number = std::atoi(argument.c_str());
-    const auto place = [&] {
-        const HWND window = cockpit.FrontWindow();
-        return frame.empty() ? window : FindShownChild(window, "Button", frame);
-    };
-    HWND control = nullptr;
-    const auto comes = [&](const char* kind, const std::optional<std::string>& text = {}) {
-        return Until(kWindowTimeMs, [&] {
-            const HWND parent = place();
-            return parent && (control = FindShownChild(parent, kind, text)) != nullptr;
-        });
-    };
-    if (verb == "tab") {
-        Tab tab;
-        return Until(kWindowTimeMs,
-                     [&] { return (tab = FindTab(place(), argument)).strip != nullptr; }) &&
-               ClickTab(tab.strip, tab.number);
+std::string EntriesInList(const Cockpit& cockpit) {
+    const HWND list = FindShownChild(cockpit.FrontWindow(), "ListBox", std::nullopt);
+    if (!list) return "no list";
+    const std::string selected = ListSelection(list);
+    std::string entries;
+    for (const std::string& entry : ListTexts(list)) {
+        entries += entries.empty() ? "" : ", ";
+        entries += entry == selected ? '[' + entry + ']' : entry;
     }
-    if (verb == "list") {
-        return Until(kWindowTimeMs, [&] {
-            const auto lists = ShownChildren(place(), "ComboBox");
-            return number > 0 && lists.size() >= static_cast<size_t>(number) &&
-                   ChooseInList(lists[number - 1], argument.substr(argument.find(' ') + 1));
-        });
-    }
-    if (verb == "slider") return comes(kSlider) && MoveSlider(control, number);
-    if (verb == "press") return comes("Button", argument) && Press(control);
-    if (verb == "type" && comes("Edit")) {
-        TypeInto(control, argument);
-        return Until(kWindowTimeMs, [&] { return TextOf(control) == argument; });
-    }
-    if (verb != "tile" || !comes("OrvoPicture")) return false;
-    ClickTile(control, number);
-    return true;
+    return entries;
 }
 
 // "01-bip" and "Misc" give "01-bip-misc".
@@ -188,7 +114,7 @@ std::string PictureName(std::string name, const std::string& caption) {
 std::string AircraftList(const Cockpit& cockpit) {
     std::string list = cockpit.ReadFile("Orvo.ini").value_or("");
     list.erase(0, list.find("[Aircrafts]"));
-    list.erase(std::min(list.size(), list.find("\n[") + 1));
+    list.erase(std::min(list.size() - 1, list.find("\n[")) + 1);
     std::erase(list, '\r');
     std::ranges::replace(list, '\n', ' ');
     return list;
@@ -286,6 +212,8 @@ bool Pilot::Tour(const std::string& tour) const {
 std::string Pilot::See(const std::string& who) {
     if (who == "orvo") return OrvoState(cockpit_);
     if (who == "window") return WindowTitle(cockpit_);
+    if (who == "box") return TextOfBox(cockpit_);
+    if (who == "entries") return EntriesInList(cockpit_);
     if (who == "aircraft") return AircraftList(cockpit_);
     if (who == "profile") {
         const HWND combo = FindChild(cockpit_.MainWindow(), "ComboBox", std::nullopt);

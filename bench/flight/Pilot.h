@@ -19,10 +19,14 @@ namespace bench {
 //   icon, display       "double click", "remember"; show "as remembered" or "changed"
 //   tab, screen         the tab to open, the name of a screenshot
 //   window              in the one on top "press BUTTON", also a box or an option, "slider VALUE",
-//                       "tab CAPTION", "type TEXT", "list NUMBER ENTRY", "tile NUMBER" of a BIP
+//                       "tab CAPTION", "type TEXT", "list NUMBER ENTRY" of drop-down lists,
+//                       "entry ENTRY" and "double click ENTRY" of a list that is open, "keys KEY
+//                       KEY" of the keyboard, "close" for its close box, "tile NUMBER" of a BIP
 //                       Panel, from 0; the first that is seen, behind "FRAME: " the first in the
 //                       frame; "tour NAME CAPTION" for screenshots of the tab and those behind
 //                       it; shows the title
+//   box, entries        the text of the box on top; the entries of the open list in the window on
+//                       top, the selected one in brackets
 //   status, profile, aircraft   the status bar, the one in use, the list of those that are bound
 //   --                  a headline of the log
 struct Step {

@@ -39,6 +39,8 @@ constexpr char kNGXKeys[] =
     "[BIPPanel2]\r\nT23=FUEL_CROSS_FEED,Red\r\n";
 
 constexpr char kMainTitle[] = "ORVO    v0.5.1";
+constexpr char kProfiles[] = "ORVO - Profiles Configuration";
+constexpr char kAircraftProfile[] = "ORVO - Select Aircraft Profile";
 constexpr char kRadioDark[] = "upper dark dark lower dark dark";
 constexpr char kRadiosAtStart[] = R"(upper "118.10" "119.52" lower "118.10" "119.52")";
 constexpr char kRadiosTuned[] = R"(upper "118.55" "118.10" lower "118.55" "118.10")";
@@ -262,9 +264,76 @@ const std::vector<Step> kFlight = {
     {"switch2", "gear up", kGearMoves},
     {"switch1", "", kGearMoves},
 
-    {"--", "the user quits"},
+    {"--", "a new aircraft asks for its profile, while the panels go on"},
     {"tab", "General"},
-    {"screen", "18-general"},
+    {"window", "press Setup; press ... ask for a profile to bind; press OK", kMainTitle},
+    {"simulator", "title \"Bench Seaplane\""},
+    {"window", "", kAircraftProfile},
+    {"multi1", "knob +2 60", R"(upper "  082" lower "     " lights none)"},
+    {"window", "type Floats"},
+    {"screen", "18-new-aircraft"},
+    {"window", "press OK", kMainTitle},
+    {"profile", "", "Floats"},
+    {"aircraft", "",
+     "[Aircrafts] Bench Airliner=Airliner Bench Jet=Jet Bench Trainer=Default "
+     "Bench Seaplane=Floats "},
+    {"bip1", "", "tiles dark"},
+
+    {"--", "profiles are added and deleted, but not those that an aircraft has"},
+    {"window", "press Manage Profiles", kProfiles},
+    {"entries", "", "[Airliner], Jet, Floats, Default"},
+    {"screen", "19-profiles"},
+    {"window", "press Delete Select. Profile"},
+    {"box", "",
+     "The selected profile is bound to at list one Aircraft. You can't delete a profile bound."},
+    {"screen", "20-profile-bound"},
+    {"window", "press OK; press Add new Profile; type My Jet; press OK"},
+    {"box", "", "Only letters and numbers are admitted in profiles names"},
+    {"screen", "21-profile-name-refused"},
+    {"window", "press OK; type Glider"},
+    {"screen", "22-profile-name"},
+    {"window", "press OK", kProfiles},
+    {"entries", "", "Airliner, Jet, Floats, Glider, Default"},
+    {"window", "entry Glider; press Delete Select. Profile"},
+    {"box", "", "Are you sure you want to delete this profile ?"},
+    {"screen", "23-profile-delete"},
+    {"window", "press OK", kProfiles},
+    {"entries", "", "Airliner, Jet, Floats, Default"},
+    {"--", "an aircraft gets another profile"},
+    {"window", "tab Aircrafts; double click Bench Trainer", kAircraftProfile},
+    {"screen", "24-aircraft-profile"},
+    {"window", "list 1 Floats; press OK", kProfiles},
+    {"screen", "25-aircrafts"},
+    {"aircraft", "",
+     "[Aircrafts] Bench Airliner=Airliner Bench Jet=Jet Bench Trainer=Floats "
+     "Bench Seaplane=Floats "},
+
+    {"--", "the tiles of a BIP Panel are imported; they count when the window closes"},
+    {"window", "tab Profiles; entry Floats; press Import data from other profiles; entry Default"},
+    {"screen", "26-import-source"},
+    {"window", "press Next; press BIPPanel1"},
+    {"screen", "27-import-sections"},
+    {"window", "press Next"},
+    {"screen", "28-import-confirm"},
+    {"window", "press Ok"},
+    {"box", "", "Import successfully completed !"},
+    {"window", "press OK", kProfiles},
+    {"bip1", "", "tiles dark"},
+    {"window", "close", kMainTitle},
+    {"bip1", "", "tiles 10 red 23 green"},
+
+    {"--", "a profile gets a special mode; also that counts when the window closes"},
+    {"simulator", "set 0x652C 2 247"},
+    {"window", "press Manage Profiles; entry Floats; press PMDG NGX"},
+    {"screen", "29-special-mode"},
+    {"multi1", "", R"(upper "  082" lower "     " lights none)"},
+    {"window", "close", kMainTitle},
+    {"multi1", "", R"(upper "  247" lower "     " lights none)"},
+    {"window", "press Manage Profiles; entry Floats; press None; close", kMainTitle},
+    {"multi1", "", R"(upper "  082" lower "     " lights none)"},
+
+    {"--", "the user quits"},
+    {"screen", "30-general"},
     {"orvo", "quit", "ended with 0"},
     {"radio1 radio2", "", kRadioDark},
     {"multi1 multi2", "", kMultiDark},

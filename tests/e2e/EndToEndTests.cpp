@@ -6,6 +6,7 @@
 // Counts on windows.h.
 #include <commctrl.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <filesystem>
 #include <gtest/gtest.h>
@@ -85,6 +86,13 @@ class EndToEnd : public testing::Test {
         const HWND window = cockpit_->OpenGeneralOptions();
         EXPECT_TRUE(window);
         return window;
+    }
+
+    // A label in the window on top.
+    bool FrontComesToSay(const char* text) {
+        return Until(kSoonMs, [&] {
+            return FindShownChild(cockpit_->FrontWindow(), "Static", text) != nullptr;
+        });
     }
 
     // The window closes, and the main window is back.
@@ -397,6 +405,69 @@ TEST_F(EndToEnd, PanelsAreSetUpByOkAndLeftAloneByCancel) {
                          {"window", "press OK", "ORVO    v0.5.1"}}));
         EXPECT_EQ(cockpit_->ReadFile("Default.ini"), others + after);
     }
+    ExpectQuits();
+}
+
+TEST_F(EndToEnd, NewAircraftAskOneAfterTheOtherOverAllWindows) {
+    const std::string options = "[GeneralSetup]\r\nSplash=0\r\nAutoQuit=1\r\nManualProfile=1\r\n";
+    std::string bound = "[Aircrafts]\r\nBench Trainer=Default\r\n";
+    cockpit_->WriteIni(options + bound);
+    StartConnected();
+    cockpit_->Simulator("title \"First One\"");
+    ASSERT_TRUE(FrontComesToSay("First One"));
+    const HWND question = cockpit_->FrontWindow();
+    EXPECT_TRUE(GetWindowLongA(question, GWL_EXSTYLE) & WS_EX_TOPMOST);
+    cockpit_->Simulator("title \"Second One\"");
+    EXPECT_TRUE(cockpit_->StatusBecomes(3, "Aircraft in use: Second One", kSoonMs));
+    ExpectTicksKeepTheirPace();
+    EXPECT_TRUE(Fly(
+        {{"multi1", "selector HDG; knob +1 60", R"(upper "  081" lower "     " lights none)"}}));
+    EXPECT_EQ(cockpit_->FrontWindow(), question);
+    EXPECT_TRUE(Fly({{"window", "type Typed; keys Enter"}, {"profile", "", "Typed"}}));
+    ASSERT_TRUE(FrontComesToSay("Second One"));
+    bound += "First One=Typed\r\n";
+    EXPECT_EQ(cockpit_->ReadFile("Orvo.ini"), options + "[Profiles]\r\nTyped= \r\n" + bound);
+    cockpit_->KillSimulator();
+    EXPECT_EQ(cockpit_->Orvo().WaitForEnd(kAfterSilenceMs), 0u);
+    const std::string saved = cockpit_->ReadFile("Orvo.ini").value_or("");
+    EXPECT_EQ(saved.substr(std::min(saved.size(), saved.find("[Aircrafts]"))), bound) << saved;
+}
+
+TEST_F(EndToEnd, AnImportTakesTheTickedSectionsOverAsTheyAre) {
+    constexpr char kMain[] = "ORVO    v0.5.1";
+    constexpr char kProfiles[] = "ORVO - Profiles Configuration";
+    const std::string common = "[Common]\r\nSpecialMode=NGX\r\n";
+    const std::string multi = "[MultiPanel1]\r\nOwn=\" a; b \"\r\nCourseSel=2 , x\r\n\xE9=%=\r\n";
+    const std::string source = common + multi + "[RadioPanel1]\r\nADFMode=3\r\n[Bare]\r\n";
+    const std::string kept = "[RadioPanel1]\r\n; mine\r\nADFMode=1\r\n";
+    const std::string target = kept + "[Bare]\r\nOld=1\r\n[multipanel1]\r\nCrs=1\r\nOld=1\r\n";
+    cockpit_->WriteIni("[Profiles]\r\nSource=\r\nTarget=\r\n");
+    cockpit_->WriteFile("Source.ini", source);
+    cockpit_->WriteFile("Target.ini", target);
+    StartConnected();
+    DoubleClickTrayIcon();
+    // Down the list to its first profile; from Next over Cancel to the second box and the fourth.
+    const std::vector<Step> toTheEnd = {
+        {"window", "press Import data from other profiles", "ORVO"},
+        {"window", "keys Down Enter Tab Tab Tab Space Tab Tab Space Enter"}};
+    ASSERT_TRUE(Fly({{"orvo", "", "window open"},
+                     {"window", "press Manage Profiles", kProfiles},
+                     {"window", "entry Target"}}));
+    ASSERT_TRUE(Fly(toTheEnd));
+    ASSERT_TRUE(FrontComesToSay("Confirm the import of selected sections?"));
+    ASSERT_TRUE(Fly({{"window", "keys Esc", kProfiles}}));
+    EXPECT_EQ(cockpit_->ReadFile("Target.ini"), target);
+    ASSERT_TRUE(Fly(toTheEnd));
+    ASSERT_TRUE(FrontComesToSay("Confirm the import of selected sections?"));
+    ASSERT_TRUE(Fly({{"window", "keys Enter"},
+                     {"box", "", "Import successfully completed !"},
+                     {"window", "keys Enter", kProfiles}}));
+    EXPECT_EQ(cockpit_->ReadFile("Source.ini"), source);
+    EXPECT_EQ(cockpit_->ReadFile("Target.ini"), kept + multi);
+    ASSERT_TRUE(Fly({{"window", "tab Aircrafts; entry Bench Trainer; keys Enter",
+                      "ORVO - Select Aircraft Profile"},
+                     {"window", "keys Esc", kProfiles},
+                     {"window", "close", kMain}}));
     ExpectQuits();
 }
 
