@@ -115,8 +115,7 @@ std::optional<std::string> AircraftBinding::ProfileForNew(const std::string& tit
 }
 
 void AircraftBinding::FillProfileCombo() {
-    parts_.cmbProfiles.Clear();
-    for (const std::string& name : parts_.profiles.ProfileNames()) parts_.cmbProfiles.AddItem(name);
+    parts_.cmbProfiles.SetItems(parts_.profiles.ProfileNames());
 }
 
 void AircraftBinding::SelectCurrentProfile() {

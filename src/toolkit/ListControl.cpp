@@ -13,6 +13,12 @@ void ListControl::AddItem(std::string item) {
     NotifyChanged();
 }
 
+void ListControl::SetItems(const std::vector<std::string>& items) {
+    Clear();
+    items_ = items;
+    NotifyChanged();
+}
+
 void ListControl::SetListIndex(int32_t index) {
     if (index < -1 || index >= ListCount()) return;
     selected_ = index;

@@ -16,6 +16,8 @@ class ListControl : public Control {
     // Without Click, as is adding.
     virtual void Clear();
     void AddItem(std::string item);
+    // Puts these in the place of all entries; none is selected.
+    void SetItems(const std::vector<std::string>& items);
 
     const std::vector<std::string>& Items() const { return items_; }
     int32_t ListCount() const { return static_cast<int32_t>(items_.size()); }

@@ -31,7 +31,7 @@ frmAircraftProfile::frmAircraftProfile(const ProfileWindowServices& services,
     Label1.Face = FontFace::Bold;
     Label1.Caption = NewAircraftName;
     FirstFocus = &cmbProfiles;
-    for (const std::string& name : profiles_.ProfileNames()) cmbProfiles.AddItem(name);
+    cmbProfiles.SetItems(profiles_.ProfileNames());
     cmbProfiles.SetListIndex(cmbProfiles.ListCount() - 1);
 }
 

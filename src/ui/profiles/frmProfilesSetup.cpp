@@ -20,11 +20,6 @@ constexpr uint8_t kModes[] = {kStandardMode, kMaddogMode, kNGXMode};
 const MsgBoxRequest kDeleteRequest = {"Are you sure you want to delete this profile ?", "  ORVO",
                                       MsgBoxIcon::None, MsgBoxButtons::OkCancel};
 
-void Fill(ListBox& list, const std::vector<std::string>& entries) {
-    list.Clear();
-    for (const std::string& entry : entries) list.AddItem(entry);
-}
-
 void SelectEntry(ListBox& list, const std::string& entry) {
     const auto found = std::ranges::find(list.Items(), entry);
     if (found == list.Items().end()) return;
@@ -92,8 +87,8 @@ void frmProfilesSetup::PlaceAll() {
 
 // None of the entries is selected after that.
 void frmProfilesSetup::FillLists() {
-    Fill(lstProfiles, profiles_.ProfileNames());
-    Fill(lstAircrafts, profiles_.AircraftNames());
+    lstProfiles.SetItems(profiles_.ProfileNames());
+    lstAircrafts.SetItems(profiles_.AircraftNames());
     labProfile.Caption = "";
     cmdImport.Enabled = false;
     frameSpecialMode.Enabled = false;
