@@ -374,3 +374,27 @@ TEST_F(ProfileWindowTest, ImportTakesTheTickedSectionsInThreeSteps) {
     EXPECT_EQ(program->Session.SpecialMode, kNGXMode);
     EXPECT_EQ(File("Default"), after) << "the text as it was";
 }
+
+TEST_F(ProfileWindowTest, ImportOffersTenSectionsOfAsManyAsThereAre) {
+    std::string ten, twelve;
+    for (int i = 1; i <= 12; ++i) {
+        twelve += "[S" + std::to_string(i) + "]\r\nk=1\r\n";
+        if (i == 10) ten = twelve;
+    }
+    PutProfile("Ten", ten);
+    PutProfile("Twelve", twelve);
+    Begin("[Profiles]\r\nBare= \r\nTen= \r\nTwelve= \r\n");
+    for (const char* source : {"Ten", "Twelve"}) {
+        machine.files.Delete("C:\\Orvo\\Bare.ini");
+        In<frmProfileImport>([source](frmProfileImport& window) {
+            Select(window.lstProfiles, source);
+            window.cmdOk.Press();
+            for (CheckBox& box : window.chkSection) box.Press();
+            window.cmdOk.Press();
+            window.cmdOk.Press();
+        });
+        InProfiles([](frmProfilesSetup& window) { window.cmdImport.Press(); });
+        EXPECT_EQ(Boxes(), Names{"iImport successfully completed !"});
+        EXPECT_EQ(File("Bare"), ten) << source << " into a profile without a file";
+    }
+}
