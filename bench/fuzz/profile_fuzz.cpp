@@ -1,9 +1,10 @@
-// Hand-made lists and bindings: whatever is in them, they load, and a save and a load give the
-// same.
+// Hand-made lists and bindings: whatever is in them, they load, and a save, an import and a load
+// give the same.
 #include <cstdlib>
 #include <string>
 
 #include "config/IniKey.h"
+#include "config/ProfileImport.h"
 #include "config/ProfileName.h"
 #include "panels/bip/cBIPPanelActionHolder.h"
 #include "panels/multi/cMultiPanelActionsHolder.h"
@@ -56,6 +57,19 @@ void CheckLists(const std::string& text) {
     }
 }
 
+void CheckImport(const std::string& text) {
+    VirtualPlatform machine;
+    machine.files.Put("C:\\Orvo\\Source.ini", text);
+    machine.files.Put("C:\\Orvo\\Target.ini", "[Old]\nk=1\n");
+    const ProfileFiles files(machine.ini, machine.files, machine.clock, "C:\\Orvo");
+    const ProfileImport import(files, "Source", "Target");
+    const auto sections = import.Sections().value();
+    Require(bool(import.Copy(sections)));
+    for (const std::string& section : sections) {
+        Require(files.Read("Target")->Written(section) == files.Read("Source")->Written(section));
+    }
+}
+
 // What can't be selected can't be loaded.
 void CheckTiles(const cBIPPanelActionHolder& loaded, const cBIPPanelActionHolder& again) {
     for (int16_t tile = 0; tile < kBIPTiles; ++tile) {
@@ -98,6 +112,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     Require(FromIniKey(ToIniKey(text)) == text);
     if (size <= kLongestLists) CheckLists(text);
     if (size > kLongestBindings) return 0;
+    CheckImport(text);
     CheckBindings<cMultiPanelActionsHolder>("[MultiPanel1]\n", text);
     CheckBindings<cRadioPanelActionsHolder>("[RadioPanel1]\n", text);
     CheckBindings<cSwitchPanelActionsHolder>("[SwitchPanel1]\n", text);
