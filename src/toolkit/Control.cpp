@@ -22,6 +22,8 @@ void Control::Move(int32_t left, int32_t top, int32_t width, int32_t height) {
 
 bool Control::IsEnabled() const { return Enabled && (!parent_ || parent_->IsEnabled()); }
 
+bool Control::IsShown() const { return Visible && (!parent_ || parent_->IsShown()); }
+
 bool Control::TakesActs() const { return Enabled && Visible && (!parent_ || parent_->TakesActs()); }
 
 void Control::Realize(UiBackend& ui) {

@@ -45,6 +45,8 @@ class Control {
 
     // Whether the control and all that it lies in are enabled.
     bool IsEnabled() const;
+    // Whether the control and all that it lies in are visible.
+    bool IsShown() const;
     // Whether the user can reach it: it and all that it lies in are enabled and visible, and
     // nothing modal stands over its form. A form that isn't shown counts as if it were.
     virtual bool TakesActs() const;

@@ -48,20 +48,16 @@ RECT Painter::AreaOf(const Control& control) const {
             ToDots(control.Top + control.Height)};
 }
 
-bool Painter::IsIn(const Control& control) const {
-    RECT area = DrawnArea(control, services_.scale);
-    for (LONG* edge : {&area.left, &area.top, &area.right, &area.bottom}) *edge *= Canvas::kScale;
-    return RectVisible(dc_, &area) != FALSE;
-}
-
-void Painter::Draw(const Picture& picture) {
+void Painter::Draw(const Picture& picture, const RECT& area) {
     const GdiHandle<HBRUSH> ground(CreateSolidBrush(ToColor(picture.BackColor)));
     RECT whole;
     GetClipBox(dc_, &whole);
     FillRect(dc_, &whole, ground.get());
     SetBkMode(dc_, TRANSPARENT);
     for (const Control* child : picture.Children()) {
-        if (child->Visible && IsIn(*child)) DrawPart(*child);
+        if (!child->Visible) continue;
+        const RECT drawn = DrawnArea(*child, services_.scale);
+        if (RECT both; IntersectRect(&both, &drawn, &area)) DrawPart(*child);
     }
 }
 

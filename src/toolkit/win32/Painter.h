@@ -8,12 +8,13 @@
 // Where a part of a Picture is drawn, in pixels of the screen.
 RECT DrawnArea(const Control& control, Scale scale);
 
-// Draws what a Canvas has room for of a Picture, at the Canvas's scale.
+// Draws an area of a Picture, at the scale of a Canvas.
 class Painter {
   public:
     Painter(HDC dc, const PeerServices& services) : dc_(dc), services_(services) {}
 
-    void Draw(const Picture& picture);
+    // `area` is in pixels of the screen.
+    void Draw(const Picture& picture, const RECT& area);
 
   private:
     void Draw(const Label& label);
@@ -24,7 +25,6 @@ class Painter {
     int ToDots(int32_t twips) const;
     int PenWidth(int32_t twips) const;
     RECT AreaOf(const Control& control) const;
-    bool IsIn(const Control& control) const;
 
     HDC dc_;
     const PeerServices& services_;

@@ -2,6 +2,7 @@
 
 #include "toolkit/Scale.h"
 
+class Canvas;
 class FontCache;
 class UiBackend;
 
@@ -9,5 +10,6 @@ class UiBackend;
 struct PeerServices {
     UiBackend& ui;
     FontCache& fonts;
+    Canvas& canvas;
     Scale scale;
 };

@@ -2,9 +2,19 @@
 
 #include <windowsx.h>
 
+#include <utility>
+
 #include "toolkit/win32/Canvas.h"
 #include "toolkit/win32/Colors.h"
 #include "toolkit/win32/Painter.h"
+
+namespace {
+
+constexpr UINT_PTR kPaceTimer = 1;
+// A region of more pieces is painted as a whole.
+constexpr DWORD kMostAreas = 8;
+
+}  // namespace
 
 PicturePeer::PicturePeer(Picture& picture, const PeerServices& services)
     : ContainerPeer(picture, services, kPictureClass, 0), picture_(picture) {
@@ -18,6 +28,13 @@ LRESULT PicturePeer::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
             return 0;
         case WM_ERASEBKGND:
             return 1;
+        case WM_TIMER:
+            if (wParam == kPaceTimer) PaintWhatWaits();
+            return 0;
+        case WM_GETTEXT:
+        case WM_GETTEXTLENGTH:
+            BringTextUpToDate();
+            break;
         // What is seen through and around the controls on it.
         case WM_PRINTCLIENT: {
             RECT area;
@@ -30,8 +47,9 @@ LRESULT PicturePeer::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
             OnClick(lParam);
             return 0;
         default:
-            return ContainerPeer::OnMessage(message, wParam, lParam);
+            break;
     }
+    return ContainerPeer::OnMessage(message, wParam, lParam);
 }
 
 void PicturePeer::FollowMore() {
@@ -59,16 +77,56 @@ std::string PicturePeer::Text() const {
     return text;
 }
 
+void PicturePeer::Invalidate(const RECT& area) {
+    if (!picture_.IsShown()) return;
+    if (pace_.MayPaint(GetTickCount())) {
+        InvalidateRect(Window(), &area, FALSE);
+        return;
+    }
+    GdiHandle<HRGN> region(CreateRectRgnIndirect(&area));
+    if (waiting_) {
+        CombineRgn(waiting_.get(), waiting_.get(), region.get(), RGN_OR);
+        return;
+    }
+    waiting_ = std::move(region);
+    SetTimer(Window(), kPaceTimer, PaintPace::kIntervalMs, nullptr);
+}
+
+void PicturePeer::PaintWhatWaits() {
+    KillTimer(Window(), kPaceTimer);
+    InvalidateRgn(Window(), waiting_.get(), FALSE);
+    waiting_.reset();
+}
+
+void PicturePeer::BringTextUpToDate() {
+    if (std::exchange(labelsChanged_, false)) SetText(Text());
+}
+
+std::vector<RECT> PicturePeer::ChangedAreas() const {
+    const GdiHandle<HRGN> region(CreateRectRgn(0, 0, 0, 0));
+    if (GetUpdateRgn(Window(), region.get(), FALSE) != COMPLEXREGION) return {};
+    std::vector<char> bytes(GetRegionData(region.get(), 0, nullptr));
+    auto* data = reinterpret_cast<RGNDATA*>(bytes.data());
+    GetRegionData(region.get(), static_cast<DWORD>(bytes.size()), data);
+    if (bytes.empty() || data->rdh.nCount > kMostAreas) return {};
+    const auto* first = reinterpret_cast<const RECT*>(data->Buffer);
+    return {first, first + data->rdh.nCount};
+}
+
 void PicturePeer::Paint() {
+    std::vector<RECT> areas = ChangedAreas();
     PAINTSTRUCT paint;
     const HDC screen = BeginPaint(Window(), &paint);
-    Canvas canvas(paint.rcPaint);
-    if (canvas.Dc()) {
-        Painter painter(canvas.Dc(), Services());
-        painter.Draw(picture_);
-        canvas.CopyTo(screen);
+    if (areas.empty()) areas.push_back(paint.rcPaint);
+    for (const RECT& area : areas) {
+        const HDC dc = Services().canvas.Begin(area);
+        if (!dc) continue;
+        Painter(dc, Services()).Draw(picture_, area);
+        Services().canvas.CopyTo(screen);
     }
     EndPaint(Window(), &paint);
+    pace_.Painted();
+    BringTextUpToDate();
 }
 
 DrawnPeer::DrawnPeer(const Control& control, PicturePeer& picture)
@@ -77,9 +135,10 @@ DrawnPeer::DrawnPeer(const Control& control, PicturePeer& picture)
 }
 
 void DrawnPeer::Follow() {
-    picture_.Invalidate(area_);
+    const RECT before = area_;
     area_ = DrawnArea(control_, picture_.ScaleOf());
-    picture_.Invalidate(area_);
+    picture_.Invalidate(before);
+    if (!EqualRect(&before, &area_)) picture_.Invalidate(area_);
     if (label_) FollowCaption();
 }
 

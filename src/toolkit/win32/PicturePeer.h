@@ -3,17 +3,19 @@
 #include "toolkit/Picture.h"
 #include "toolkit/win32/ContainerPeer.h"
 #include "toolkit/win32/GdiHandle.h"
+#include "toolkit/win32/PaintPace.h"
 
-// A Picture's window: painted as a whole when it has changed and can be seen.
+// A Picture's window: painted where it has changed, when that can be seen, at a pace.
 class PicturePeer : public ContainerPeer {
   public:
     PicturePeer(Picture& picture, const PeerServices& services);
 
     // What is drawn in an area isn't true any more. Several calls make one painting.
-    void Invalidate(const RECT& area) { InvalidateRect(Window(), &area, FALSE); }
+    void Invalidate(const RECT& area);
 
-    // A label shows something else: the window's text, which screen readers read, follows.
-    void FollowLabels() { SetText(Text()); }
+    // A label shows something else: the window's text, which screen readers read, follows when it
+    // is painted or asked for.
+    void FollowLabels() { labelsChanged_ = true; }
 
     HBRUSH Ground() const override { return ground_.get(); }
     Scale ScaleOf() const { return Services().scale; }
@@ -26,10 +28,16 @@ class PicturePeer : public ContainerPeer {
 
   private:
     void Paint();
+    std::vector<RECT> ChangedAreas() const;
+    void PaintWhatWaits();
+    void BringTextUpToDate();
     void OnClick(LPARAM point);
 
     Picture& picture_;
     Color groundColor_ = 0;
+    PaintPace pace_;
+    GdiHandle<HRGN> waiting_;  // to be painted when the pace allows
+    bool labelsChanged_ = false;
     GdiHandle<HBRUSH> ground_;
 };
 

@@ -2,6 +2,7 @@
 
 #include "toolkit/Form.h"
 #include "toolkit/win32/ButtonPeer.h"
+#include "toolkit/win32/Canvas.h"
 #include "toolkit/win32/CheckBoxPeer.h"
 #include "toolkit/win32/ComboBoxPeer.h"
 #include "toolkit/win32/CommonControls.h"
@@ -100,7 +101,9 @@ Win32Ui::Win32Ui() : Win32Ui(FontCache::SystemDpi()) {}
 
 Win32Ui::Win32Ui(int dotsPerInch)
     : fonts_(std::make_unique<FontCache>(Scale(dotsPerInch))),
-      services_(std::make_unique<PeerServices>(PeerServices{*this, *fonts_, Scale(dotsPerInch)})) {
+      canvas_(std::make_unique<Canvas>()),
+      services_(std::make_unique<PeerServices>(
+          PeerServices{*this, *fonts_, *canvas_, Scale(dotsPerInch)})) {
     INITCOMMONCONTROLSEX controls{sizeof controls,
                                   ICC_STANDARD_CLASSES | ICC_TAB_CLASSES | ICC_BAR_CLASSES};
     InitCommonControlsEx(&controls);
@@ -136,6 +139,7 @@ MsgBoxResult Win32Ui::ShowBox(const MsgBoxRequest& request) {
     const bool cancellable = request.buttons == MsgBoxButtons::OkCancel;
     const UINT flags =
         (cancellable ? MB_OKCANCEL : MB_OK) | BoxIcon(request.icon) | MB_SETFOREGROUND;
+    if (BeforeBox) BeforeBox();
     const int pressed = MessageBoxW(BoxOwner(ModalForm()), ToWide(request.text).c_str(),
                                     ToWide(request.title).c_str(), flags);
     return cancellable && pressed != IDOK ? MsgBoxResult::Cancel : MsgBoxResult::Ok;

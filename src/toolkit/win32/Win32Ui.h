@@ -1,9 +1,11 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 
 #include "toolkit/UiBackend.h"
 
+class Canvas;
 class FontCache;
 struct PeerServices;
 
@@ -24,10 +26,14 @@ class Win32Ui : public UiBackend {
     // dispatched: whether it has been dealt with.
     bool TakeKey(void* message);
 
+    // Called before a box opens: a loop of the system's takes the messages until it is closed.
+    std::function<void()> BeforeBox;
+
   protected:
     MsgBoxResult ShowBox(const MsgBoxRequest& request) override;
 
   private:
     std::unique_ptr<FontCache> fonts_;
+    std::unique_ptr<Canvas> canvas_;
     std::unique_ptr<PeerServices> services_;
 };

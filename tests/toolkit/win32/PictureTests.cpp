@@ -17,9 +17,10 @@ Pixels AllOf(HDC dc) {
 
 // What a display shows of a text.
 Pixels Drawn(const std::string& text, Alignment align, bool hasPoints = true) {
-    Canvas canvas(kDisplay);
-    DrawSevenSegment(canvas.Dc(), kDisplay, ToSegmentCells(text, hasPoints), align, 40, 0xFFFFFF);
-    return AllOf(canvas.Dc());
+    Canvas canvas;
+    const HDC dc = canvas.Begin(kDisplay);
+    DrawSevenSegment(dc, kDisplay, ToSegmentCells(text, hasPoints), align, 40, 0xFFFFFF);
+    return AllOf(dc);
 }
 
 }  // namespace
@@ -45,6 +46,38 @@ TEST_F(PeerTest, PictureIsPaintedWhereItChangedAndOnlyWhenSeen) {
     Pump();
     EXPECT_EQ(PixelOf(picture, 30, 40), 0x202020u);
     EXPECT_EQ(PixelOf(picture, 60, 40), 0x00FF00u);
+}
+
+TEST_F(PeerTest, PictureThatChangesAllTheTimeIsPaintedAtAPaceAndInTheEndAsItIs) {
+    Picture picture(&form);
+    picture.Move(0, 0, 3000, 1500);
+    Shape lamp(&picture);
+    lamp.Move(300, 300, 600, 600);
+    Label label(&picture);
+    Show();
+    int paints = 0;
+    const auto count = [](HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
+                          DWORD_PTR counter) -> LRESULT {
+        if (message == WM_PAINT) ++*reinterpret_cast<int*>(counter);
+        return DefSubclassProc(window, message, wParam, lParam);
+    };
+    SetWindowSubclass(WindowOf(picture), count, 1, reinterpret_cast<DWORD_PTR>(&paints));
+    int changes = 0;
+    const auto timer = loop.StartTimer(5, [&] {
+        lamp.FillColor = ++changes % 2 ? 0x0000FFU : 0x00FF00U;
+        label.Caption = FormatInteger(changes);
+    });
+    loop.RunUntil([&] { return changes == 100; });
+    loop.StopTimer(timer);
+    EXPECT_GE(paints, 10);
+    EXPECT_LE(paints, 35) << "of 100 changes";
+    const ULONGLONG end = GetTickCount64() + 2000;
+    const auto wake = loop.StartTimer(10, [] {});
+    const auto green = [&] { return PixelOf(picture, 40, 40) == 0x00FF00u; };
+    loop.RunUntil([&] { return green() || GetTickCount64() > end; });
+    loop.StopTimer(wake);
+    EXPECT_TRUE(green());
+    EXPECT_EQ(TextOf(picture), "100");
 }
 
 TEST_F(PeerTest, DisplayOfAPictureIsDrawnAnewWithoutItsPoints) {
