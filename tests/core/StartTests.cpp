@@ -79,7 +79,7 @@ TEST_F(StartTest, PanelsAreNumberedHavePagesAndFollowTheOptions) {
 }
 
 TEST_F(StartTest, SystemWithoutDeviceListsEndsWithThreeLines) {
-    machine.deckhub.RefuseEnumerator();
+    machine.deckhub.Refuse(DeckhubCall::CreateEnumerator);
     EXPECT_FALSE(Start());
     ASSERT_EQ(ui.Boxes.size(), 1U);
     EXPECT_EQ(ui.Boxes[0].text,

@@ -24,10 +24,11 @@ class VirtualEnumerator : public PanelEnumerator {
 }  // namespace
 
 std::unique_ptr<PanelEnumerator> VirtualDeckhub::CreateEnumerator() {
-    if (faults_.Take(0)) return nullptr;
+    if (faults_.Take(DeckhubCall::CreateEnumerator)) return nullptr;
     return std::make_unique<VirtualEnumerator>(bus_);
 }
 
 std::unique_ptr<PanelLink> VirtualDeckhub::CreateLink() {
-    return std::make_unique<VirtualLink>(bus_, clock_, loop_, starts_, reading_);
+    const bool deaf = faults_.Take(DeckhubCall::StartReading);
+    return std::make_unique<VirtualLink>(bus_, clock_, loop_, starts_, reading_, deaf);
 }

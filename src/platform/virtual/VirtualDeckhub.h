@@ -7,6 +7,8 @@
 #include "platform/virtual/VirtualBus.h"
 #include "platform/virtual/VirtualLink.h"
 
+enum class DeckhubCall : uint8_t { CreateEnumerator, StartReading };
+
 // Finds and reads the devices of the bus.
 class VirtualDeckhub : public Deckhub {
   public:
@@ -16,8 +18,10 @@ class VirtualDeckhub : public Deckhub {
     std::unique_ptr<PanelEnumerator> CreateEnumerator() override;
     std::unique_ptr<PanelLink> CreateLink() override;
 
-    // The next `times` enumerators can't be had.
-    void RefuseEnumerator(int times = Faults<int>::kAlways) { faults_.Refuse(0, times); }
+    // A refused enumerator can't be had, a refused reading brings nothing.
+    void Refuse(DeckhubCall call, int times = Faults<DeckhubCall>::kAlways) {
+        faults_.Refuse(call, times);
+    }
 
     // Every start of reading so far, with the link's fields as they were then.
     const std::vector<LinkStart>& Starts() const { return *starts_; }
@@ -29,5 +33,5 @@ class VirtualDeckhub : public Deckhub {
     MessageLoop& loop_;
     std::shared_ptr<std::vector<LinkStart>> starts_ = std::make_shared<std::vector<LinkStart>>();
     std::shared_ptr<int> reading_ = std::make_shared<int>(0);
-    Faults<int> faults_;
+    Faults<DeckhubCall> faults_;
 };

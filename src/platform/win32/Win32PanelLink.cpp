@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "platform/ReportInbox.h"
 #include "platform/win32/Win32HidLibrary.h"
 #include "platform/win32/Win32PanelReader.h"
 
@@ -34,20 +35,19 @@ void Win32PanelLink::StartReading() {
     if (!device) return;
     if (hid_->setNumInputBuffers) hid_->setNumInputBuffers(device.Get(), kInputBuffers);
 
-    wanted_ = std::make_shared<bool>(true);
-    const auto received = [this, wanted = wanted_](std::span<const uint8_t> bytes) {
+    inbox_ = std::make_shared<ReportInbox>(loop_, [this](const ReportInbox::Report& report) {
+        ReportClock = report.clock;
+        const auto& [b0, b1, b2, b3] = report.bytes;
+        RawInput.Raise(b0, b1, b2, b3);
+    });
+    const auto received = [inbox = inbox_](std::span<const uint8_t> bytes) {
         // The system hands over as many whole reports as fit; what is no multiple of their size is
         // one longer report.
         const size_t count = bytes.size() % kReportSize == 0 ? bytes.size() / kReportSize : 1;
-        const uint32_t clock = ::GetTickCount();
+        ReportInbox::Report report{{}, ::GetTickCount()};
         for (size_t i = 0; i < count && bytes.size() >= kReportSize; ++i) {
-            const uint8_t* report = bytes.data() + i * kReportSize;
-            loop_.Post([this, wanted, clock, b0 = report[0], b1 = report[1], b2 = report[2],
-                        b3 = report[3]] {
-                if (!*wanted) return;
-                ReportClock = clock;
-                RawInput.Raise(b0, b1, b2, b3);
-            });
+            std::ranges::copy(bytes.subspan(i * kReportSize, kReportSize), report.bytes.begin());
+            inbox->Put(report);
         }
     };
     reader_ = std::make_unique<Win32PanelReader>(
@@ -57,7 +57,7 @@ void Win32PanelLink::StartReading() {
 }
 
 void Win32PanelLink::StopReading() {
-    if (wanted_) *wanted_ = false;
-    wanted_.reset();
+    if (inbox_) inbox_->Close();
+    inbox_.reset();
     reader_.reset();
 }

@@ -3,6 +3,7 @@
 #include "platform/Deckhub.h"
 #include "platform/MessageLoop.h"
 
+class ReportInbox;
 class Win32HidLibrary;
 class Win32PanelReader;
 
@@ -18,6 +19,5 @@ class Win32PanelLink final : public PanelLink {
     MessageLoop& loop_;
     std::shared_ptr<const Win32HidLibrary> hid_;
     std::unique_ptr<Win32PanelReader> reader_;
-    // Whether reports of the reading under way are still wanted. Used on the loop's thread only.
-    std::shared_ptr<bool> wanted_;
+    std::shared_ptr<ReportInbox> inbox_;  // of the reading under way
 };
