@@ -10,6 +10,7 @@ int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR, int) {
     Win32Platform machine;
     Win32Ui ui;
     machine.Loop().TakesMessage = [&ui](void* message) { return ui.TakeKey(message); };
+    ui.BeforeBox = [&machine] { machine.Loop().GiveToSystem(); };
     const Platform ports = machine.Ports();
     modMain program(ports, ui);
     if (program.Main()) ports.loop.Run();

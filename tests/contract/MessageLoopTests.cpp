@@ -85,6 +85,17 @@ TEST_F(MessageLoopContract, LateTicksDontPileUpAndAStoppedTimersTickIsDropped) {
     EXPECT_EQ(seen.size(), 2u);
 }
 
+TEST_F(MessageLoopContract, WhatALongTickMissesIsNotMadeUpFor) {
+    const uint32_t start = clock.GetTickCount();
+    const auto timer = loop.StartTimer(100, [this] {
+        seen.push_back(1);
+        if (seen.size() == 1) clock.Sleep(350);
+    });
+    loop.RunUntil([this] { return seen.size() == 3; });
+    EXPECT_GE(Since(start), 480u) << "one late tick, and then the rhythm as before";
+    loop.StopTimer(timer);
+}
+
 TEST_F(MessageLoopContract, TicksMayStopAndStartTimers) {
     MessageLoop::TimerId first = 0;
     MessageLoop::TimerId second = 0;

@@ -2,11 +2,18 @@
 
 #include <windows.h>
 
-#include <algorithm>
+// Counts on windows.h.
+#include <mmsystem.h>
+
 #include <utility>
 
 #include "platform/win32/Win32HiddenWindow.h"
+#include "platform/win32/Win32Library.h"
 #include "platform/win32/Win32TimerThread.h"
+
+using Moment = Win32LoopWork::Moment;
+using SteadyClock = Win32LoopWork::SteadyClock;
+using std::chrono::milliseconds;
 
 namespace {
 
@@ -14,35 +21,83 @@ namespace {
 // RunPending can leave it out with two ranges.
 constexpr UINT kWake = 0xBFFF;
 
-// No number of a timer of the program.
-constexpr MessageLoop::TimerId kGiveWayTimer = 0;
-constexpr uint32_t kGiveWayMs = 1;
+constexpr milliseconds kGiveWay{1};
+// So much a tick may be late before a loop of the system is taken to have the messages.
+constexpr milliseconds kGrace{2};
 
 // A window that asks to be painted for ever, or posts to itself, must not hold a pass.
 constexpr int kMessagesPerPass = 1000;
+// Between two batches of work that follow upon each other without a gap.
+constexpr int kMessagesPerTurn = 8;
 
-bool TakeMessage(MSG& message, UINT first, UINT last) {
+// Length of the system's own clock tick, which an ordinary timer can't go below by itself.
+constexpr milliseconds kSystemTick{16};
+
+bool Peek(MSG& message, UINT first, UINT last) {
     return PeekMessageW(&message, nullptr, first, last, PM_REMOVE) != 0;
 }
 
-bool TakeAnyButWake(MSG& message) {
-    return TakeMessage(message, 0, kWake - 1) || TakeMessage(message, kWake + 1, 0xFFFF);
+bool PeekAnyButWake(MSG& message) {
+    return Peek(message, 0, kWake - 1) || Peek(message, kWake + 1, 0xFFFF);
+}
+
+// Newer systems slow down programs that show no window, and make their timers coarse; asks them not
+// to. Older ones know nothing of it, or only of the speed.
+void DeclineThrottling() {
+    const Win32Library kernel(L"kernel32.dll");
+    BOOL(WINAPI * setInformation)(HANDLE, PROCESS_INFORMATION_CLASS, LPVOID, DWORD) = nullptr;
+    kernel.Find("SetProcessInformation", setInformation);
+    if (!setInformation) return;
+    PROCESS_POWER_THROTTLING_STATE state{};
+    state.Version = PROCESS_POWER_THROTTLING_CURRENT_VERSION;
+    for (const ULONG controlled : {PROCESS_POWER_THROTTLING_EXECUTION_SPEED |
+                                       PROCESS_POWER_THROTTLING_IGNORE_TIMER_RESOLUTION,
+                                   PROCESS_POWER_THROTTLING_EXECUTION_SPEED}) {
+        state.ControlMask = controlled;
+        if (setInformation(GetCurrentProcess(), ProcessPowerThrottling, &state, sizeof state)) {
+            return;
+        }
+    }
 }
 
 }  // namespace
 
+struct Win32Loop::Waits {
+    Win32WaitableTimer timer;
+    Win32Handle posted{CreateEventW(nullptr, FALSE, FALSE, nullptr)};
+};
+
+// Lends the messages to the system, for as long as this lives.
+class Win32Loop::Lent {
+  public:
+    explicit Lent(Win32Loop& loop) : loop_(loop), own_(loop.own_) { loop.GiveToSystem(); }
+    Lent(const Lent&) = delete;
+    Lent& operator=(const Lent&) = delete;
+    ~Lent() { loop_.own_ = own_; }
+
+  private:
+    Win32Loop& loop_;
+    const bool own_;
+};
+
 Win32Loop::Win32Loop()
-    : window_(std::make_unique<Win32HiddenWindow>(
+    : thread_(GetCurrentThreadId()),
+      waits_(std::make_unique<Waits>()),
+      window_(std::make_unique<Win32HiddenWindow>(
           L"OrvoLoop", HWND_MESSAGE,
           [this](HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
               return static_cast<LRESULT>(Handle(window, message, wParam, lParam));
           })),
-      timerThread_(std::make_unique<Win32TimerThread>([this](TimerId timer) { MarkDue(timer); })) {}
+      timerThread_(std::make_unique<Win32TimerThread>([this] { return KeepTime(); })) {
+    DeclineThrottling();
+}
 
 Win32Loop::~Win32Loop() {
+    timerThread_.reset();
+    if (finePeriod_) timeEndPeriod(1);
     // What Quit left in the thread's queue is not meant for a later loop.
     MSG message{};
-    TakeMessage(message, WM_QUIT, WM_QUIT);
+    Peek(message, WM_QUIT, WM_QUIT);
 }
 
 void Win32Loop::Run() {
@@ -50,17 +105,64 @@ void Win32Loop::Run() {
 }
 
 void Win32Loop::RunUntil(const std::function<bool()>& done) {
+    const bool outer = own_;
     while (!quit_ && !done()) {
-        MSG message{};
-        if (!TakeMessage(message, 0, 0)) {
-            // Comes back for what another thread sends, too: that gives no message to take.
-            MsgWaitForMultipleObjectsEx(0, nullptr, INFINITE, QS_ALLINPUT, MWMO_INPUTAVAILABLE);
-        } else if (message.message == WM_QUIT) {
-            Quit();
-        } else {
-            Dispatch(&message);
-        }
+        own_ = true;
+        Turn();
     }
+    own_ = outer;
+    if (!outer) GiveToSystem();
+}
+
+// One tick, task or message, or one wait. A batch of what waits at one moment is followed by
+// messages where there was no pause before it: so neither holds up the other.
+void Win32Loop::Turn() {
+    work_.RaiseDue(SteadyClock::now());
+    if (work_.RunFirst(batchEnd_)) return;
+    if (messagesLeft_ > 0) {
+        --messagesLeft_;
+        if (TakeMessage()) return;
+        messagesLeft_ = 0;
+    }
+    signalled_ = false;
+    if (work_.FirstNumber() == 0) return AwaitWork();
+    batchEnd_ = work_.LastNumber();
+    if (!std::exchange(waited_, false)) messagesLeft_ = kMessagesPerTurn;
+}
+
+void Win32Loop::AwaitWork() {
+    ArmTimer();
+    const HANDLE handles[] = {waits_->timer.Get(), waits_->posted.Get()};
+    // Comes back for what another thread sends, too: that gives no message to take.
+    const DWORD what =
+        MsgWaitForMultipleObjectsEx(2, handles, INFINITE, QS_ALLINPUT, MWMO_INPUTAVAILABLE);
+    if (what == WAIT_OBJECT_0 && armed_) armed_->moment += armed_->interval;
+    if (what == WAIT_OBJECT_0 + 2) messagesLeft_ = kMessagesPerTurn;
+    waited_ = true;
+}
+
+// As long as one timer keeps its rhythm, nothing is to be done.
+void Win32Loop::ArmTimer() {
+    const auto next = work_.NextDue();
+    if (next && (!armed_ || armed_->moment != next->moment)) {
+        waits_->timer.Set(next->moment, next->interval);
+    } else if (!next && armed_) {
+        waits_->timer.Cancel();
+    }
+    armed_ = next;
+}
+
+// False when there is none.
+bool Win32Loop::TakeMessage() {
+    const Lent lent(*this);
+    MSG message{};
+    if (!Peek(message, 0, 0)) return false;
+    if (message.message == WM_QUIT) {
+        Quit();
+    } else {
+        Dispatch(&message);
+    }
+    return true;
 }
 
 void Win32Loop::Dispatch(void* taken) const {
@@ -72,17 +174,15 @@ void Win32Loop::Dispatch(void* taken) const {
 }
 
 void Win32Loop::RunPending() {
-    uint64_t last = 0;
-    {
-        const std::lock_guard lock(mutex_);
-        last = lastNumber_;
-    }
-    while (RunFirst(last)) {
+    work_.RaiseDue(SteadyClock::now());
+    const uint64_t last = work_.LastNumber();
+    while (work_.RunFirst(last, [this] { Wake(); })) {
     }
     // The wake message stays for a modal loop that one of these may open.
+    const Lent lent(*this);
     MSG message{};
     bool quit = false;
-    for (int i = 0; i < kMessagesPerPass && TakeAnyButWake(message); ++i) {
+    for (int i = 0; i < kMessagesPerPass && PeekAnyButWake(message); ++i) {
         if (message.message == WM_QUIT) {
             quit = true;
         } else {
@@ -99,45 +199,53 @@ void Win32Loop::Quit() {
 }
 
 void Win32Loop::Post(std::function<void()> task) {
-    const std::lock_guard lock(mutex_);
-    tasks_.push_back({++lastNumber_, std::move(task)});
+    work_.Post(std::move(task));
     Wake();
 }
 
 MessageLoop::TimerId Win32Loop::StartTimer(uint32_t intervalMs, std::function<void()> tick) {
     const TimerId id = ++lastTimer_;
-    {
-        const std::lock_guard lock(mutex_);
-        timers_.push_back(std::make_shared<Timer>(Timer{id, std::move(tick)}));
-    }
-    timerThread_->Start(id, intervalMs);
+    work_.StartTimer(id, intervalMs, std::move(tick));
+    ChoosePeriod();
+    if (!own_) GiveToSystem();
     return id;
 }
 
 void Win32Loop::StopTimer(TimerId timer) {
-    if (timer == kGiveWayTimer) return;
-    timerThread_->Stop(timer);
-    const std::lock_guard lock(mutex_);
-    std::erase_if(timers_, [timer](const auto& known) { return known->id == timer; });
+    work_.StopTimer(timer);
+    ChoosePeriod();
+}
+
+void Win32Loop::GiveToSystem() {
+    own_ = false;
+    if (work_.FirstNumber() != 0) {
+        timerThread_->WakeAt(SteadyClock::now() + kGrace);
+    } else if (const auto next = work_.NextDue()) {
+        timerThread_->WakeAt(next->moment + kGrace);
+    }
 }
 
 // On the timer thread.
-void Win32Loop::MarkDue(TimerId timer) {
-    const std::lock_guard lock(mutex_);
-    if (timer == kGiveWayTimer) {
-        wakeWaits_ = false;
-        Wake();
-        return;
-    }
-    for (const auto& known : timers_) {
-        if (known->id != timer) continue;
-        if (known->waiting == 0) known->waiting = ++lastNumber_;
-        Wake();  // again for one that waits: the system may have refused the wake message
-    }
+std::optional<Moment> Win32Loop::KeepTime() {
+    if (givesWay_.exchange(false)) wakeWaits_ = false;
+    if (own_) return std::nullopt;
+    work_.RaiseDue(SteadyClock::now());
+    Wake();  // also for what waits already: the system may have refused the wake message
+    const auto next = work_.NextDue();
+    return next ? std::optional(next->moment) : std::nullopt;
 }
 
+// Nothing waits when this is called in vain: the loop looks before it waits, and GiveToSystem tells
+// the timer thread.
 void Win32Loop::Wake() {
-    if (!wakeWaits_) wakeWaits_ = PostMessageW(window_->Get(), kWake, 0, 0) != 0;
+    if (work_.FirstNumber() == 0) return;
+    if (!own_) {
+        if (!wakeWaits_.exchange(true) && !PostMessageW(window_->Get(), kWake, 0, 0)) {
+            wakeWaits_ = false;
+        }
+    } else if (GetCurrentThreadId() != thread_ && !signalled_.exchange(true)) {
+        SetEvent(waits_->posted.Get());
+    }
 }
 
 intptr_t Win32Loop::Handle(void* window, uint32_t message, uintptr_t wParam, intptr_t lParam) {
@@ -148,25 +256,19 @@ intptr_t Win32Loop::Handle(void* window, uint32_t message, uintptr_t wParam, int
 }
 
 void Win32Loop::TakeWake() {
-    uint64_t last = 0;
-    bool givesWay = false;
-    {
-        const std::lock_guard lock(mutex_);
-        if (FirstNumber() > batchEnd_) {
-            batchEnd_ = lastNumber_;
-            givesWay = MustGiveWay();
+    if (work_.FirstNumber() > wokenEnd_) {
+        wokenEnd_ = work_.LastNumber();
+        if (MustGiveWay()) {
+            // Counts as woken meanwhile, so that no one else wakes it.
+            givesWay_ = true;
+            timerThread_->WakeAt(SteadyClock::now() + kGiveWay);
+            return;
         }
-        // While it gives way it counts as woken, so that no one else wakes it.
-        wakeWaits_ = givesWay;
-        last = lastNumber_;
     }
-    if (givesWay) {
-        timerThread_->StartOnce(kGiveWayTimer, kGiveWayMs);
-        return;
-    }
-    RunFirst(last);
-    const std::lock_guard lock(mutex_);
-    crowded_ = FirstNumber() != 0;
+    wakeWaits_ = false;
+    // The next message before the call: it may open a modal loop.
+    work_.RunFirst(work_.LastNumber(), [this] { Wake(); });
+    crowded_ = work_.FirstNumber() != 0;
 }
 
 // Posted messages go before input and painting. When one batch of work follows upon another
@@ -176,39 +278,13 @@ bool Win32Loop::MustGiveWay() {
     return std::exchange(crowded_, false) && HIWORD(GetQueueStatus(QS_INPUT | QS_PAINT)) != 0;
 }
 
-// Runs what came first if it came no later than `last`.
-bool Win32Loop::RunFirst(uint64_t last) {
-    std::shared_ptr<Timer> timer;
-    std::function<void()> task;
-    {
-        const std::lock_guard lock(mutex_);
-        const uint64_t first = FirstNumber();
-        if (first == 0 || first > last) return false;
-        if (!tasks_.empty() && tasks_.front().number == first) {
-            task = std::move(tasks_.front().call);
-            tasks_.pop_front();
-        } else {
-            timer = FirstTick();
-            timer->waiting = 0;
-        }
-        // Before the call: it may open a modal loop.
-        if (FirstNumber() != 0) Wake();
+void Win32Loop::ChoosePeriod() {
+    const bool fine = !waits_->timer.IsFine() && work_.HasTimerBelow(kSystemTick);
+    if (fine == finePeriod_) return;
+    finePeriod_ = fine;
+    if (fine) {
+        timeBeginPeriod(1);
+    } else {
+        timeEndPeriod(1);
     }
-    timer ? timer->tick() : task();
-    return true;
-}
-
-std::shared_ptr<Win32Loop::Timer> Win32Loop::FirstTick() const {
-    std::shared_ptr<Timer> first;
-    for (const auto& timer : timers_) {
-        if (timer->waiting != 0 && (!first || timer->waiting < first->waiting)) first = timer;
-    }
-    return first;
-}
-
-// Number of what came first, 0 when nothing waits.
-uint64_t Win32Loop::FirstNumber() const {
-    const auto tick = FirstTick();
-    if (tasks_.empty()) return tick ? tick->waiting : 0;
-    return tick ? std::min(tick->waiting, tasks_.front().number) : tasks_.front().number;
 }

@@ -1,53 +1,36 @@
 #pragma once
 
 #include <chrono>
-#include <cstdint>
 #include <functional>
 #include <mutex>
 #include <optional>
 #include <thread>
-#include <vector>
 
 #include "platform/win32/Win32Handle.h"
+#include "platform/win32/Win32WaitableTimer.h"
 
-// The one thread that all timers of the loop are driven by. It sleeps as long as none is due, and
-// for good while there is none.
+// Keeps the time while the loop can't: a thread that sleeps for good until it is told a moment.
 class Win32TimerThread {
   public:
-    // `due` is called on this thread with the id of a timer each time that it is due, with the lock
-    // of this class held.
-    explicit Win32TimerThread(std::function<void(uint32_t)> due);
+    using Moment = std::chrono::steady_clock::time_point;
+
+    // `due` is called on this thread at the moment that it was told, and gives the next one, or
+    // nothing to sleep for good again.
+    explicit Win32TimerThread(std::function<std::optional<Moment>()> due);
     Win32TimerThread(const Win32TimerThread&) = delete;
     Win32TimerThread& operator=(const Win32TimerThread&) = delete;
     ~Win32TimerThread();
 
-    void Start(uint32_t id, uint32_t intervalMs);
-    // Due one time only.
-    void StartOnce(uint32_t id, uint32_t delayMs);
-    void Stop(uint32_t id);
+    // Does nothing when it is to wake up earlier anyway.
+    void WakeAt(Moment moment);
 
   private:
-    using SteadyClock = std::chrono::steady_clock;
-    struct Timer {
-        uint32_t id;
-        std::chrono::milliseconds interval;
-        SteadyClock::time_point due;
-        bool once;
-    };
-
     void Run();
-    void Add(uint32_t id, uint32_t intervalMs, bool once);
-    std::optional<SteadyClock::time_point> RaiseDue();
-    void Arm(std::optional<SteadyClock::time_point> next);
-    void ChoosePeriod();
 
-    std::function<void(uint32_t)> due_;
-    Win32Handle changed_;
-    Win32Handle waitable_;
-    bool highResolution_ = false;
-    bool finePeriod_ = false;
+    std::function<std::optional<Moment>()> due_;
+    Win32Handle stop_;
+    Win32WaitableTimer timer_;
     std::mutex mutex_;
-    std::vector<Timer> timers_;
-    bool ending_ = false;
+    std::optional<Moment> wakesAt_;
     std::thread thread_;
 };

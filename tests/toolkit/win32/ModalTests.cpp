@@ -112,6 +112,27 @@ TEST_F(ModalTest, AFormOverABoxKeepsItUntilItIsClosed) {
     ExpectInFront(form);
 }
 
+TEST_F(ModalTest, TicksAndPostsGoOnWhileABoxIsOpenThatATickHasOpened) {
+    // However it goes, the box is closed in the end.
+    const UINT_PTR guard = SetTimer(nullptr, 0, 3000, [](HWND, UINT, UINT_PTR, DWORD) {
+        PostMessageW(OpenBox("box"), WM_COMMAND, IDOK, 0);
+    });
+    int ticks = 0, inBox = 0;
+    const auto timer = loop.StartTimer(10, [&] {
+        if (++ticks == 1) {
+            loop.Post([&] { inBox += ticks == 1; });
+            ui.MsgBox({"text", "box"});
+            story += "closed";
+        } else if (story.empty() && ++inBox == 6) {
+            PostMessageW(OpenBox("box"), WM_COMMAND, IDOK, 0);
+        }
+    });
+    loop.RunUntil([&] { return ticks >= 10 && !story.empty(); });
+    loop.StopTimer(timer);
+    KillTimer(nullptr, guard);
+    EXPECT_EQ(inBox, 6) << "the task and five ticks";
+}
+
 TEST_F(ModalTest, TimersGoOnAndWhatIsTypedArrives) {
     Form modal(ui);
     TextBox box(&modal);

@@ -48,6 +48,7 @@ inline COLORREF PixelOf(const Control& control, int x, int y) {
 struct PeerTest : testing::Test {
     explicit PeerTest(int dotsPerInch = 96) : ui(dotsPerInch) {
         loop.TakesMessage = [this](void* message) { return ui.TakeKey(message); };
+        ui.BeforeBox = [this] { loop.GiveToSystem(); };
         form.Move(1500, 1500, 6000, 4208);
     }
 
