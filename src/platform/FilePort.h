@@ -16,7 +16,7 @@ class FilePort {
     // Makes or overwrites the file. When it can't be written to its end it may be there in part.
     [[nodiscard]] virtual bool Write(const std::string& path, const std::string& content) = 0;
     // Puts `from` in the place of `to` in one step: whoever looks, at any moment and after any
-    // crash, finds the old file or the new one.
+    // crash, finds the old file or the new one. Not when the user has made `to` read-only.
     [[nodiscard]] virtual bool Replace(const std::string& from, const std::string& to) = 0;
     // Only when there is no file `to` yet.
     [[nodiscard]] virtual bool Rename(const std::string& from, const std::string& to) = 0;

@@ -17,6 +17,16 @@ void DropIniCache(const std::string& path) {
     WritePrivateProfileStringA(nullptr, nullptr, nullptr, path.c_str());
 }
 
+// Not every system minds that when it renames something over the file.
+bool IsReadOnly(const std::string& path) {
+    const DWORD attributes = GetFileAttributesA(path.c_str());
+    if (attributes == INVALID_FILE_ATTRIBUTES || (attributes & FILE_ATTRIBUTE_READONLY) == 0) {
+        return false;
+    }
+    SetLastError(ERROR_ACCESS_DENIED);
+    return true;
+}
+
 // What stands in the file must be on the disk before the file's new name is.
 void WriteThrough(const std::string& path) {
     const Win32Handle file(CreateFileA(path.c_str(), GENERIC_WRITE,
@@ -65,7 +75,8 @@ bool Win32Files::Replace(const std::string& from, const std::string& to) {
     DropIniCache(from);
     DropIniCache(to);
     WriteThrough(from);
-    return Note(MoveFileExA(from.c_str(), to.c_str(),
+    return Note(!IsReadOnly(to) &&
+                MoveFileExA(from.c_str(), to.c_str(),
                             MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0);
 }
 

@@ -42,6 +42,10 @@ Win32Tray::~Win32Tray() {
 
 bool Win32Tray::NotifyIcon(uint32_t message, const TrayRecord& record) {
     Remember(message, record);
+    // The mouse as well is told of by a task bar that may have fewer rights.
+    if ((record.flags & NIF_MESSAGE) != 0) {
+        ChangeWindowMessageFilterEx(window_->Get(), record.callbackMessage, MSGFLT_ALLOW, nullptr);
+    }
     if (Tell(message, record)) return true;
     const bool lacking = message == NIM_MODIFY && icon_ && icon_->id == record.id;
     return lacking && Tell(NIM_ADD, *icon_);

@@ -10,6 +10,7 @@
 #include <chrono>
 #include <filesystem>
 #include <fstream>
+#include <thread>
 #include <utility>
 #include <vector>
 
@@ -19,6 +20,7 @@
 #include "platform/win32/Win32Clock.h"
 #include "platform/win32/Win32Files.h"
 #include "platform/win32/Win32Handle.h"
+#include "platform/win32/Win32Hid.h"
 #include "platform/win32/Win32HidLibrary.h"
 #include "platform/win32/Win32HiddenWindow.h"
 #include "platform/win32/Win32Ini.h"
@@ -105,20 +107,34 @@ TEST_F(PanelLinkTest, FailedAndEmptyReadsAreTriedAgain) {
     EXPECT_EQ(seen, (Reports{{0, 1, 2, 3}, {0, 4, 5, 6}}));
 }
 
+// Processor time of this process, in milliseconds.
+DWORD SpentMs() {
+    FILETIME created, ended, kernel, user;
+    GetProcessTimes(GetCurrentProcess(), &created, &ended, &kernel, &user);
+    return (kernel.dwLowDateTime + user.dwLowDateTime) / 10000;
+}
+
 TEST_F(PanelLinkTest, ADeviceThatIsGoneKeepsNoProcessorBusy) {
-    const auto spent = [] {
-        FILETIME created, ended, kernel, user;
-        GetProcessTimes(GetCurrentProcess(), &created, &ended, &kernel, &user);
-        return (kernel.dwLowDateTime + user.dwLowDateTime) / 10000;
-    };
     link.StartReading();
     Send({0, 1, 2, 3});
     Await(1);
     device = {};
-    const DWORD before = spent();
+    const DWORD before = SpentMs();
     Sleep(1000);
-    EXPECT_LT(spent() - before, 200u) << "ms of 1000: the reader spins";
+    EXPECT_LT(SpentMs() - before, 200u) << "ms of 1000: the reader spins";
     StopAtOnce();
+}
+
+TEST_F(PanelLinkTest, ADeviceThatFailsOverAndOverKeepsNoProcessorBusy) {
+    char empty[MAX_PATH] = "";
+    ASSERT_NE(GetTempFileNameA(".", "rdr", 0, empty), 0u);
+    link.DeviceAddress = empty;  // each read ends at the end of the file
+    link.StartReading();
+    const DWORD before = SpentMs();
+    Sleep(500);
+    EXPECT_LT(SpentMs() - before, 100u) << "ms of 500: the reader spins";
+    StopAtOnce();
+    DeleteFileA(empty);
 }
 
 TEST_F(PanelLinkTest, NothingComesAfterStopReading) {
@@ -128,6 +144,85 @@ TEST_F(PanelLinkTest, NothingComesAfterStopReading) {
     StopAtOnce();
     loop.RunPending();
     EXPECT_EQ(seen, Reports{});
+}
+
+// A panel that takes as many milliseconds for a report as its second byte says, or never takes it.
+struct PanelWriterTest : testing::Test {
+    static constexpr uint8_t kNever = 0xFF;
+
+    static BOOLEAN WINAPI Write(HANDLE handle, PVOID report, ULONG size) {
+        const auto pause = static_cast<const uint8_t*>(report)[1];
+        Sleep(pause == kNever ? INFINITE : pause);
+        DWORD count = 0;
+        return WriteFile(handle, report, size, &count, nullptr) != 0;
+    }
+    static BOOLEAN WINAPI Read(HANDLE, PVOID report, ULONG) {
+        static_cast<uint8_t*>(report)[1] = 7;
+        return TRUE;
+    }
+
+    PanelWriterTest() {
+        library->setFeature = Write;
+        library->getFeature = Read;
+        handle = hid.Open(kPipe);
+    }
+    void Set(uint8_t milliseconds, uint8_t value, uint8_t id = 0) {
+        const uint8_t report[] = {id, milliseconds, value};
+        EXPECT_TRUE(hid.SetFeature(handle, report));
+    }
+    // The values that have reached the panel.
+    std::string Taken() const {
+        std::string values;
+        std::array<char, 3> report{};
+        DWORD waiting = 0, count = 0;
+        while (PeekNamedPipe(device.Get(), nullptr, 0, nullptr, &waiting, nullptr) && waiting > 0) {
+            ReadFile(device.Get(), report.data(), report.size(), &count, nullptr);
+            values += report[2];
+        }
+        return values;
+    }
+    template <class Act>
+    static ULONGLONG Took(Act act) {
+        const ULONGLONG start = GetTickCount64();
+        act();
+        return GetTickCount64() - start;
+    }
+
+    Win32Handle device{
+        CreateNamedPipeA(kPipe, PIPE_ACCESS_DUPLEX, PIPE_TYPE_MESSAGE, 1, 4096, 4096, 0, nullptr)};
+    std::shared_ptr<Win32HidLibrary> library = std::make_shared<Win32HidLibrary>();
+    Win32Hid hid{library};
+    uintptr_t handle = 0;
+};
+
+TEST_F(PanelWriterTest, ASlowPanelHoldsNobodyUpAndGetsTheLatest) {
+    EXPECT_LT(Took([this] {
+                  for (const uint8_t value : {'1', '2', '3', '4', '5', '6', '7', '8'}) {
+                      Set(100, value);
+                      Sleep(10);
+                  }
+              }),
+              300u);
+    std::array<uint8_t, 2> positions{};
+    EXPECT_TRUE(hid.GetFeature(handle, positions));
+    EXPECT_EQ(positions[1], 7);
+    EXPECT_EQ(Taken(), "18") << "what the panel is read for comes after what waits";
+    Set(50, 'a');
+    Set(50, 'b', 1);
+    hid.Close(handle);
+    EXPECT_EQ(Taken(), "ab") << "so does its end";
+}
+
+TEST_F(PanelWriterTest, APanelThatHangsIsWaitedForOnce) {
+    Set(kNever, 'x');
+    std::array<uint8_t, 2> positions{};
+    EXPECT_LT(Took([&] { EXPECT_FALSE(hid.GetFeature(handle, positions)); }), 2000u);
+    EXPECT_LT(Took([&] {
+                  for (int i = 0; i < 1000; ++i) Set(0, 'y');
+                  EXPECT_FALSE(hid.GetFeature(handle, positions));
+                  hid.Close(handle);
+              }),
+              500u);
 }
 
 TEST(Win32TrayTest, IconComesBack) {
@@ -257,6 +352,11 @@ TEST_F(FilesTest, FileThatAnotherProgramHasIsHeld) {
         EXPECT_FALSE(both.Read(path)) << access;
         EXPECT_FALSE(save());
     }
+    SetFileAttributesW((folder / "Orvo.ini").c_str(), FILE_ATTRIBUTE_READONLY);
+    EXPECT_FALSE(save()) << "the user has locked it";
+    EXPECT_NE(files.LastProblem(), "");
+    EXPECT_FALSE(std::filesystem::exists(folder / "Orvo.ini.new"));
+    SetFileAttributesW((folder / "Orvo.ini").c_str(), FILE_ATTRIBUTE_NORMAL);
     std::filesystem::create_directory(folder / "Orvo.ini.new");
     EXPECT_EQ(Look(), text);
     EXPECT_TRUE(save()) << "also with a folder where the copy would be";
@@ -309,6 +409,24 @@ TEST(Win32KeyboardTest, RecordsReachTheWindowWithTheFocusInOrder) {
         EXPECT_TRUE(Until(2000, [&] { return field.Keys() == each.keys; })) << field.Keys();
         EXPECT_EQ(field.Text(), each.text) << each.keys;
     }
+}
+
+TEST(Win32LoopTest, ALoopThatWaitsKeepsNoProcessorBusyAndWakesForOtherThreads) {
+    Win32Loop loop;
+    int ticks = 0;
+    bool quick = false;
+    loop.StartTimer(450, [&] { ++ticks; });
+    std::thread other([&] {
+        Sleep(1000);
+        loop.Post([&] { loop.StartTimer(20, [&] { quick = true; }); });
+    });
+    const DWORD before = SpentMs();
+    const ULONGLONG start = GetTickCount64();
+    loop.RunUntil([&] { return quick; });
+    EXPECT_LT(GetTickCount64() - start, 1250u) << "not with the slow timer's next tick";
+    EXPECT_LT(SpentMs() - before, 200u) << "ms of 1000: the loop spins";
+    EXPECT_EQ(ticks, 2);
+    other.join();
 }
 
 TEST(Win32LoopTest, TasksWithoutEndLetInputAndPaintingThroughAndTicksKeepTheirPace) {
