@@ -102,10 +102,11 @@ IniSection IniFiles::SectionOf(const std::string& copy, const std::string& secti
 }
 
 // The mark that some editors put before 8-bit text would hide the first section from the service.
+// Two of them may have put it there.
 std::optional<std::string> IniFiles::Bytes(const std::string& path) const {
     if (!files_.Exists(path)) return std::string();
     auto bytes = files_.Read(path);
-    if (bytes && bytes->starts_with(kUtf8Mark)) bytes->erase(0, kUtf8Mark.size());
+    while (bytes && bytes->starts_with(kUtf8Mark)) bytes->erase(0, kUtf8Mark.size());
     return bytes;
 }
 

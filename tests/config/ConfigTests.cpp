@@ -242,9 +242,11 @@ TEST_F(ConfigTest, WhateverHasTheNameOfTheCopyBlocksNoSave) {
 
 TEST_F(ConfigTest, FilesThatAnEditorSavedInAnotherCodingAreRead) {
     const std::string text = "[GeneralSetup]\r\nAutoQuit=1\r\n";
-    Load("\xEF\xBB\xBF" + text);
-    EXPECT_TRUE(setup.AutoQuit);
-    EXPECT_TRUE(SavedHas("AutoQuit=1")) << "not in a second section";
+    for (const char* marks : {"\xEF\xBB\xBF", "\xEF\xBB\xBF\xEF\xBB\xBF"}) {
+        Load(marks + text);
+        EXPECT_TRUE(setup.AutoQuit);
+        EXPECT_TRUE(SavedHas("AutoQuit=1")) << "not in a second section";
+    }
     std::string wide = "\xFF\xFE";
     for (const char each : text) wide.append({each, '\0'});
     setup.AutoQuit = false;
