@@ -68,6 +68,11 @@ TEST_F(HeldButtonsTest, WhatIsLeftWhileTheSimulatorIsAwayComesUpInTheNextSession
     EXPECT_EQ(sim.Get<uint32_t>(0x3340), 0U);
 }
 
+TEST_F(HeldButtonsTest, WhatIsLetGoOfAsTheSimulatorGoesComesUpInTheNextSession) {
+    HoldAll(), SwitchLogic().GearUp(), LoseSimulator(), Connect(), Tick();
+    EXPECT_EQ(sim.Get<uint32_t>(0x3340), 0x4U) << "only that of the throttle's switch is down";
+}
+
 TEST_F(HeldButtonsTest, WhatWasNeverPressedIsNotLetGoOf) {
     FlyWith("");
     Simulator<uint32_t>(0x3340, 0x10);  // by somebody else

@@ -60,7 +60,9 @@ bool EventOutput::ChangeButton(const ActionRecord& record, bool state) {
     std::array<uint8_t, 4> buttons{};
     StoreLE32(buttons.data(), state ? *before | bit : *before & ~bit);
     int32_t result = 0;
-    return fsuipc_.FSUIPC_Write(OffsetOf(joystick), 4, buttons.data(), result);
+    if (!fsuipc_.FSUIPC_Write(OffsetOf(joystick), 4, buttons.data(), result)) return false;
+    if (!state) released_.push_back(record);
+    return true;
 }
 
 std::optional<uint32_t> EventOutput::ReadButtons(uint8_t joystick) {
@@ -77,8 +79,17 @@ void EventOutput::SessionLost() {
     timerClicks_.SetEnabled(false);
     session_.Acts.Drop(PendingActs::Lasts::Session);
     if (!presses_.empty() && pressed_) SetVirtualButton(presses_.front(), false, false);
+    ReleaseAgain();
     presses_.clear();
     timerRelease_.SetEnabled(false);
+}
+
+// What was on its way to a simulator that has gone.
+void EventOutput::ReleaseAgain() {
+    if (session_.FSConnected) return;
+    for (const ActionRecord& each : std::exchange(released_, {})) {
+        SetVirtualButton(each, false, false);
+    }
 }
 
 void EventOutput::ReleaseAll() {
@@ -118,6 +129,7 @@ bool EventOutput::PressFirst() {
 }
 
 void EventOutput::BeginTimes() {
+    released_.clear();
     for (Repetition& each : repetitions_) each.timer.SetEnabled(true);
     if (!presses_.empty() && pressed_) timerRelease_.SetEnabled(true);
 }

@@ -4,6 +4,7 @@
 #include <deque>
 #include <list>
 #include <optional>
+#include <vector>
 
 #include "platform/KeyboardPort.h"
 #include "platform/MessageLoop.h"
@@ -83,18 +84,21 @@ class EventOutput {
         int32_t parameter;
         Timer timer;
     };
-    // The simulator has taken what was sent: times that count from then begin.
+    // The simulator has taken what was sent: times that count from then begin, and what has been
+    // released is up.
     void BeginTimes();
+    void ReleaseAgain();
     void Repeat(std::list<Repetition>::iterator repetition);
 
     cSession& session_;
     modFSUIPC& fsuipc_;
     KeyboardPort& keyboard_;
     MessageLoop& loop_;
-    Timer timerClicks_;                 // runs only until the next click of several
-    std::deque<ActionRecord> presses_;  // the first one is down, or about to be; the others wait
-    bool pressed_ = false;              // the first one's press is on its way to the simulator
-    Timer timerRelease_;                // runs only while the first one is down
+    Timer timerClicks_;                   // runs only until the next click of several
+    std::deque<ActionRecord> presses_;    // the first one is down, or about to be; the others wait
+    bool pressed_ = false;                // the first one's press is on its way to the simulator
+    std::vector<ActionRecord> released_;  // on its way, and lost with the session
+    Timer timerRelease_;                  // runs only while the first one is down
     std::list<Repetition> repetitions_;
     ScopedConnection taken_;
 };
