@@ -85,6 +85,7 @@ void SessionDriver::Poll() {
     // What the logics of another profile have registered is read by the next tick.
     if (bound) return;
     parts_.panels.ForEachLogic([](cPanelLogic& logic) { logic.RefreshData(); });
+    session.OffsetTable.ForgetChanges();
     CatchUp();
 }
 

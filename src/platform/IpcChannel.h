@@ -31,6 +31,9 @@ class IpcChannel {
                                           intptr_t lParam, uint32_t flags, uint32_t timeoutMs,
                                           uintptr_t& reply) = 0;
 
+    // Whether the user has pressed a key or clicked, and the thread hasn't come to it yet.
+    virtual bool UserWaits() = 0;
+
     // Error of this channel's last call; 0 when that call reported none.
     virtual uint32_t GetLastError() = 0;
 };

@@ -47,6 +47,14 @@ TEST_F(SessionTest, LooksForTheSimulatorOnceASecondUntilItComesUp) {
     EXPECT_EQ(MessagesWithin(1000), 100U) << "one exchange in 10 ms";
 }
 
+// The clock goes on while the machine sleeps.
+TEST_F(SessionTest, ANightAsleepCostsOneTick) {
+    Begin();
+    machine.clock.Sleep(8 * 3600 * 1000);
+    EXPECT_EQ(MessagesWithin(99), 10U);
+    EXPECT_TRUE(program->Session.FSConnected);
+}
+
 TEST_F(SessionTest, SimulatorNumbersBeyondTheListShowAsNumbers) {
     const std::pair<uint16_t, const char*> cases[] = {
         {0, "Any"}, {10, "P3D"}, {11, "11"}, {300, "300"}};
@@ -160,6 +168,12 @@ TEST_F(SessionTest, ServersThatMisbehaveEndTheSessionAndNothingElse) {
     machine.ipc.TimeOut(11);
     Tick();
     EXPECT_FALSE(program->Session.FSConnected) << "silence";
+    machine.ipc.Refuse(IpcCall::SendMessageTimeoutA);
+    machine.loop.Advance(5000);
+    EXPECT_FALSE(program->Session.FSConnected) << "refused, as a simulator with more rights is";
+    machine.ipc.Refuse(IpcCall::SendMessageTimeoutA, 0);
+    machine.loop.Advance(2000);
+    EXPECT_TRUE(program->Session.FSConnected);
 }
 
 TEST_F(SessionTest, AutoQuitLeavesWithTheSimulator) {

@@ -176,6 +176,18 @@ TEST_F(FsuipcTest, UnansweredMessagesAreRepeated) {
     }
 }
 
+TEST_F(FsuipcTest, AUserWhoWaitsEndsTheRepeatsOfAnOpeningButOfNoSession) {
+    machine.ipc.LetUserWait(true);
+    machine.ipc.TimeOut(1);
+    EXPECT_FALSE(Open());
+    EXPECT_EQ(machine.ipc.SentMessages().size(), 1U);
+    EXPECT_EQ(machine.ipc.OpenViews(), 0U);
+    ASSERT_TRUE(Open());
+    Read(4);
+    machine.ipc.TimeOut(9);
+    EXPECT_EQ(Process(), kDone);
+}
+
 // A block that isn't made of the records that were sent fails the exchange, and nothing but the
 // destinations is ever written.
 TEST_F(FsuipcTest, HostileRepliesFail) {

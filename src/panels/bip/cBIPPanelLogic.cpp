@@ -4,8 +4,8 @@
 
 cBIPPanelLogic::cBIPPanelLogic(const LogicServices& services, ctlBIPPanel& control, int16_t index,
                                const WindowState& windows)
-    : Index(index),
-      session_(services.session),
+    : cPanelLogic(services.session, control),
+      Index(index),
       profiles_(services.profiles),
       control_(control),
       windows_(windows),
@@ -19,7 +19,7 @@ void cBIPPanelLogic::StartUp() {
     SetupChanged();
 }
 
-void cBIPPanelLogic::SetupChanged() { RegisterTileOffsets(); }
+void cBIPPanelLogic::ApplySetup() { RegisterTileOffsets(); }
 
 void cBIPPanelLogic::RegisterTileOffsets() {
     gearTilesInUse_ = false;
@@ -47,8 +47,11 @@ double cBIPPanelLogic::Value(TileOffset offset) const {
     return offset == TileOffset::None ? 0.0 : offsets_[static_cast<size_t>(offset)].Data();
 }
 
-void cBIPPanelLogic::RefreshData() {
-    if (windows_.BIPSetupOpen) return;
+void cBIPPanelLogic::Refresh() {
+    if (windows_.BIPSetupOpen) {
+        NoteChange();
+        return;
+    }
     if (!power_.IsOn()) {
         control_.TurnPanel(LampColor::kOff);
         return;

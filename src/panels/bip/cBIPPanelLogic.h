@@ -24,14 +24,19 @@ class cBIPPanelLogic final : public cPanelLogic {
                    const WindowState& windows);
 
     void StartUp() override;
-    void RefreshData() override;
-    void SetupChanged() override;
-    void LoadSetup() override { BPActions->LoadSetup(); }
 
     const int16_t Index;
     std::unique_ptr<cBIPPanelActionHolder> BPActions;
 
   private:
+    void Refresh() override;
+    void AddPlaces(PlaceSet& places) const override {
+        offsets_.AddPlaces(places);
+        power_.AddPlaces(places);
+    }
+    void ApplySetup() override;
+    void ReadSetup() override { BPActions->LoadSetup(); }
+
     const TileRule& RuleOf(int16_t tile) const;
     double Value(TileOffset offset) const;
 
@@ -51,7 +56,6 @@ class cBIPPanelLogic final : public cPanelLogic {
     void ShowCombinedMarkers(int16_t tile);
     void ShowAutopilotReset(int16_t tile, const TileRule& rule);
 
-    cSession& session_;
     ProfileStore& profiles_;
     ctlBIPPanel& control_;
     const WindowState& windows_;

@@ -90,13 +90,6 @@ void MultiPanelValues::ShowNGX(bool speed, std::string& upper, std::string& lowe
 }
 
 void MultiPanelValues::Turn(int32_t position, bool secondCourse, int step) {
-    session_.Acts.Do([=, this] {
-        if (AreRead()) TurnRead(position, secondCourse, step);
-        return AreRead();
-    });
-}
-
-void MultiPanelValues::TurnRead(int32_t position, bool secondCourse, int step) {
     switch (position) {
         case MultiPosition::kALT:
             altitudeValue_ = std::clamp(altitudeValue_ + step * 100, 0, 99000);

@@ -22,18 +22,18 @@ class MultiPanelValues {
     // Bindings or mode have changed: nothing is known until the next tick.
     void Forget() { read_.Forget(); }
     bool AreRead() const { return read_.AreRead(); }
+    const TickValues& Ticks() const { return read_; }
 
     // The rows at a position; others leave the texts as they are.
     void Show(int32_t position, bool secondCourse, std::string& upper, std::string& lower) const;
     // Turns the value of a position by steps, down for negative ones, and writes it to the
-    // simulator in the way of the standard mode: once a tick has read it.
+    // simulator in the way of the standard mode. A tick has to have read it before.
     void Turn(int32_t position, bool secondCourse, int step);
 
   private:
     double Read(size_t value) const { return offsets_[value].Data(); }
     void ShowStandard(bool speed, std::string& upper, std::string& lower) const;
     void ShowNGX(bool speed, std::string& upper, std::string& lower) const;
-    void TurnRead(int32_t position, bool secondCourse, int step);
     void Write(size_t value, int32_t dataType, double number);
 
     cSession& session_;

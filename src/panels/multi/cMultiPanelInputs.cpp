@@ -14,6 +14,22 @@ void cMultiPanelLogic::Do(const ActionRecord& record, int times, NGX ngx, Standa
     }
 }
 
+// The AP button starts from what the simulator says of the autopilot.
+template <class Press>
+void cMultiPanelLogic::PressMaddog(Press press) {
+    session_.Acts.Do([this, press]() mutable {
+        if (!values_.AreRead()) {
+            const OffsetRow& row = kMultiOffsets[MultiValue::kMaster];
+            const auto autopilot = session_.ReadOffset(row.offset, row.dataType);
+            if (!autopilot) return false;
+            maddog_.SetAutopilot(*autopilot == 1);
+        }
+        press();
+        NoteChange();
+        return true;
+    });
+}
+
 // Where every position is bound to a virtual button, that of a position stays down while the
 // selector stands there.
 void cMultiPanelLogic::SelectorChange(int32_t NewPosition, int32_t OldPosition) {
@@ -21,6 +37,7 @@ void cMultiPanelLogic::SelectorChange(int32_t NewPosition, int32_t OldPosition) 
     ApplyRotAcceleration();
     ApplyTrimAcceleration();
     forceWrite_ = true;
+    NoteChange();
     if (session_.SpecialMode == kMaddogMode) {
         selector_.LetGo();
         maddog_.ShowPosition(NewPosition);
@@ -41,7 +58,13 @@ void cMultiPanelLogic::Rotary(int16_t Direction, int16_t Speed) {
                                     : MPActions->GetRotDownActions(selectorPosition_);
     Do(
         record, Speed, [&] { ngx_.Turn(selectorPosition_, SecondCourse(), up); },
-        [&] { values_.Turn(selectorPosition_, SecondCourse(), up ? Speed : -Speed); });
+        [&] { TurnStandard(up ? Speed : -Speed); });
+}
+
+void cMultiPanelLogic::TurnStandard(int step) {
+    OnceRead(values_.Ticks(), [=, this, position = selectorPosition_, second = SecondCourse()] {
+        values_.Turn(position, second, step);
+    });
 }
 
 void cMultiPanelLogic::ButtonClick(int32_t Button) {
@@ -65,20 +88,6 @@ void cMultiPanelLogic::ButtonLongClick(int32_t Button) {
 void cMultiPanelLogic::SM_MADDOG_ButtonLongClick(int32_t Button) {
     PressMaddog([this, Button, position = selectorPosition_] {
         maddog_.SM_MADDOG_ButtonLongClick(Button, position);
-    });
-}
-
-// The AP button starts from what the simulator says of the autopilot.
-void cMultiPanelLogic::PressMaddog(std::function<void()> press) {
-    session_.Acts.Do([this, press = std::move(press)] {
-        if (!values_.AreRead()) {
-            const OffsetRow& row = kMultiOffsets[MultiValue::kMaster];
-            const auto autopilot = session_.ReadOffset(row.offset, row.dataType);
-            if (!autopilot) return false;
-            maddog_.SetAutopilot(*autopilot == 1);
-        }
-        press();
-        return true;
     });
 }
 

@@ -34,8 +34,8 @@ std::array<OffsetRow, kMultiPanelLights> LightRows(
 
 cMultiPanelLogic::cMultiPanelLogic(const LogicServices& services, ctlMultiPanel& control,
                                    int16_t index)
-    : Index(index),
-      session_(services.session),
+    : cPanelLogic(services.session, control),
+      Index(index),
       output_(services.output),
       profiles_(services.profiles),
       control_(control),
@@ -61,7 +61,7 @@ void cMultiPanelLogic::StartUp() {
     SetupChanged();
 }
 
-void cMultiPanelLogic::SetupChanged() {
+void cMultiPanelLogic::ApplySetup() {
     if (selectorPosition_ != MultiPosition::kNone) ApplyRotAcceleration();
     ApplyTrimAcceleration();
     RegisterOffsets();
@@ -88,7 +88,7 @@ void cMultiPanelLogic::RegisterOffsets() {
     if (session_.SpecialMode == kMaddogMode) maddog_.Start();
 }
 
-void cMultiPanelLogic::RefreshData() {
+void cMultiPanelLogic::Refresh() {
     if (session_.SpecialMode == kMaddogMode) {
         values_.Refresh();
         maddog_.Refresh(offsets_[MultiValue::kMaster].Data() == 1);

@@ -2,7 +2,6 @@
 
 #include <array>
 #include <cstdint>
-#include <functional>
 #include <memory>
 #include <string>
 
@@ -25,9 +24,6 @@ class cMultiPanelLogic final : public cPanelLogic {
     cMultiPanelLogic(const LogicServices& services, ctlMultiPanel& control, int16_t index);
 
     void StartUp() override;
-    void RefreshData() override;
-    void SetupChanged() override;
-    void LoadSetup() override { MPActions->LoadSetup(); }
 
     void AutoThrottleChange(int16_t State);  // 0 is OFF
     // The switch has moved while no session was up.
@@ -44,6 +40,15 @@ class cMultiPanelLogic final : public cPanelLogic {
     std::unique_ptr<cMultiPanelActionsHolder> MPActions;
 
   private:
+    void Refresh() override;
+    void AddPlaces(PlaceSet& places) const override {
+        offsets_.AddPlaces(places);
+        lights_.AddPlaces(places);
+        power_.AddPlaces(places);
+    }
+    void ApplySetup() override;
+    void ReadSetup() override { MPActions->LoadSetup(); }
+
     void ApplyRotAcceleration();
     void ApplyTrimAcceleration();
     void RegisterOffsets();
@@ -52,11 +57,12 @@ class cMultiPanelLogic final : public cPanelLogic {
 
     template <class NGX, class Standard>
     void Do(const ActionRecord& record, int times, NGX ngx, Standard standard);
+    void TurnStandard(int step);
     void PressButton(int32_t button, const ActionRecord& record, uint8_t ngxRow);
-    void PressMaddog(std::function<void()> press);
+    template <class Press>
+    void PressMaddog(Press press);
     bool SetThrottleNGX(bool armed);
 
-    cSession& session_;
     EventOutput& output_;
     ProfileStore& profiles_;
     ctlMultiPanel& control_;

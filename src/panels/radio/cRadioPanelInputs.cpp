@@ -4,10 +4,21 @@
 #include "panels/radio/RadioFrequency.h"
 #include "panels/radio/cRadioPanelLogic.h"
 
+// What needs no value comes behind what waits for one all the same.
+template <class Act>
+void cRadioPanelLogic::InOrder(Act act) {
+    session_.Acts.Do([this, act]() mutable {
+        act();
+        NoteChange();
+        return true;
+    });
+}
+
 void cRadioPanelLogic::SelectorChange(int16_t Selector, int32_t NewPos, int32_t /*OldPos*/) {
     if (Selector != 1 && Selector != 2) return;
     Row& row = rows_[static_cast<size_t>(Selector - 1)];
     row.selectorPos = NewPos;
+    NoteChange();
     if (Index == 1 && Selector == 1 && NewPos >= RadioPosition::kCOM1 &&
         NewPos <= RadioPosition::kNAV2) {
         session_.EngineSelected = static_cast<uint8_t>(NewPos);
@@ -62,12 +73,14 @@ void cRadioPanelLogic::ClickStandard(Row& row) {
             Swap(static_cast<size_t>(row.selectorPos - RadioPosition::kCOM1));
             break;
         case RadioPosition::kADF:
-            OnceRead(
-                [this, mode = RPActions->ADFMode, side = row.side] { adf_.Click(mode, side); });
+            OnceRead(values_, [this, mode = RPActions->ADFMode, side = row.side] {
+                adf_.Click(mode, side);
+            });
             break;
         case RadioPosition::kDME:
             if (RPActions->DMEMode == 0)
                 row.dmeChoice = static_cast<uint8_t>(row.dmeChoice % 3 + 1);
+            NoteChange();
             break;
         case RadioPosition::kXPDR:
             InOrder([this] { transponder_.NextDigit(); });
@@ -80,6 +93,7 @@ void cRadioPanelLogic::ClickStandard(Row& row) {
 void cRadioPanelLogic::LongClickStandard(Row& row) {
     if (row.selectorPos == RadioPosition::kDME) {
         dme_.ToggleTime();
+        NoteChange();
     } else if (row.selectorPos == RadioPosition::kXPDR) {
         if (RPActions->AltimeterUnit == 0) InOrder([this] { transponder_.ToggleUnit(); });
     } else {
@@ -104,22 +118,6 @@ void cRadioPanelLogic::Rotary(int16_t Rotary, int16_t Direction, uint8_t Side, u
     }
 }
 
-// What needs no value comes behind what waits for one all the same.
-void cRadioPanelLogic::InOrder(std::function<void()> act) {
-    session_.Acts.Do([act = std::move(act)] {
-        act();
-        return true;
-    });
-}
-
-// What starts from the radios' values is done once a tick has read them.
-void cRadioPanelLogic::OnceRead(std::function<void()> act) {
-    session_.Acts.Do([this, act = std::move(act)] {
-        if (values_.AreRead()) act();
-        return values_.AreRead();
-    });
-}
-
 void cRadioPanelLogic::TurnStandard(const Row& row, bool outer, bool up, uint8_t speed) {
     const int32_t steps = up ? speed : -speed;
     switch (row.selectorPos) {
@@ -128,12 +126,12 @@ void cRadioPanelLogic::TurnStandard(const Row& row, bool outer, bool up, uint8_t
         case RadioPosition::kNAV1:
         case RadioPosition::kNAV2: {
             const auto channel = static_cast<size_t>(row.selectorPos - RadioPosition::kCOM1);
-            OnceRead([=, this] { TuneChannel(channel, outer, steps); });
+            OnceRead(values_, [=, this] { TuneChannel(channel, outer, steps); });
             break;
         }
         case RadioPosition::kADF: {
             const float step = outer ? RPActions->ADFOuterKnobStep : RPActions->ADFInnerKnobStep;
-            OnceRead([=, this, mode = RPActions->ADFMode, side = row.side] {
+            OnceRead(values_, [=, this, mode = RPActions->ADFMode, side = row.side] {
                 adf_.Turn(mode, side, step, steps);
             });
             break;
@@ -142,7 +140,7 @@ void cRadioPanelLogic::TurnStandard(const Row& row, bool outer, bool up, uint8_t
             if (outer && session_.SpecialMode == kNGXMode) {
                 transponder_.TurnAltimeter(up);
             } else {
-                OnceRead([=, this] {
+                OnceRead(values_, [=, this] {
                     outer ? transponder_.TurnAltimeter(up) : transponder_.TurnDigit(up);
                 });
             }

@@ -6,8 +6,8 @@
 
 cRadioPanelLogic::cRadioPanelLogic(const LogicServices& services, ctlRadioPanel& control,
                                    int16_t index)
-    : Index(index),
-      session_(services.session),
+    : cPanelLogic(services.session, control),
+      Index(index),
       output_(services.output),
       profiles_(services.profiles),
       control_(control),
@@ -27,7 +27,7 @@ void cRadioPanelLogic::StartUp() {
     SetupChanged();
 }
 
-void cRadioPanelLogic::SetupChanged() {
+void cRadioPanelLogic::ApplySetup() {
     offsets_.RegisterMode(session_.SpecialMode);
     power_.Register();
     values_.Forget();
@@ -42,7 +42,7 @@ void cRadioPanelLogic::ApplyAcceleration(const Row& row) {
     control_.SetAcceleration(row.side, RPActions->GetAcceleration(row.selectorPos));
 }
 
-void cRadioPanelLogic::RefreshData() {
+void cRadioPanelLogic::Refresh() {
     ReadRadios();
     for (Row& row : rows_) ShowRow(row);
     if (power_.IsOn()) {

@@ -2,7 +2,6 @@
 
 #include <array>
 #include <cstdint>
-#include <functional>
 #include <memory>
 #include <string>
 
@@ -29,9 +28,6 @@ class cRadioPanelLogic final : public cPanelLogic {
     cRadioPanelLogic(const LogicServices& services, ctlRadioPanel& control, int16_t index);
 
     void StartUp() override;
-    void RefreshData() override;
-    void SetupChanged() override;
-    void LoadSetup() override { RPActions->LoadSetup(); }
 
     void SelectorChange(int16_t Selector, int32_t NewPos, int32_t OldPos);
     // The button's mask, as the control tells it.
@@ -45,6 +41,14 @@ class cRadioPanelLogic final : public cPanelLogic {
     std::unique_ptr<cRadioPanelActionsHolder> RPActions;
 
   private:
+    void Refresh() override;
+    void AddPlaces(PlaceSet& places) const override {
+        offsets_.AddPlaces(places);
+        power_.AddPlaces(places);
+    }
+    void ApplySetup() override;
+    void ReadSetup() override { RPActions->LoadSetup(); }
+
     struct Row {
         Row(uint8_t number, EventOutput& output) : side(number), held(output) {}
 
@@ -71,12 +75,11 @@ class cRadioPanelLogic final : public cPanelLogic {
     void ClickStandard(Row& row);
     void LongClickStandard(Row& row);
     void Swap(size_t channel);
-    void InOrder(std::function<void()> act);
-    void OnceRead(std::function<void()> act);
+    template <class Act>
+    void InOrder(Act act);
     void TurnStandard(const Row& row, bool outer, bool up, uint8_t speed);
     void TuneChannel(size_t channel, bool outer, int32_t steps);
 
-    cSession& session_;
     EventOutput& output_;
     ProfileStore& profiles_;
     ctlRadioPanel& control_;

@@ -10,8 +10,8 @@ constexpr uint8_t kFS2004 = 7;
 
 cSwitchPanelLogic::cSwitchPanelLogic(const LogicServices& services, ctlSwitchPanel& control,
                                      int16_t index)
-    : Index(index),
-      session_(services.session),
+    : cPanelLogic(services.session, control),
+      Index(index),
       output_(services.output),
       profiles_(services.profiles),
       control_(control),
@@ -26,7 +26,7 @@ void cSwitchPanelLogic::StartUp() {
     SetupChanged();
 }
 
-void cSwitchPanelLogic::SetupChanged() {
+void cSwitchPanelLogic::ApplySetup() {
     offsets_.RegisterMode(session_.SpecialMode);
     values_.Forget();
 }
@@ -37,7 +37,7 @@ bool cSwitchPanelLogic::GearShown() const {
            (session_.FSVersion == kFS2004 && SPActions->RetractableGear);
 }
 
-void cSwitchPanelLogic::RefreshData() {
+void cSwitchPanelLogic::Refresh() {
     values_.Take();
     std::array<Color, 3> lights{};
     if (GearShown() && offsets_[kMasterBattery].Data() != 0) {

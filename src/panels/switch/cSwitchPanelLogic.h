@@ -19,9 +19,6 @@ class cSwitchPanelLogic final : public cPanelLogic {
     cSwitchPanelLogic(const LogicServices& services, ctlSwitchPanel& control, int16_t index);
 
     void StartUp() override;
-    void RefreshData() override;
-    void SetupChanged() override;
-    void LoadSetup() override { SPActions->LoadSetup(); }
 
     void SwitchChange(int32_t Switch, bool State);
     // 0 is between two positions.
@@ -35,6 +32,11 @@ class cSwitchPanelLogic final : public cPanelLogic {
     std::unique_ptr<cSwitchPanelActionsHolder> SPActions;
 
   private:
+    void Refresh() override;
+    void AddPlaces(PlaceSet& places) const override { offsets_.AddPlaces(places); }
+    void ApplySetup() override;
+    void ReadSetup() override { SPActions->LoadSetup(); }
+
     // Four offsets that mean the same, one for each engine.
     using EngineOffsets = std::array<int32_t, 4>;
 
@@ -49,7 +51,6 @@ class cSwitchPanelLogic final : public cPanelLogic {
     void MoveGear(bool down);
     void MoveGearNGX(bool down);
 
-    cSession& session_;
     EventOutput& output_;
     ProfileStore& profiles_;
     ctlSwitchPanel& control_;

@@ -114,7 +114,9 @@ void VirtualIpc::CloseHandle(uintptr_t handle) {
 uintptr_t VirtualIpc::SendMessageTimeoutA(uintptr_t window, uint32_t message, uintptr_t wParam,
                                           intptr_t lParam, uint32_t flags, uint32_t timeoutMs,
                                           uintptr_t& reply) {
-    sent_.push_back({window, message, wParam, lParam, flags, timeoutMs, clock_.Elapsed()});
+    if (keepLog_) {
+        sent_.push_back({window, message, wParam, lParam, flags, timeoutMs, clock_.Elapsed()});
+    }
     if (Begin(IpcCall::SendMessageTimeoutA)) return Fail(kAccessDenied);
     if (!windows_.contains(window)) return Fail(kInvalidWindow);
     if (odd_.Take(Odd::TimeOut)) {

@@ -55,6 +55,7 @@ class VirtualIpc : public IpcChannel {
     uintptr_t SendMessageTimeoutA(uintptr_t window, uint32_t message, uintptr_t wParam,
                                   intptr_t lParam, uint32_t flags, uint32_t timeoutMs,
                                   uintptr_t& reply) override;
+    bool UserWaits() override { return userWaits_; }
     uint32_t GetLastError() override { return lastError_; }
 
     uintptr_t AddWindow(const std::string& className);
@@ -68,11 +69,14 @@ class VirtualIpc : public IpcChannel {
     void TimeOut(int times, uint32_t error = 1460);
     // The next `times` messages are served, but answered with `reply`.
     void AnswerWith(uintptr_t reply, int times = Faults<IpcCall>::kAlways);
+    void LetUserWait(bool waits) { userWaits_ = waits; }
     // Called with the whole block after it was served, to damage it. An empty one ends that.
     void AfterServing(std::function<void(std::span<uint8_t>)> hook) { hook_ = std::move(hook); }
 
     const std::vector<Sent>& SentMessages() const { return sent_; }
     void ForgetSentMessages() { sent_.clear(); }
+    // Whether messages are kept, as they are from the start: a million of them are too many.
+    void KeepLog(bool keep) { keepLog_ = keep; }
     // Calls so far, refused ones included.
     size_t CallCount(IpcCall call) const { return calls_[static_cast<size_t>(call)]; }
 
@@ -111,6 +115,7 @@ class VirtualIpc : public IpcChannel {
     uint16_t nextAtom_ = 0xC000;
     uint32_t nextMessage_ = 0xC000;
     uint32_t lastError_ = 0;
+    bool userWaits_ = false;
 
     Faults<IpcCall> faults_;
     Faults<Odd> odd_;
@@ -118,5 +123,6 @@ class VirtualIpc : public IpcChannel {
     uintptr_t oddReply_ = 0;
     std::function<void(std::span<uint8_t>)> hook_;
     std::vector<Sent> sent_;
+    bool keepLog_ = true;
     std::array<size_t, 9> calls_{};
 };

@@ -75,4 +75,6 @@ uintptr_t Win32Ipc::SendMessageTimeoutA(uintptr_t window, uint32_t message, uint
     return answered;
 }
 
+bool Win32Ipc::UserWaits() { return HIWORD(GetQueueStatus(QS_KEY | QS_MOUSEBUTTON)) != 0; }
+
 uint32_t Win32Ipc::GetLastError() { return lastError_; }

@@ -16,6 +16,7 @@ class Win32Ipc final : public IpcChannel {
     uintptr_t SendMessageTimeoutA(uintptr_t window, uint32_t message, uintptr_t wParam,
                                   intptr_t lParam, uint32_t flags, uint32_t timeoutMs,
                                   uintptr_t& reply) override;
+    bool UserWaits() override;
     uint32_t GetLastError() override;
 
   private:

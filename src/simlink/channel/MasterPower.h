@@ -11,6 +11,8 @@ class MasterPower {
     void Register() { rows_.RegisterMode(kAllModes); }
     // As the last tick has read them.
     bool IsOn() const { return rows_[0].Data() != 0 && rows_[1].Data() != 0; }
+    // As OffsetRows'.
+    void AddPlaces(PlaceSet& places) const { rows_.AddPlaces(places); }
 
   private:
     static constexpr OffsetRow kRows[] = {{"MASTERBATTERY", 0x281C, 4},

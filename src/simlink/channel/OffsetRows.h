@@ -38,6 +38,11 @@ class OffsetRows {
     // Has a single row read as well, beside those that are read already.
     void Register(size_t row) { Register(rows_[row]); }
 
+    // Adds the places of those that are registered.
+    void AddPlaces(PlaceSet& places) const {
+        for (const OffsetRow& row : rows_) table_.AddPlace(row.name, places);
+    }
+
     // By the row's name, whichever of the name's rows is registered.
     const NamedOffset& operator[](size_t row) const { return values_[row]; }
 

@@ -17,8 +17,9 @@ class PendingActs {
 
     // Does it now, or when all that waits is done. `act` gives false when it is to be called again:
     // it can't be carried out yet, or has more to do.
-    void Do(const Act& act, Lasts lasts = Lasts::Binding) {
-        if (!acts_.empty() || !act()) acts_.push_back({act, lasts});
+    template <class NewAct>
+    void Do(NewAct act, Lasts lasts = Lasts::Binding) {
+        if (!acts_.empty() || !act()) acts_.push_back({std::move(act), lasts});
     }
     // What has to follow an act that is being done: comes before all that waits.
     void DoNext(Act act, Lasts lasts) { acts_.push_front({std::move(act), lasts}); }

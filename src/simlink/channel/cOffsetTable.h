@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "base/Number.h"
+#include "simlink/channel/PlaceSet.h"
 #include "simlink/channel/cOFFSET.h"
 
 // The offsets that every tick reads, by name, shared by all panels. Names compare without regard to
@@ -33,15 +34,29 @@ class cOffsetTable {
     // Changes whenever an entry is added or removed.
     uint32_t Shape() const { return shape_; }
 
+    // The places of the entries whose value isn't what it was when the changes were forgotten last;
+    // all of them after a change of shape.
+    const PlaceSet& Changes() const { return changes_; }
+    void ForgetChanges() { changes_.Clear(); }
+    // Adds the place of an entry, if it is there.
+    void AddPlace(std::string_view name, PlaceSet& places) const;
+    // As if every value had changed.
+    void ChangeAll() { changes_.Fill(); }
+
   private:
-    struct Entry {
-        std::string name;
+    // All that a tick touches of an entry lies in one line of the processor's cache.
+    struct alignas(64) Entry {
         cOFFSET offset;
+        std::string name;
     };
+
+    std::vector<std::unique_ptr<Entry>>::const_iterator Find(std::string_view name) const;
+    void ShapeHasChanged();
 
     modFSUIPC& fsuipc_;
     std::vector<std::unique_ptr<Entry>> entries_;
     uint32_t shape_ = 1;
+    PlaceSet changes_;
 };
 
 // An entry of the table by its name, looked up again only when the table's shape has changed.

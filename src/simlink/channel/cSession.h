@@ -10,10 +10,25 @@
 #include "simlink/channel/cOffsetTable.h"
 #include "simlink/channel/modFSUIPC.h"
 
+// What all panels work with besides the values of the offset table.
+struct SharedValues {
+    uint32_t Link = 0;      // number of the present session, or of the last one; from 1
+    uint8_t FSVersion = 0;  // the simulator's number
+    uint8_t SpecialMode = kStandardMode;
+    uint8_t EngineSelected = 1;
+    bool GearIsRetractable = false;
+    // ADF1 and ADF2 in kHz, for all Radio Panels together: what the simulator has, and what the
+    // panels have prepared for a swap.
+    std::array<float, 2> AdfActive{};
+    std::array<float, 2> AdfStandby{};
+
+    bool operator==(const SharedValues&) const = default;
+};
+
 // What is known of the simulator, the way to it, and what all panels work with. It outlives the
 // single connection, as the panels' logics go on with the same offsets when the simulator comes
 // back.
-struct cSession {
+struct cSession : SharedValues {
     cSession(IpcChannel& channel, Clock& clock) : Fsuipc(channel, clock), OffsetTable(Fsuipc) {}
 
     // A value of a type of cOFFSET's as it is at this moment. Nothing when the simulator doesn't
@@ -42,13 +57,4 @@ struct cSession {
     cOffsetTable OffsetTable;
     PendingActs Acts;
     bool FSConnected = false;
-    uint32_t Link = 0;      // number of the present session, or of the last one; from 1
-    uint8_t FSVersion = 0;  // the simulator's number
-    uint8_t SpecialMode = kStandardMode;
-    uint8_t EngineSelected = 1;
-    bool GearIsRetractable = false;
-    // ADF1 and ADF2 in kHz, for all Radio Panels together: what the simulator has, and what the
-    // panels have prepared for a swap.
-    std::array<float, 2> AdfActive{};
-    std::array<float, 2> AdfStandby{};
 };

@@ -60,7 +60,10 @@ bool modFSUIPC::FSUIPC_Open(uint32_t requestedSimulator, int32_t& result) {
     FSUIPC_Version = 0;
     FSUIPC_FS_Version = 0;
     bool secondClass = false;
-    if (!OpenChannel(result, secondClass) || !ReadVersions(result)) {
+    opening_ = true;
+    const bool answered = OpenChannel(result, secondClass) && ReadVersions(result);
+    opening_ = false;
+    if (!answered) {
         FSUIPC_Close();
         return false;
     }
@@ -145,17 +148,21 @@ bool modFSUIPC::Queue(uint16_t identifier, uint32_t headerSize, int32_t offset, 
     StoreLE32(record + 4, static_cast<uint32_t>(offset));
     StoreLE32(record + 8, static_cast<uint32_t>(count));
     next_ += headerSize + static_cast<uint32_t>(count);
-    records_.push_back({identifier, static_cast<uint32_t>(count), nullptr});
+    records_.push_back({identifier, static_cast<uint32_t>(count), nullptr, nullptr, 0});
     result = kFsuipcOk;
     return true;
 }
 
-bool modFSUIPC::FSUIPC_Read(int32_t offset, int32_t count, void* destination, int32_t& result) {
+bool modFSUIPC::FSUIPC_Read(int32_t offset, int32_t count, void* destination, int32_t& result,
+                            PlaceSet* changes, size_t place) {
     uint8_t* const record = view_ + next_;
     if (!Queue(kReadRecord, kReadHeader, offset, count, result)) return false;
     records_.back().destination = destination;
+    records_.back().changes = changes;
+    records_.back().place = place;
     StoreLE32(record + 12, destination ? static_cast<uint32_t>(records_.size()) : 0);
-    std::memset(record + kReadHeader, 0, static_cast<size_t>(count));
+    WithSize(static_cast<size_t>(count),
+             [&](auto size) { std::memset(record + kReadHeader, 0, size); });
     return true;
 }
 
@@ -231,34 +238,41 @@ bool modFSUIPC::SendMessages(uintptr_t& reply, int32_t& result) {
     };
     bool answered = send();
     int repeats = 0;
-    while (!answered && repeats < kRepeats) {
+    while (!answered && repeats < kRepeats && !(opening_ && channel_.UserWaits())) {
         ++repeats;
         clock_.Sleep(kRepeatPauseMs);
         answered = send();
     }
     taken_ = answered && reply == 1;
     // A simulator that answers only at the last repeat is too slow to fly with.
-    if (repeats < kRepeats) return true;
+    if (answered && repeats < kRepeats) return true;
     result = channel_.GetLastError() != 0 ? kFsuipcNoAnswerError : kFsuipcNoAnswer;
     return false;
 }
 
+void modFSUIPC::Take(const Record& read, const uint8_t* bytes) {
+    const bool changed = WithSize(read.count, [&](auto size) {
+        if (std::memcmp(read.destination, bytes, size) == 0) return false;
+        std::memcpy(read.destination, bytes, size);
+        return true;
+    });
+    if (changed && read.changes) read.changes->Add(read.place);
+}
+
 // Each reply must be the record of the batch that stood in its place: so no position, length or
-// destination is ever taken from the block. What a reply that ends early leaves out keeps its
-// value.
+// destination is ever taken from the block. The simulator may write to it meanwhile: each word is
+// read once. What a reply that ends early leaves out keeps its value.
 bool modFSUIPC::UnpackReplies() {
     const uint8_t* reply = view_;
     size_t i = 0;
-    for (; LoadLE16(reply) != 0; ++i) {
+    while (const uint16_t identifier = LoadLE16(reply)) {
         if (i == records_.size()) return false;
-        const Record& sent = records_[i];
-        if (LoadLE16(reply) != sent.identifier || LoadLE32(reply + 8) != sent.count) return false;
+        const Record& sent = records_[i++];
+        if (identifier != sent.identifier || LoadLE32(reply + 8) != sent.count) return false;
         if (sent.identifier == kReadRecord) {
-            const uint32_t token = sent.destination ? static_cast<uint32_t>(i + 1) : 0;
+            const uint32_t token = sent.destination ? static_cast<uint32_t>(i) : 0;
             if (LoadLE32(reply + 12) != token) return false;
-            if (sent.destination && sent.count > 0) {
-                std::memcpy(sent.destination, reply + kReadHeader, sent.count);
-            }
+            if (sent.destination) Take(sent, reply + kReadHeader);
             reply += kReadHeader + sent.count;
         } else {
             reply += kWriteHeader + sent.count;

@@ -6,6 +6,7 @@
 #include "base/Event.h"
 #include "platform/Clock.h"
 #include "platform/IpcChannel.h"
+#include "simlink/channel/PlaceSet.h"
 
 // Result codes of the channel's operations.
 enum FsuipcResult : int32_t {
@@ -41,15 +42,18 @@ class modFSUIPC {
     void FSUIPC_Initialize();
 
     // Opens the channel and checks the versions, within about 300 ms when the simulator answers at
-    // once. `requestedSimulator` is its number, 0 for any. After a failure the channel is closed,
+    // once; a simulator that doesn't is given up sooner when the user waits for the program.
+    // `requestedSimulator` is its number, 0 for any. After a failure the channel is closed,
     // but for code 1, which leaves it as it was. Go by what it gives: where a reply can't be
     // unpacked, `result` is that of the last record, 0.
     bool FSUIPC_Open(uint32_t requestedSimulator, int32_t& result);
     void FSUIPC_Close();
 
     // Queues a read of `count` bytes. `destination` is written by a later FSUIPC_Process and must
-    // stay valid until then.
-    bool FSUIPC_Read(int32_t offset, int32_t count, void* destination, int32_t& result);
+    // stay valid until then. `changes`, which must too, gets `place` when that writes other bytes
+    // than there were.
+    bool FSUIPC_Read(int32_t offset, int32_t count, void* destination, int32_t& result,
+                     PlaceSet* changes = nullptr, size_t place = 0);
 
     // Queues a write; the data is copied at once.
     bool FSUIPC_Write(int32_t offset, int32_t count, const void* source, int32_t& result);
@@ -86,6 +90,8 @@ class modFSUIPC {
         uint16_t identifier;
         uint32_t count;
         void* destination;
+        PlaceSet* changes;
+        size_t place;
     };
 
     bool Queue(uint16_t identifier, uint32_t headerSize, int32_t offset, int32_t count,
@@ -96,6 +102,7 @@ class modFSUIPC {
     bool SendBatch(int32_t& result);
     bool SendMessages(uintptr_t& reply, int32_t& result);
     bool UnpackReplies();
+    static void Take(const Record& read, const uint8_t* bytes);
     void EmptyBatch();
     void KeepWrites();
 
@@ -108,6 +115,7 @@ class modFSUIPC {
     uint8_t* view_ = nullptr;
     uint32_t next_ = 0;  // bytes of records in the batch
     std::vector<Record> records_;
+    bool opening_ = false;
     bool answers_ = true;
     bool allRead_ = false;
     bool taken_ = false;

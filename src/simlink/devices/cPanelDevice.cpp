@@ -13,7 +13,8 @@ constexpr int32_t kPictureHeight = 2865;
 
 cPanelDevice::cPanelDevice(Container& parent, const DeviceServices& services, PanelKind kind)
     : Picture(&parent),
-      services_(services),
+      outputs_(services.hid, ReportSent),
+      services_{services.clock, services.loop, outputs_, services.deckhub, services.generalSetup},
       kind_(kind),
       timerWaiting_(services.loop, kMostTellingMs) {
     Move(0, 0, kPictureWidth, kPictureHeight);
@@ -71,14 +72,19 @@ void cPanelDevice::TellWaiting() {
     const bool within = std::exchange(telling_, true);
     const uint32_t since = tellingSince_;
     while (!acts_.empty()) {
-        const auto act = std::move(acts_.front());
-        acts_.pop_front();
+        const Call act = acts_[told_++];
+        if (told_ == acts_.size()) ForgetActs();
         tellingSince_ = services_.clock.GetTickCount();
         act();
     }
     timerWaiting_.SetEnabled(false);
     telling_ = within;
     tellingSince_ = since;
+}
+
+void cPanelDevice::ForgetActs() {
+    acts_.clear();
+    told_ = 0;
 }
 
 void cPanelDevice::End() {
@@ -89,7 +95,7 @@ void cPanelDevice::End() {
 void cPanelDevice::Disconnect() {
     if (ended_) return;
     ended_ = true;
-    acts_.clear();
+    ForgetActs();
     timerWaiting_.SetEnabled(false);
     MessageLoop& loop = services_.loop;
     if (link_) {

@@ -1,12 +1,12 @@
 #pragma once
 
 #include <cstdint>
-#include <deque>
-#include <functional>
 #include <memory>
+#include <span>
 #include <string>
-#include <utility>
+#include <vector>
 
+#include "base/Call.h"
 #include "base/Event.h"
 #include "config/cSetupHolder.h"
 #include "platform/Clock.h"
@@ -56,6 +56,8 @@ class cPanelDevice : public Picture {
 
     CommandButton cmdSetup{this};
 
+    Event<> ReportSent;  // to the panel, which may have refused it
+
   protected:
     // What a report has brought: the 24 bits of the panel's state before and after it.
     struct Change {
@@ -76,7 +78,10 @@ class cPanelDevice : public Picture {
     void Tell(Event<Args...>& event, Values... values) {
         Then([&event, values...] { event.Raise(values...); });
     }
-    void Then(std::function<void()> act) { acts_.push_back(std::move(act)); }
+    template <class Function>
+    void Then(Function act) {
+        acts_.emplace_back(act);
+    }
     // Does what waits, unless it is being done.
     void TellWaiting();
     // The device has just been opened.
@@ -96,13 +101,35 @@ class cPanelDevice : public Picture {
 
   private:
     void Disconnect();
+    void ForgetActs();
     void TakeReport(uint8_t byte0, uint8_t byte1, uint8_t byte2, uint8_t byte3);
 
+    // The panel's device file, which tells what goes there.
+    struct Outputs final : HidPort {
+        Outputs(HidPort& hid, Event<>& event) : port(hid), sent(event) {}
+
+        uintptr_t Open(const std::string& path) override { return port.Open(path); }
+        bool SetFeature(uintptr_t handle, std::span<const uint8_t> report) override {
+            const bool taken = port.SetFeature(handle, report);
+            sent.Raise();
+            return taken;
+        }
+        bool GetFeature(uintptr_t handle, std::span<uint8_t> report) override {
+            return port.GetFeature(handle, report);
+        }
+        void Close(uintptr_t handle) override { port.Close(handle); }
+
+        HidPort& port;
+        Event<>& sent;
+    };
+
+    Outputs outputs_;
     const DeviceServices services_;
     const PanelKind kind_;
     std::unique_ptr<PanelLink> link_;
     uintptr_t deviceHandle_ = 0;
-    std::deque<std::function<void()>> acts_;  // what reports have brought, not yet told
+    std::vector<Call> acts_;  // what reports have brought
+    size_t told_ = 0;         // of these; when it is all of them, both are empty again
     bool telling_ = false;
     uint32_t tellingSince_ = 0;
     Timer timerWaiting_;  // runs only while something waits behind a listener
