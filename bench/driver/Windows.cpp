@@ -267,6 +267,14 @@ void ClickAt(HWND window, int x, int y) {
     Send(window, WM_LBUTTONUP, 0, MAKELPARAM(x, y));
 }
 
+void ClickByMouse(HWND window) {
+    RECT place{};
+    GetWindowRect(window, &place);
+    const POINT middle{(place.left + place.right) / 2, (place.top + place.bottom) / 2};
+    PutMouse(middle, MOUSEEVENTF_LEFTDOWN);
+    PutMouse(middle, MOUSEEVENTF_LEFTUP);
+}
+
 bool DragWindow(HWND window, int right, int down, uint32_t milliseconds) {
     RECT before{};
     if (!GetWindowRect(window, &before)) return false;

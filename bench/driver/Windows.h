@@ -76,6 +76,9 @@ void PressKey(WORD key);
 // Presses the close box of a window.
 void PressCloseBox(HWND window);
 
+// The mouse goes to the middle of a window and clicks whatever is there. Returns at once, also when
+// the window's program is busy.
+void ClickByMouse(HWND window);
 // Clicks a point of a window, in pixels from its upper left corner.
 void ClickAt(HWND window, int x, int y);
 

@@ -4,6 +4,8 @@
 #include <cstdlib>
 #include <span>
 
+#include "base/Number.h"
+
 namespace bench {
 
 namespace {
@@ -12,6 +14,8 @@ constexpr int64_t kLongestPauseMs = 60000;
 constexpr int64_t kDefaultHoldMs = 50;
 constexpr int64_t kDefaultSpacingMs = 20;
 constexpr int kPulsesPerStep = 2;
+constexpr int64_t kMostPerSecond = 10000;
+constexpr int64_t kLongestFloodS = 3600;
 
 std::optional<uint32_t> Milliseconds(std::string_view text, int64_t fallback) {
     if (text.empty()) return static_cast<uint32_t>(fallback);
@@ -29,6 +33,7 @@ std::string Hex(const std::string& report) {
 std::string PanelConsole::Answer(const Command& command) {
     if (command.name == "add") return Add(command);
     if (command.name == "list") return List();
+    if (command.name == "flooding") return Flooding();
     const auto found = panels_.find(command.Argument(0));
     if (found == panels_.end()) {
         return "error: '" + command.name + "' needs a panel that is there, such as multi1";
@@ -36,15 +41,17 @@ std::string PanelConsole::Answer(const Command& command) {
     VirtualPanel& panel = *found->second;
     if (command.name == "show") return panel.Show();
     if (command.name == "raw") return Raw(panel, command);
-    if (command.name == "reports") {
-        std::string text;
-        for (const std::string& report : panel.TakeFeatures()) {
-            if (!text.empty()) text += ' ';
-            text += Hex(report);
-        }
-        return text.empty() ? "none" : text;
+    if (command.name == "reports") return Reports(panel, false);
+    if (command.name == "times") return Reports(panel, true);
+    if (command.name == "slow") return Slow(panel, command);
+    if (command.name == "flood") return Flood(found->second, command);
+    if (command.name == "flooded") return Flooded(found->first);
+    if (command.name == "hang") {
+        bus_.SetAnswerTime(panel, PanelBus::kNever);
+        return "ok";
     }
     if (command.name == "unplug") {
+        floods_.erase(found->first);
         bus_.Unplug(panel);
         panels_.erase(found);
         return "ok";
@@ -80,6 +87,57 @@ std::string PanelConsole::List() {
         text += name + ':' + std::to_string(bus_.Readers(*panel));
     }
     return text.empty() ? "none" : text;
+}
+
+std::string PanelConsole::Reports(VirtualPanel& panel, bool withTimes) {
+    std::string text;
+    for (const VirtualPanel::Feature& feature : panel.TakeFeatures()) {
+        if (!text.empty()) text += ' ';
+        const std::chrono::duration<double, std::milli> time = feature.time.time_since_epoch();
+        if (withTimes) text += FormatPlain(time.count(), 3) + ':';
+        text += Hex(feature.report);
+    }
+    return text.empty() ? "none" : text;
+}
+
+std::string PanelConsole::Slow(VirtualPanel& panel, const Command& command) {
+    const auto time = ParseNumber(command.Argument(1), 0, kLongestPauseMs);
+    if (!time) return "error: slow PANEL MILLISECONDS";
+    bus_.SetAnswerTime(panel, std::chrono::milliseconds(*time));
+    return "ok";
+}
+
+std::string PanelConsole::Flood(const std::shared_ptr<VirtualPanel>& panel,
+                                const Command& command) {
+    const auto rate = ParseNumber(command.Argument(1), 1, kMostPerSecond);
+    const auto seconds = ParseNumber(command.Argument(2), 1, kLongestFloodS);
+    const std::string_view what = command.Argument(3);
+    const PanelControl* control = FindPanelControl(panel->Kind().name, what, std::nullopt);
+    if (!rate || !seconds || (!control && what != "random")) {
+        return "error: flood PANEL RATE SECONDS random|CONTROL";
+    }
+    floods_.erase(panel->Name());
+    floods_.try_emplace(panel->Name(), bus_, panel,
+                        PanelFlood::Settings{static_cast<uint32_t>(*rate),
+                                             static_cast<uint32_t>(*seconds), control});
+    return "ok";
+}
+
+std::string PanelConsole::Flooding() {
+    std::string text;
+    for (const auto& [name, flood] : floods_) {
+        if (!flood.IsRunning()) continue;
+        if (!text.empty()) text += ' ';
+        text += name;
+    }
+    return text.empty() ? "none" : text;
+}
+
+std::string PanelConsole::Flooded(const std::string& name) {
+    const auto found = floods_.find(name);
+    if (found == floods_.end()) return "none";
+    const PanelFlood::Count count = found->second.Counted();
+    return std::to_string(count.sent) + " sent, " + std::to_string(count.refused) + " refused";
 }
 
 std::string PanelConsole::Raw(VirtualPanel& panel, const Command& command) {

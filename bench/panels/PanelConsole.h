@@ -6,6 +6,7 @@
 
 #include "bench/console/Command.h"
 #include "bench/panels/PanelBus.h"
+#include "bench/panels/PanelFlood.h"
 
 namespace bench {
 
@@ -20,6 +21,11 @@ class PanelConsole {
   private:
     std::string Add(const Command& command);
     std::string List();
+    std::string Reports(VirtualPanel& panel, bool withTimes);
+    std::string Slow(VirtualPanel& panel, const Command& command);
+    std::string Flood(const std::shared_ptr<VirtualPanel>& panel, const Command& command);
+    std::string Flooding();
+    std::string Flooded(const std::string& name);
     std::string Raw(VirtualPanel& panel, const Command& command);
     std::string Move(VirtualPanel& panel, const Command& command);
     std::string Turn(VirtualPanel& panel, const Command& command);
@@ -27,6 +33,8 @@ class PanelConsole {
 
     PanelBus& bus_;
     std::map<std::string, std::shared_ptr<VirtualPanel>, std::less<>> panels_;
+    // By panel; the latest of each.
+    std::map<std::string, PanelFlood, std::less<>> floods_;
 };
 
 }  // namespace bench

@@ -111,6 +111,8 @@ const PanelKind* FindPanelKind(std::string_view name) {
     return found == std::end(kKinds) ? nullptr : found;
 }
 
+std::span<const PanelControl> PanelControls() { return kControls; }
+
 const PanelControl* FindPanelControl(std::string_view kind, std::string_view command,
                                      std::optional<std::string_view> position) {
     const auto found = std::ranges::find_if(kControls, [&](const PanelControl& control) {
@@ -118,6 +120,16 @@ const PanelControl* FindPanelControl(std::string_view kind, std::string_view com
                (!position || EqualNoCase(control.position, *position));
     });
     return found == std::end(kControls) ? nullptr : found;
+}
+
+const PanelControl* FindFloodControl(std::string_view kind) {
+    const PanelControl* control = nullptr;
+    for (const PanelControl& each : kControls) {
+        if (each.kind != kind) continue;
+        if (each.act == PanelAct::Turn) return &each;
+        if (each.position == "on") control = &each;
+    }
+    return control;
 }
 
 }  // namespace bench

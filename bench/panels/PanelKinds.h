@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <string_view>
 
 namespace bench {
@@ -34,9 +35,16 @@ struct PanelControl {
 // Nothing for an unknown name.
 const PanelKind* FindPanelKind(std::string_view name);
 
+// All controls, kind by kind.
+std::span<const PanelControl> PanelControls();
+
 // The first control of this kind of panel that the command can mean, at this position or, where
 // none is given, at any.
 const PanelControl* FindPanelControl(std::string_view kind, std::string_view command,
                                      std::optional<std::string_view> position);
+
+// What a flood of reports moves: the first knob of the kind, else its last switch, if any; the
+// first ones are the power.
+const PanelControl* FindFloodControl(std::string_view kind);
 
 }  // namespace bench

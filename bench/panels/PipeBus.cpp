@@ -35,31 +35,41 @@ bool PipeBus::PlugIn(std::shared_ptr<VirtualPanel> panel) {
                              HexText(panel->Kind().productId, 4) + "#" +
                              std::to_string(panel->Number()) + "-" +
                              std::to_string(GetCurrentProcessId());
-    devices_.push_back(std::make_unique<PipeDevice>(std::move(panel), path));
-    if (WaitForPipe(path) && WriteList()) return true;
+    auto device = std::make_shared<PipeDevice>(std::move(panel), path);
+    if (!WaitForPipe(path)) return false;
+    const std::lock_guard hold(lock_);
+    devices_.push_back(std::move(device));
+    if (WriteList()) return true;
     devices_.pop_back();
     return false;
 }
 
 void PipeBus::Unplug(const VirtualPanel& panel) {
+    const std::lock_guard hold(lock_);
     std::erase_if(devices_, [&](const auto& device) { return &device->Panel() == &panel; });
     WriteList();
 }
 
-void PipeBus::Send(const VirtualPanel& panel, const VirtualPanel::Report& report) {
-    if (PipeDevice* device = Find(panel)) device->Send(report);
+int PipeBus::Send(const VirtualPanel& panel, const VirtualPanel::Report& report) {
+    const auto device = Find(panel);
+    return device ? device->Send(report) : 0;
 }
 
 int PipeBus::Readers(const VirtualPanel& panel) {
-    PipeDevice* device = Find(panel);
+    const auto device = Find(panel);
     return device ? device->Readers() : 0;
+}
+
+void PipeBus::SetAnswerTime(const VirtualPanel& panel, std::chrono::milliseconds time) {
+    if (const auto device = Find(panel)) device->SetAnswerTime(time);
 }
 
 void PipeBus::Pause(uint32_t milliseconds) { ::Sleep(milliseconds); }
 
-PipeDevice* PipeBus::Find(const VirtualPanel& panel) const {
+std::shared_ptr<PipeDevice> PipeBus::Find(const VirtualPanel& panel) const {
+    const std::lock_guard hold(lock_);
     for (const auto& device : devices_) {
-        if (&device->Panel() == &panel) return device.get();
+        if (&device->Panel() == &panel) return device;
     }
     return nullptr;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <mutex>
 #include <string>
 #include <vector>
 
@@ -21,16 +22,18 @@ class PipeBus : public PanelBus {
 
     bool PlugIn(std::shared_ptr<VirtualPanel> panel) override;
     void Unplug(const VirtualPanel& panel) override;
-    void Send(const VirtualPanel& panel, const VirtualPanel::Report& report) override;
+    int Send(const VirtualPanel& panel, const VirtualPanel::Report& report) override;
     int Readers(const VirtualPanel& panel) override;
+    void SetAnswerTime(const VirtualPanel& panel, std::chrono::milliseconds time) override;
     void Pause(uint32_t milliseconds) override;
 
   private:
-    PipeDevice* Find(const VirtualPanel& panel) const;
+    std::shared_ptr<PipeDevice> Find(const VirtualPanel& panel) const;
     bool WriteList() const;
 
     std::string list_;
-    std::vector<std::unique_ptr<PipeDevice>> devices_;
+    mutable std::mutex lock_;  // of the list
+    std::vector<std::shared_ptr<PipeDevice>> devices_;
 };
 
 }  // namespace bench

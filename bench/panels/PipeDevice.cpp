@@ -1,5 +1,6 @@
 #include "bench/panels/PipeDevice.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace bench {
@@ -7,7 +8,9 @@ namespace bench {
 namespace {
 
 constexpr int kSeats = 8;
-constexpr DWORD kBuffer = 65536;
+constexpr DWORD kInput = 512 * sizeof(VirtualPanel::Report);
+constexpr DWORD kOutput = 4096;
+constexpr std::chrono::milliseconds kLook{50};
 constexpr size_t kLongestRequest = 256;
 
 struct Work : OVERLAPPED {
@@ -35,16 +38,19 @@ PipeDevice::~PipeDevice() {
     CloseHandle(stop_);
 }
 
-void PipeDevice::Send(const VirtualPanel::Report& report) {
+int PipeDevice::Send(const VirtualPanel::Report& report) {
     const std::lock_guard hold(lock_);
+    int refused = 0;
     for (const auto& seat : seats_) {
         if (!seat->reading) continue;
         Work work;
-        WriteFile(seat->pipe, report.data(), static_cast<DWORD>(report.size()), nullptr, &work);
-        CancelIoEx(seat->pipe, &work);
         DWORD count = 0;
-        GetOverlappedResult(seat->pipe, &work, &count, TRUE);
+        if (WriteFile(seat->pipe, report.data(), static_cast<DWORD>(report.size()), nullptr, &work))
+            continue;
+        if (GetLastError() == ERROR_IO_PENDING) CancelIoEx(seat->pipe, &work);
+        refused += GetOverlappedResult(seat->pipe, &work, &count, TRUE) ? 0 : 1;
     }
+    return refused;
 }
 
 int PipeDevice::Readers() {
@@ -59,7 +65,7 @@ void PipeDevice::Run(Seat& seat) {
         const HANDLE pipe =
             CreateNamedPipeA(path_.c_str(), PIPE_ACCESS_DUPLEX | FILE_FLAG_OVERLAPPED,
                              PIPE_TYPE_MESSAGE | PIPE_READMODE_MESSAGE | PIPE_WAIT,
-                             PIPE_UNLIMITED_INSTANCES, kBuffer, kBuffer, 0, nullptr);
+                             PIPE_UNLIMITED_INSTANCES, kInput, kOutput, 0, nullptr);
         if (pipe == INVALID_HANDLE_VALUE) return;
         seat.pipe = pipe;
         Work connecting;
@@ -83,6 +89,9 @@ void PipeDevice::Talk(Seat& seat) {
         if (!Finish(seat.pipe, reading, read, count) || count == 0) return;
         request.resize(count);
 
+        const bool isFeature = request[0] == 'F' || request[0] == 'G';
+        if (isFeature && !AwaitAnswerTime(seat.pipe)) return;
+
         // Under the lock, so that no report comes between a reader's request and its answer.
         const std::lock_guard hold(lock_);
         const std::vector<uint8_t> answer = Handle(seat, request);
@@ -90,6 +99,20 @@ void PipeDevice::Talk(Seat& seat) {
         const bool written = WriteFile(seat.pipe, answer.data(), static_cast<DWORD>(answer.size()),
                                        nullptr, &writing);
         if (!Finish(seat.pipe, writing, written, count)) return;
+    }
+}
+
+// False when the device is to go, or whoever asked is gone.
+bool PipeDevice::AwaitAnswerTime(HANDLE pipe) const {
+    using std::chrono::steady_clock;
+    const auto began = steady_clock::now();
+    for (;;) {
+        const auto rest = std::chrono::ceil<std::chrono::milliseconds>(began + answerTime_.load() -
+                                                                       steady_clock::now());
+        if (rest.count() <= 0) return true;
+        const auto wait = static_cast<DWORD>(std::min(rest, kLook).count());
+        if (WaitForSingleObject(stop_, wait) == WAIT_OBJECT_0) return false;
+        if (!PeekNamedPipe(pipe, nullptr, 0, nullptr, nullptr, nullptr)) return false;
     }
 }
 

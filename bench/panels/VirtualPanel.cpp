@@ -39,13 +39,13 @@ std::vector<uint8_t> VirtualPanel::Positions() const {
 void VirtualPanel::TakeFeature(std::span<const uint8_t> report) {
     const std::lock_guard hold(lock_);
     if (features_.size() == kLogLimit) features_.pop_front();
-    features_.emplace_back(report.begin(), report.end());
-    if (!report.empty() && report[0] == kind_.shownReport) shown_ = features_.back();
+    features_.push_back({std::chrono::steady_clock::now(), {report.begin(), report.end()}});
+    if (!report.empty() && report[0] == kind_.shownReport) shown_ = features_.back().report;
 }
 
-std::vector<std::string> VirtualPanel::TakeFeatures() {
+std::vector<VirtualPanel::Feature> VirtualPanel::TakeFeatures() {
     const std::lock_guard hold(lock_);
-    const std::deque<std::string> features = std::exchange(features_, {});
+    const std::deque<Feature> features = std::exchange(features_, {});
     return {features.begin(), features.end()};
 }
 

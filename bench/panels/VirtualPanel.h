@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <chrono>
 #include <cstdint>
 #include <deque>
 #include <mutex>
@@ -32,8 +33,12 @@ class VirtualPanel {
     std::vector<uint8_t> Positions() const;
 
     void TakeFeature(std::span<const uint8_t> report);
+    struct Feature {
+        std::chrono::steady_clock::time_point time;
+        std::string report;
+    };
     // All since the last call, the latest 10,000.
-    std::vector<std::string> TakeFeatures();
+    std::vector<Feature> TakeFeatures();
     // What a person sees; "untouched" before the first feature report that shows anything.
     std::string Show() const;
 
@@ -42,7 +47,7 @@ class VirtualPanel {
     const int number_;
     mutable std::mutex lock_;
     uint32_t state_;
-    std::deque<std::string> features_;
+    std::deque<Feature> features_;
     std::string shown_;  // the latest of them that can be seen
 };
 

@@ -43,6 +43,15 @@ constexpr struct {
     {0x3103, 0x2E80},  // avionics
 };
 
+// What is on in every other variation: the autopilot's lights, and switches and warnings on tiles.
+// Of the markers there is never more than one.
+constexpr struct {
+    uint32_t offset;
+    uint8_t on;
+} kVaried[] = {{0x07BC, 1}, {0x07C8, 1}, {0x07C4, 1},    {0x07DC, 1},    {0x07D0, 1},   {0x07EC, 1},
+               {0x0800, 1}, {0x0804, 1}, {0x3366, 0x03}, {0x3367, 0x0F}, {0x341F, 1},   {0x036C, 1},
+               {0x029C, 1}, {0x0BC8, 1}, {0x0BB0, 1},    {0x0D0C, 0xFF}, {0x3122, 0xFF}};
+
 // What the aircraft begins with; frequencies and codes have four BCD digits.
 constexpr struct {
     uint32_t offset;
@@ -122,12 +131,35 @@ void AircraftModel::MoveTo(uint32_t milliseconds) {
     }
 }
 
+void AircraftModel::Vary() {
+    const bool on = ++variation_ % 2 != 0;
+    for (const auto& varied : kVaried) space_.Set<uint8_t>(varied.offset, on ? varied.on : 0);
+    space_.Set<int32_t>(kGearHandle, on ? 0 : kGearDown);
+    gear_ = on ? 0 : kGearDown;
+    MoveTo(lastMove_);
+    const auto feet = static_cast<int32_t>(1000 + variation_ % 300 * 100);
+    space_.Set<int32_t>(0x07D4, RoundTo<int32_t>(feet / 3.28084 * 65536));
+    space_.Set<int16_t>(0x07F2, static_cast<int16_t>(variation_ % 50 * 100));
+    // Two digits of BCD that are never the same twice in a row.
+    const auto digits = static_cast<uint16_t>(variation_ % 10 << 4 | (on ? 5 : 0));
+    for (const Radio& radio : kRadios) {
+        space_.Set<uint16_t>(radio.active, static_cast<uint16_t>(0x1000 | digits));
+        space_.Set<uint16_t>(radio.standby, static_cast<uint16_t>(0x1200 | digits));
+    }
+}
+
+uint64_t AircraftModel::WritesTo(uint32_t offset) const {
+    const auto found = writesTo_.find(offset);
+    return found == writesTo_.end() ? 0 : found->second;
+}
+
 std::vector<AircraftModel::Write> AircraftModel::TakeWrites() { return TakeAll(writes_); }
 
 std::vector<AircraftModel::Control> AircraftModel::TakeControls() { return TakeAll(controls_); }
 
 void AircraftModel::TakeWrite(uint32_t offset, std::span<const uint8_t> bytes) {
     Append(writes_, {offset, {bytes.begin(), bytes.end()}});
+    ++writesTo_[offset];
     if (offset == kControl && bytes.size() == kControlSize) {
         Append(controls_, {static_cast<int32_t>(LoadLE32(&bytes[0])),
                            static_cast<int32_t>(LoadLE32(&bytes[4]))});

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <deque>
+#include <map>
 #include <span>
 #include <string>
 #include <string_view>
@@ -33,6 +34,12 @@ class AircraftModel {
     // Moves the gear to where it is at this moment, in milliseconds that may wrap.
     void MoveTo(uint32_t milliseconds);
 
+    // The next of two states in which all that panels show without a profile differs, and most of
+    // their tiles; altitude, speed and frequencies are others each time.
+    void Vary();
+
+    // How often clients have written to just this offset.
+    uint64_t WritesTo(uint32_t offset) const;
     // What came since the last call, the latest 10,000.
     std::vector<Write> TakeWrites();
     std::vector<Control> TakeControls();
@@ -45,6 +52,8 @@ class AircraftModel {
     ScopedConnection written_;
     uint32_t lastMove_ = 0;
     double gear_ = 0;
+    uint32_t variation_ = 0;
+    std::map<uint32_t, uint64_t> writesTo_;
     std::deque<Write> writes_;
     std::deque<Control> controls_;
 };

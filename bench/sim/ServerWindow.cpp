@@ -100,14 +100,21 @@ LRESULT ServerWindow::Serve(WPARAM wParam) {
     const HANDLE mapping = OpenFileMappingA(FILE_MAP_WRITE, FALSE, name);
     if (!mapping) return 0;
     void* view = MapViewOfFile(mapping, FILE_MAP_WRITE, 0, 0, kBlockSize);
+    // A client that comes back needs the name, so nothing is kept for longer than need be.
+    const auto close = [view, mapping] {
+        if (view) UnmapViewOfFile(view);
+        CloseHandle(mapping);
+    };
     LRESULT reply = 0;
+    bool scribbles = false;
     if (view) {
+        const std::span block(static_cast<uint8_t*>(view), kBlockSize);
         state_.Aircraft().MoveTo(GetTickCount());
-        reply =
-            static_cast<LRESULT>(state_.Serve(std::span(static_cast<uint8_t*>(view), kBlockSize)));
-        UnmapViewOfFile(view);
+        reply = static_cast<LRESULT>(state_.Serve(block));
+        scribbles = state_.GetFault() == SimState::Fault::Scribble;
+        if (scribbles) scribbler_ = std::make_unique<Scribbler>(block, close);
     }
-    CloseHandle(mapping);
+    if (!scribbles) close();
     return reply;
 }
 

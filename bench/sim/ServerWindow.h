@@ -3,9 +3,11 @@
 #include <windows.h>
 
 #include <condition_variable>
+#include <memory>
 #include <mutex>
 #include <string>
 
+#include "bench/sim/Lies.h"
 #include "bench/sim/SimState.h"
 
 namespace bench {
@@ -43,6 +45,7 @@ class ServerWindow {
     std::condition_variable silenceEnded_;
     std::condition_variable up_;
     bool stopping_ = false;
+    std::unique_ptr<Scribbler> scribbler_;  // the last one
 };
 
 }  // namespace bench

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <optional>
 #include <vector>
 
 #include "base/Number.h"
@@ -14,6 +15,25 @@ constexpr int64_t kLastOffset = OffsetServer::kSpaceSize - 1;
 
 bool IsNumberSize(int64_t size) { return size == 1 || size == 2 || size == 4; }
 
+std::optional<SimState::Fault> FaultNamed(const std::string& name) {
+    using Fault = SimState::Fault;
+    constexpr struct {
+        const char* name;
+        Fault fault;
+    } kFaults[] = {{"silent", Fault::Silent},   {"zeros", Fault::Zeros},
+                   {"garbage", Fault::Garbage}, {"counts", Fault::Counts},
+                   {"tokens", Fault::Tokens},   {"scribble", Fault::Scribble}};
+    for (const auto& each : kFaults) {
+        if (name == each.name) return each.fault;
+    }
+    return std::nullopt;
+}
+
+std::string Milliseconds(SimState::Time time) {
+    return FormatPlain(std::chrono::duration<double, std::milli>(time.time_since_epoch()).count(),
+                       3);
+}
+
 }  // namespace
 
 std::string SimConsole::Answer(const Command& command) {
@@ -23,6 +43,11 @@ std::string SimConsole::Answer(const Command& command) {
     if (command.name == "controls") return Controls();
     if (command.name == "batches") return std::to_string(state_.Batches());
     if (command.name == "pace") return Pace(command);
+    if (command.name == "reads") return Reads();
+    if (command.name == "ticks") return Ticks();
+    if (command.name == "vary") return Vary(command);
+    if (command.name == "varied") return Varied();
+    if (command.name == "written") return Written(command);
     if (command.name == "client") return "0x" + HexText(state_.Space().ClientVersion(), 4);
     if (command.name == "version") return Version(command);
     if (command.name == "reply") return Reply(command);
@@ -30,14 +55,10 @@ std::string SimConsole::Answer(const Command& command) {
     if (command.name == "show") return Show(true);
     if (command.name == "title") {
         state_.Aircraft().SetTitle(command.Argument(0));
-    } else if (command.name == "silent") {
-        state_.SetFault(SimState::Fault::Silent);
-    } else if (command.name == "zeros") {
-        state_.SetFault(SimState::Fault::Zeros);
-    } else if (command.name == "garbage") {
-        state_.SetFault(SimState::Fault::Garbage);
     } else if (command.name == "normal") {
         state_.BeNormal();
+    } else if (const auto fault = FaultNamed(command.name)) {
+        state_.SetFault(*fault);
     } else {
         return "error: unknown command '" + command.name + "'";
     }
@@ -96,6 +117,41 @@ std::string SimConsole::Reply(const Command& command) {
     if (!reply) return "error: reply NUMBER";
     state_.SetReply(static_cast<uint32_t>(*reply));
     return "ok";
+}
+
+std::string SimConsole::Reads() const {
+    std::string text;
+    for (const SimState::Read& read : state_.Reads()) {
+        if (!text.empty()) text += ' ';
+        text += HexText(read.offset, 4) + ':' + std::to_string(read.size);
+    }
+    return text.empty() ? "none" : text;
+}
+
+std::string SimConsole::Ticks() {
+    std::string text;
+    for (const SimState::Time& time : state_.TakeTicks()) {
+        if (!text.empty()) text += ' ';
+        text += Milliseconds(time);
+    }
+    return text.empty() ? "none" : text;
+}
+
+std::string SimConsole::Vary(const Command& command) {
+    const auto every = ParseNumber(command.Argument(0), 0, 1000);
+    if (!every) return "error: vary TICKS, 0 for never";
+    state_.VaryEvery(static_cast<uint32_t>(*every));
+    return "ok";
+}
+
+std::string SimConsole::Varied() const {
+    return std::to_string(state_.Variations()) + " at " + Milliseconds(state_.LastVariation());
+}
+
+std::string SimConsole::Written(const Command& command) const {
+    const auto offset = ParseNumber(command.Argument(0), 0, kLastOffset);
+    if (!offset) return "error: written OFFSET";
+    return std::to_string(state_.Aircraft().WritesTo(static_cast<uint32_t>(*offset)));
 }
 
 std::string SimConsole::Show(bool visible) {

@@ -24,6 +24,11 @@ class SimConsole {
     std::string Version(const Command& command);
     std::string Pace(const Command& command);
     std::string Reply(const Command& command);
+    std::string Reads() const;
+    std::string Ticks();
+    std::string Vary(const Command& command);
+    std::string Varied() const;
+    std::string Written(const Command& command) const;
     std::string Show(bool visible);
     std::string Writes();
     std::string Controls();

@@ -17,45 +17,31 @@ extern "C" {
 #include <span>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace {
 
-constexpr DWORD kAnswerTimeMs = 2000;
-constexpr size_t kLongestAnswer = 256;
+using Message = std::array<uint8_t, 256>;
 
-// The handle may be one for overlapped work or not.
+// The handle may be one for overlapped work or not. Waits as long as it takes.
 bool Complete(HANDLE device, OVERLAPPED& work, BOOL done, DWORD& count) {
     if (!done && GetLastError() != ERROR_IO_PENDING) return false;
-    if (WaitForSingleObject(work.hEvent, kAnswerTimeMs) != WAIT_OBJECT_0) {
-        CancelIoEx(device, &work);
-        GetOverlappedResult(device, &work, &count, TRUE);
-        SetLastError(ERROR_SEM_TIMEOUT);
-        return false;
-    }
-    return GetOverlappedResult(device, &work, &count, FALSE) != 0;
+    return GetOverlappedResult(device, &work, &count, TRUE) != 0;
 }
 
-// Gives what stands behind the 'K', or false.
-bool Ask(HANDLE device, std::span<const uint8_t> request, std::vector<uint8_t>& answer) {
+// Gives the answer if it begins with 'K', else nothing.
+std::span<const uint8_t> Ask(HANDLE device, std::span<const uint8_t> request, Message& answer) {
     OVERLAPPED work{};
     work.hEvent = CreateEventA(nullptr, TRUE, FALSE, nullptr);
     DWORD count = 0;
     BOOL done =
         WriteFile(device, request.data(), static_cast<DWORD>(request.size()), nullptr, &work);
     bool well = Complete(device, work, done, count);
-    answer.resize(kLongestAnswer);
     if (well) {
-        ResetEvent(work.hEvent);
-        done = ReadFile(device, answer.data(), kLongestAnswer, nullptr, &work);
+        done = ReadFile(device, answer.data(), static_cast<DWORD>(answer.size()), nullptr, &work);
         well = Complete(device, work, done, count) && count > 0 && answer[0] == 'K';
     }
-    if (well) {
-        answer.resize(count);
-        answer.erase(answer.begin());
-    }
     CloseHandle(work.hEvent);
-    return well;
+    return well ? std::span<const uint8_t>(answer).first(count) : std::span<const uint8_t>();
 }
 
 // The four hexadecimal digits behind `mark` in the device's name.
@@ -95,18 +81,19 @@ BOOLEAN WINAPI HidD_GetAttributes(HANDLE device, PHIDD_ATTRIBUTES attributes) {
 }
 
 BOOLEAN WINAPI HidD_SetFeature(HANDLE device, PVOID report, ULONG length) {
-    const auto* bytes = static_cast<const uint8_t*>(report);
-    std::vector<uint8_t> request{'F'};
-    request.insert(request.end(), bytes, bytes + length);
-    std::vector<uint8_t> answer;
-    return Ask(device, request, answer);
+    Message request, answer;
+    if (length >= request.size()) return FALSE;
+    request[0] = 'F';
+    std::memcpy(&request[1], report, length);
+    return !Ask(device, std::span(request).first(length + 1), answer).empty();
 }
 
 BOOLEAN WINAPI HidD_GetFeature(HANDLE device, PVOID report, ULONG length) {
     const uint8_t request[] = {'G'};
-    std::vector<uint8_t> answer;
-    if (!Ask(device, request, answer)) return FALSE;
-    std::memcpy(report, answer.data(), std::min<size_t>(length, answer.size()));
+    Message answer;
+    const auto positions = Ask(device, request, answer);
+    if (positions.empty()) return FALSE;
+    std::memcpy(report, positions.data() + 1, std::min<size_t>(length, positions.size() - 1));
     return TRUE;
 }
 
@@ -115,8 +102,8 @@ BOOLEAN WINAPI HidD_SetNumInputBuffers(HANDLE device, ULONG) {
     DWORD mode = PIPE_READMODE_MESSAGE;
     if (!SetNamedPipeHandleState(device, &mode, nullptr, nullptr)) return FALSE;
     const uint8_t request[] = {'S'};
-    std::vector<uint8_t> answer;
-    return Ask(device, request, answer);
+    Message answer;
+    return !Ask(device, request, answer).empty();
 }
 
 }  // extern "C"
