@@ -12,12 +12,13 @@ target_include_directories(orvo_settings INTERFACE "${CMAKE_SOURCE_DIR}/src")
 
 if(ORVO_SANITIZE)
     target_compile_options(orvo_settings INTERFACE
-        -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+        -O1 -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
     target_link_options(orvo_settings INTERFACE -fsanitize=address,undefined)
 endif()
 if(ORVO_FUZZ)
     target_compile_options(orvo_settings INTERFACE
-        -fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=all)
+        -fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=all
+        "-fsanitize-coverage-ignorelist=${CMAKE_SOURCE_DIR}/bench/fuzz/around.txt")
     target_link_options(orvo_settings INTERFACE -fsanitize=address,undefined)
 endif()
 if(WIN32)

@@ -1,22 +1,17 @@
-// Panels that report anything, at any moment.
+// Panels that report anything, at any moment, through device objects and logics of all kinds: the
+// events are those of the reports, the displays show digits, and nothing stays pressed in the
+// simulator.
 #include <algorithm>
-#include <cstdlib>
 
-#include "panels/multi/ctlMultiPanel.h"
-#include "panels/radio/ctlRadioPanel.h"
-#include "panels/switch/ctlSwitchPanel.h"
-#include "platform/virtual/VirtualPlatform.h"
-#include "toolkit/Form.h"
-#include "toolkit/HeadlessUi.h"
+#include "bench/fuzz/FuzzCockpit.h"
+#include "bench/virtual/ButtonsWatch.h"
 
 namespace {
 
-void TakeStep(int16_t speed) {
-    if (speed != 1 && speed != 5 && speed != 10 && speed != 20) std::abort();
-}
+void TakeStep(int16_t speed) { Require(speed == 1 || speed == 5 || speed == 10 || speed == 20); }
 
 void TakeRadioStep(int32_t rotary, int16_t speed) {
-    if (rotary < 0 || rotary > 3) std::abort();
+    Require(rotary >= 0 && rotary <= 3);
     TakeStep(speed);
 }
 
@@ -38,45 +33,49 @@ struct SwitchCheck {
     }
 
   private:
-    static void Require(bool holds) {
-        if (!holds) std::abort();
-    }
-
     int32_t word_ = 0;
     int32_t selector_ = 0;
 };
 
+void Report(VirtualDevice& device, const uint8_t* bytes, bool whole) {
+    if (whole) {
+        device.SendReport({0, bytes[0], bytes[1], bytes[2]});
+    } else {
+        device.SendReport({bytes[0], bytes[1]});
+    }
+}
+
+// What was begun ends: clicks that wait, and presses.
+void Settle(FuzzCockpit& cockpit, const ButtonsWatch& buttons) {
+    const auto settled = [&] { return cockpit.program->Session.Acts.Empty() && buttons.AllHeld(); };
+    for (int i = 0; i < 3000 && !settled(); ++i) cockpit.Tick();
+    Require(settled());
+}
+
+// Milliseconds: shorter than a tick or a few of them, or as long as a long press takes.
+uint32_t Pause(uint8_t byte) { return byte < 240 ? byte % 24 : 300; }
+
 }  // namespace
 
+// The mode, then five bytes for each report: pause, panel, and the word.
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
-    VirtualPlatform machine;
-    HeadlessUi ui;
-    Form form(ui);
-    const cSetupHolder setup(machine.ini, machine.files, machine.clock, machine.registry,
-                             "C:\\Orvo");
-    const DeviceServices services = {machine.clock, machine.loop, machine.hid, machine.deckhub,
-                                     setup};
-    VirtualDevice* devices[] = {&machine.bus.Add(0x06A3, 0x0D06, "multi"),
-                                &machine.bus.Add(0x06A3, 0x0D05, "radio"),
-                                &machine.bus.Add(0x06A3, 0x0D67, "switch")};
-    ctlMultiPanel multi(form, services);
-    ctlRadioPanel radio(form, services);
-    ctlSwitchPanel switches(form, services);
-    const SwitchCheck check(switches);
-    for (auto* event : {&multi.RotaryUp, &multi.RotaryDown}) event->Connect(TakeStep);
-    for (auto* event : {&radio.RotaryUp, &radio.RotaryDown}) event->Connect(TakeRadioStep);
-    multi.Connect("multi");
-    radio.Connect("radio");
-    switches.Connect("switch");
-    for (size_t i = 0; i + 4 < size && i < 4000; i += 5) {
-        for (VirtualDevice* device : devices) {
-            if (data[i] % 8 == 0) {
-                device->SendReport({data[i + 1], data[i + 2]});
-            } else {
-                device->SendReport({data[i + 1], data[i + 2], data[i + 3], data[i + 4]});
-            }
-        }
-        machine.loop.Advance(data[i]);
+    if (size == 0) return 0;
+    FuzzCockpit cockpit(data[0]);
+    const SwitchCheck check(cockpit.Switch());
+    for (auto* event : {&cockpit.Multi().RotaryUp, &cockpit.Multi().RotaryDown}) {
+        event->Connect(TakeStep);
     }
+    for (auto* event : {&cockpit.Radio().RotaryUp, &cockpit.Radio().RotaryDown}) {
+        event->Connect(TakeRadioStep);
+    }
+    const ButtonsWatch buttons(cockpit);
+    cockpit.Connect();
+    for (size_t i = 1; i + 4 < size; i += 5) {
+        const size_t panel = data[i + 1] % cockpit.devices.size();
+        Report(*cockpit.devices[panel], &data[i + 2], data[i + 1] < 240);
+        cockpit.machine.loop.Advance(Pause(data[i]));
+    }
+    Settle(cockpit, buttons);
+    cockpit.RequireRightReports();
     return 0;
 }

@@ -45,6 +45,10 @@ struct VirtualCockpit {
     // Splash is off, for the tests that don't look at it.
     bool Start(const std::string& options = "Splash=0\r\n") {
         PutOptions(options);
+        return StartWithFiles();
+    }
+    // With the files as they are.
+    bool StartWithFiles() {
         program = std::make_unique<modMain>(machine.Ports(), ui);
         return program->Main();
     }
