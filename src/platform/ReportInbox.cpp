@@ -1,12 +1,8 @@
 #include "platform/ReportInbox.h"
 
-#include <chrono>
-
 namespace {
 
-// Of one turn, whichever comes first: a report may cost exchanges with the simulator.
 constexpr int kReportsPerTurn = 8;
-constexpr std::chrono::milliseconds kTimePerTurn{2};
 constexpr size_t kMostWaiting = 65'536;
 
 }  // namespace
@@ -37,9 +33,8 @@ void ReportInbox::TakeTurn() {
         const std::lock_guard lock(mutex_);
         called_ = false;
     }
-    using std::chrono::steady_clock;
-    const auto end = steady_clock::now() + kTimePerTurn;
-    for (int i = 0; i < kReportsPerTurn && steady_clock::now() < end && TakeNext(); ++i) {
+    const auto end = SteadyClock::now() + turn_;
+    for (int i = 0; i < kReportsPerTurn && SteadyClock::now() < end && TakeNext(); ++i) {
     }
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <chrono>
 #include <cstdint>
 #include <deque>
 #include <functional>
@@ -18,9 +19,14 @@ class ReportInbox : public std::enable_shared_from_this<ReportInbox> {
         uint32_t clock;  // at which the reader had it
     };
 
-    // `take` is called on the loop's thread. To be made by make_shared.
-    ReportInbox(MessageLoop& loop, std::function<void(const Report&)> take)
-        : loop_(loop), take_(std::move(take)) {}
+    using SteadyClock = std::chrono::steady_clock;
+    static constexpr SteadyClock::duration kNoLimit = std::chrono::hours(1);
+
+    // `take` is called on the loop's thread. No report is begun after so much of a turn: one may
+    // cost exchanges with the simulator. To be made by make_shared.
+    ReportInbox(MessageLoop& loop, std::function<void(const Report&)> take,
+                SteadyClock::duration turn)
+        : loop_(loop), take_(std::move(take)), turn_(turn) {}
 
     // Any thread may call it. So many wait at most that no pulse is lost in minutes; beyond that
     // the latest takes the place of the one before, so that the panel's state stays true.
@@ -36,6 +42,7 @@ class ReportInbox : public std::enable_shared_from_this<ReportInbox> {
 
     MessageLoop& loop_;
     std::function<void(const Report&)> take_;
+    const SteadyClock::duration turn_;
     std::mutex mutex_;
     std::deque<Report> waiting_;
     bool called_ = false;  // a turn of the loop is to come

@@ -79,9 +79,7 @@ TEST_F(FloodTest, ReportsLeaveRoomForOthersAndNoneIsLost) {
     Send(1, 20);
     machine.loop.Post([this] { seen += "tick "; });
     machine.loop.Advance(0);
-    const size_t tick = seen.find("tick ");
-    EXPECT_LE(tick, std::string("1 2 3 4 5 6 7 8 ").size()) << seen;
-    EXPECT_EQ(seen.erase(tick, 5), "1 2 3 4 5 6 7 8 9 10 11 12 13 14 15 16 17 18 19 20 ");
+    EXPECT_EQ(seen, "1 2 3 4 5 6 7 8 tick 9 10 11 12 13 14 15 16 17 18 19 20 ");
 }
 
 TEST_F(FloodTest, WhatAReportOpensLetsTheNextOnesIn) {

@@ -14,11 +14,14 @@ VirtualLink::~VirtualLink() { VirtualLink::StopReading(); }
 
 void VirtualLink::StartReading() {
     StopReading();
-    inbox_ = std::make_shared<ReportInbox>(loop_, [this](const ReportInbox::Report& report) {
-        ReportClock = report.clock;
-        const auto& [b0, b1, b2, b3] = report.bytes;
-        RawInput.Raise(b0, b1, b2, b3);
-    });
+    inbox_ = std::make_shared<ReportInbox>(
+        loop_,
+        [this](const ReportInbox::Report& report) {
+            ReportClock = report.clock;
+            const auto& [b0, b1, b2, b3] = report.bytes;
+            RawInput.Raise(b0, b1, b2, b3);
+        },
+        ReportInbox::kNoLimit);
     ++*reading_;
     starts_->push_back({DeviceAddress, ReadWait, Priority, Affinity});
     VirtualDevice* device = bus_.Find(DeviceAddress);

@@ -9,6 +9,8 @@
 namespace {
 
 constexpr size_t kReportSize = 4;
+// So much of a turn of the loop for one panel: four of them leave the tick its 10 ms.
+constexpr std::chrono::milliseconds kTurn{2};
 
 // So many that a busy moment drops no pulse of a knob.
 constexpr ULONG kInputBuffers = 512;
@@ -35,11 +37,14 @@ void Win32PanelLink::StartReading() {
     if (!device) return;
     if (hid_->setNumInputBuffers) hid_->setNumInputBuffers(device.Get(), kInputBuffers);
 
-    inbox_ = std::make_shared<ReportInbox>(loop_, [this](const ReportInbox::Report& report) {
-        ReportClock = report.clock;
-        const auto& [b0, b1, b2, b3] = report.bytes;
-        RawInput.Raise(b0, b1, b2, b3);
-    });
+    inbox_ = std::make_shared<ReportInbox>(
+        loop_,
+        [this](const ReportInbox::Report& report) {
+            ReportClock = report.clock;
+            const auto& [b0, b1, b2, b3] = report.bytes;
+            RawInput.Raise(b0, b1, b2, b3);
+        },
+        kTurn);
     const auto received = [inbox = inbox_](std::span<const uint8_t> bytes) {
         // The system hands over as many whole reports as fit; what is no multiple of their size is
         // one longer report.
